@@ -1,0 +1,130 @@
+// torvena-stand DIR [--no-panel]
+#include "lines.h"
+#include "panel.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <memory>
+#include <optional>
+#include <unistd.h>
+
+namespace {
+
+int signalPipe[2];
+
+void say(const std::string &text) {
+    std::fputs(text.c_str(), stdout);
+    std::fflush(stdout);
+}
+
+/// The ordinary way out removes the links, so a signal must take it too.
+std::unique_ptr<QSocketNotifier> quitOnSignals() {
+    if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0)
+        return nullptr;
+    struct sigaction action = {};
+    action.sa_handler = [](int) {
+        [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], "", 1);
+    };
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        ::sigaction(number, &action, nullptr);
+    std::signal(SIGPIPE, SIG_IGN);
+    auto notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
+    QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
+                     [] { QCoreApplication::quit(); });
+    return notifier;
+}
+
+/// Answers commands until the input ends, which does not end the stand.
+std::unique_ptr<QSocketNotifier> commandChannel(simulator::Lines &lines) {
+    const simulator::Host host{[&lines](simulator::Line line, bool connected) {
+                                   return lines.plug(line, connected).toStdString();
+                               },
+                               [] { QCoreApplication::quit(); }};
+    auto notifier = std::make_unique<QSocketNotifier>(STDIN_FILENO, QSocketNotifier::Read);
+    QSocketNotifier *channel = notifier.get();
+    const auto pending = std::make_shared<std::string>();
+    QObject::connect(channel, &QSocketNotifier::activated, channel,
+                     [&lines, host, channel, pending] {
+                         constexpr std::size_t LongestLine = 4096;
+                         char bytes[512];
+                         const ssize_t count = ::read(STDIN_FILENO, bytes, sizeof bytes);
+                         if (count <= 0) {
+                             channel->setEnabled(count < 0 && (errno == EAGAIN || errno == EINTR));
+                             return;
+                         }
+                         pending->append(bytes, static_cast<std::size_t>(count));
+                         for (std::size_t end; (end = pending->find('\n')) != pending->npos;) {
+                             lines.with([&](simulator::Stand &stand) {
+                                 say(runCommand(pending->substr(0, end), stand, host));
+                             });
+                             pending->erase(0, end + 1);
+                         }
+                         if (pending->size() > LongestLine)
+                             pending->clear();
+                     });
+    return notifier;
+}
+
+bool hasArgument(int argc, char **argv, const char *wanted) {
+    for (int i = 1; i < argc; ++i)
+        if (std::strcmp(argv[i], wanted) == 0)
+            return true;
+    return false;
+}
+
+int run(const QCoreApplication &application, bool panel) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        "The simulated stand: controller and ergometer as COM1 and COM4 in a directory. Takes "
+        "commands on standard input, try help.");
+    parser.addHelpOption();
+    parser.addOption({"no-panel", "Runs without a window."});
+    parser.addPositionalArgument("DIR", "Where to link the two lines.");
+    parser.process(application);
+    const QStringList arguments = parser.positionalArguments();
+    if (arguments.size() != 1 || !QFileInfo(arguments[0]).isDir()) {
+        std::fputs("torvena-stand: one directory is wanted, see --help\n", stderr);
+        return 2;
+    }
+
+    simulator::Lines lines(arguments[0]);
+    for (const auto line : {simulator::Line::Controller, simulator::Line::Ergometer}) {
+        if (const QString failure = lines.plug(line, true); !failure.isEmpty()) {
+            std::fprintf(stderr, "torvena-stand: %s\n", qPrintable(failure));
+            return 1;
+        }
+    }
+    const auto signalNotifier = quitOnSignals();
+    const auto channel = commandChannel(lines);
+    std::optional<simulator::Panel> front;
+    if (panel)
+        front.emplace(lines).show();
+    say("ready\n");
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    // Descriptors that were closed at the start would be given to the lines.
+    for (int descriptor = 0; descriptor >= 0 && descriptor <= STDERR_FILENO;) {
+        descriptor = ::open("/dev/null", O_RDWR);
+        if (descriptor > STDERR_FILENO)
+            ::close(descriptor);
+    }
+    const bool panel = !hasArgument(argc, argv, "--no-panel") && !hasArgument(argc, argv, "--help");
+    if (panel) {
+        const QApplication application(argc, argv);
+        return run(application, true);
+    }
+    const QCoreApplication application(argc, argv);
+    return run(application, false);
+}

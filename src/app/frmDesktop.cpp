@@ -1,0 +1,357 @@
+#include "frmDesktop.h"
+
+#include <QCoreApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QUrl>
+
+#include "auswahl.h"
+#include "controller.h"
+#include "database.h"
+#include "einlauf.h"
+#include "fehler.h"
+#include "interface.h"
+#include "msgbox.h"
+#include "normal.h"
+#include "runtime.h"
+#include "session.h"
+#include "sprache.h"
+#include "sqltext.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"mnuDatei", "&Program"},
+    {"mnuStammdaten", "&Master Data"},
+    {"mnuMessung", "Me&asurement"},
+    {"mnuProtokolle", "P&rotocols"},
+    {"mnuSprache", "&Language"},
+    {"mnuHilfe", "&Help"},
+    {"mnuKunden", "&Customers"},
+    {"mnuGerät", "&Unit"},
+    {"mnuRezept", "&Choose Recipe"},
+    {"mnuRezepte", "&Recipes"},
+    {"mnuStartMessen", "&Start Measuring"},
+    {"mnuProtokoll", "&Print Protocol"},
+    {"mnuProtVerw", "Protocol &Administration"},
+    {"mnuToleranzen", "&Specifications"},
+    {"mnuRoute", "Recall &List"},
+    {"mnuUpdate", "&Update Database"},
+    {"mnuPDF", "&PDF Printer"},
+    {"mnuSSParameter", "&Interface"},
+    {"mnuEinlaufen", "&Running-in Parameters"},
+    {"mnuKalibrierung", "&Lever Arm Calibration"},
+    {"mnuBeenden", "&Exit"},
+    {"mnuDeutsch", "&German"},
+    {"mnuEnglisch", "&English"},
+    {"mnuHelp", "&Help"},
+    {"FrAuswahl", "Selection"},
+    {"lbPrüfer", "Inspector:"},
+    {"lbDatum", "Date:"},
+    {"lbKunde", "Customer:"},
+    {"lbGerät", "Unit:"},
+    {"lbGerätID", "Ident no.:"},
+    {"lbRezept", "Recipe:"},
+    {"lbRezName", "Specification:"},
+    {"lbNormal", "Standard:"},
+    {"lbKalDat", "calibrated until:"},
+    {"pbKunde", "&Customer"},
+    {"pbGerät", "&Unit"},
+    {"pbRezept", "Rec&ipe"},
+    {"FrMotor", "Motor"},
+    {"lbDrehrichtungText", "Direction of rotation:"},
+    {"lbEinlaufText", "Running-in time left:"},
+    {"pbDrehR", "&Direction"},
+    {"pbMotein", "Motor O&N"},
+    {"pbMotaus", "Motor O&FF"},
+    {"FrMessen", "Measuring and Protocols"},
+    {"pbMessen", "&Start Measuring"},
+    {"pbProtokoll", "Pr&otocol"},
+    {"pbBlutdruck", "&Blood Pressure"},
+    {"pbSecControl", "Safet&y (EST)"},
+    {"pbReset", "Rese&t"},
+    {"pbEndprüf", "Final T&est"},
+    {"pbBeenden", "E&xit"},
+};
+
+constexpr auto helpFile = "hilfe.html";
+
+} // namespace
+
+frmDesktop::frmDesktop()
+    : mSeriennummer([this](const QString &text) { showMotorInfo(text); },
+                    [this] { normalUndHebelarmZeigen(); }) {
+    ui.setupUi(this);
+    verdrahten();
+    enterFront(*this);
+    setAuswahlListener([this] { auswahlZeigen(); });
+}
+
+frmDesktop::~frmDesktop() {
+    setAuswahlListener({});
+    leaveFront(*this);
+}
+
+// A button and a menu entry for the same; both stay disabled while the screen they lead to does not
+// exist yet.
+void frmDesktop::öffnet(QPushButton *button, QAction *action, frm ziel,
+                        void (frmDesktop::*weg)()) {
+    const auto öffnen = [this, ziel, weg] {
+        if (weg)
+            (this->*weg)();
+        else
+            ::screen(ziel).showModal();
+    };
+    if (button) {
+        onClick(button, öffnen);
+        button->setEnabled(button->isEnabled() && exists(ziel));
+    }
+    if (action) {
+        on(action, &QAction::triggered, öffnen);
+        action->setEnabled(action->isEnabled() && exists(ziel));
+    }
+}
+
+void frmDesktop::verdrahten() {
+    öffnet(ui.pbKunde, ui.mnuKunden, frm::Kunden, nullptr);
+    öffnet(ui.pbGerät, ui.mnuGerät, frm::Gerät, &frmDesktop::mnuGerät_Click);
+    öffnet(ui.pbRezept, ui.mnuRezept, frm::Rezepte, &frmDesktop::mnuRezept_Click);
+    öffnet(nullptr, ui.mnuRezepte, frm::NeuRezept, &frmDesktop::mnuRezepte_Click);
+    öffnet(ui.pbMessen, ui.mnuStartMessen, frm::StatMessen, &frmDesktop::pbMessen_Click);
+    öffnet(ui.pbProtokoll, ui.mnuProtokoll, frm::Bericht, nullptr);
+    öffnet(nullptr, ui.mnuProtVerw, frm::Bericht1, nullptr);
+    öffnet(nullptr, ui.mnuToleranzen, frm::Toleranzen, nullptr);
+    öffnet(nullptr, ui.mnuRoute, frm::Sort, nullptr);
+    öffnet(nullptr, ui.mnuUpdate, frm::Refresh, nullptr);
+    öffnet(nullptr, ui.mnuPDF, frm::PrinterPDF, nullptr);
+    öffnet(nullptr, ui.mnuSSParameter, frm::Interface, nullptr);
+    öffnet(nullptr, ui.mnuEinlaufen, frm::Einlaufen, nullptr);
+    öffnet(nullptr, ui.mnuKalibrierung, frm::Kalibrierung, &frmDesktop::mnuKalibrierung_Click);
+    öffnet(ui.pbDrehR, nullptr, frm::MotorDrehR, nullptr);
+    öffnet(ui.pbBlutdruck, nullptr, frm::Blutdruck, nullptr);
+    öffnet(ui.pbSecControl, nullptr, frm::SecControl, nullptr);
+    öffnet(ui.pbEndprüf, nullptr, frm::Endprüf, nullptr);
+    onClick(ui.pbMotein, [this] { pbMotein_Click(); });
+    onClick(ui.pbMotaus, [this] { pbMotaus_Click(); });
+    onClick(ui.pbReset, [this] { pbReset_Click(); });
+    onClick(ui.pbBeenden, [this] { unload(); });
+    on(ui.mnuBeenden, &QAction::triggered, [this] { unload(); });
+    on(ui.mnuDeutsch, &QAction::triggered, [this] { spracheSetzen(1); });
+    on(ui.mnuEnglisch, &QAction::triggered, [this] { spracheSetzen(2); });
+    on(ui.mnuHelp, &QAction::triggered, [this] { mnuHelp_Click(); });
+}
+
+void frmDesktop::Form_Load() try {
+    const InterfaceZeile leitung = interfaceLesen();
+    MSComm1.setCommPort(leitung.port);
+    MSComm1.setSettings(leitung.parameter);
+    setCaption(gProduktTitel);
+    ui.Label12->setText(gProduktTitel);
+    gDesktopAktiv = true;
+    gMotorEin = false;
+    gFormStatus = 0;
+    gEingelaufen = false;
+    ui.txtPrüfer->setText(gPrüfer);
+    gEPModus = false;
+    gUpdateBeimBeenden = false;
+    systemZeigen();
+    letztesNormalLesen();
+    datumZeigen(datumText(now().date()));
+    hebelarmDatumLesen();
+    normalUndHebelarmZeigen();
+} catch (const Fehler &fehler) {
+    gDesktopAktiv = true; // the window stays up with what it got, and its waits must end by time
+    beschriften();
+    fehlerBox("Fehler D_6002 - ", "ERROR D_6002 - ", fehler);
+}
+
+// An installation shows these two by a setting of its own in the database.
+void frmDesktop::systemZeigen() {
+    ohneFehlendeSpalte([this] {
+        const Recordset system = gDatenbank.open("SELECT * FROM System");
+        const bool zeigen = !system.empty() && system["Endprüfung"].whole() != 0;
+        ui.pbReset->setVisible(zeigen);
+        ui.pbEndprüf->setVisible(zeigen);
+    });
+}
+
+void frmDesktop::normalUndHebelarmZeigen() {
+    ui.txtKalDat->setText(datumText(gKalibrierdatum));
+    const QDate heute = now().date();
+    ui.ProgressBar1->setValue(hebelarmRest(gHebelarmDatum, gHebelarmFällig, heute));
+    beschriften();
+    if (heute > gHebelarmFällig) {
+        QPalette palette = ui.FrHebelarm->palette();
+        palette.setColor(QPalette::WindowText, QColor(255, 0, 0));
+        ui.FrHebelarm->setPalette(palette);
+    }
+}
+
+void frmDesktop::beschriften() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    setCaption(gProduktTitel);
+    if (!spracheGewählt())
+        return;
+    normalZeigen(gNKGerätetyp + " SerienNr. " + gSeriennummer);
+    ui.FrHebelarm->setTitle(inSprache({"Nächste Hebelarmkalibrierung fällig am ",
+                                       "Next lever arm calibration due on "}) +
+                            datumText(gHebelarmFällig));
+}
+
+void frmDesktop::auswahlZeigen() {
+    const Auswahl &wahl = auswahl();
+    ui.txtKunde->setText(wahl.kunde);
+    ui.txtGerät->setText(wahl.gerät);
+    ui.txtGerätID->setText(wahl.gerätID);
+    ui.txtRezept->setText(wahl.rezept);
+    ui.txtRezName->setText(wahl.rezept.isEmpty() ? QString() : gRezeptName);
+    ui.txtNormal->setText(wahl.normal);
+    ui.txtDatum->setText(wahl.datum);
+    DesktopButton_Freigeben();
+}
+
+void frmDesktop::DesktopButton_Freigeben() {
+    const DesktopRegeln regeln = desktopRegeln(auswahl());
+    ui.mnuGerät->setEnabled(regeln.gerät);
+    ui.pbGerät->setEnabled(regeln.gerät);
+    ui.pbBlutdruck->setEnabled(regeln.gerät && exists(frm::Blutdruck));
+    ui.pbSecControl->setEnabled(regeln.secControl && exists(frm::SecControl));
+    setMessenEnabled(regeln.messen);
+}
+
+void frmDesktop::setMessenEnabled(bool enabled) {
+    ui.pbMessen->setEnabled(enabled);
+    ui.mnuStartMessen->setEnabled(enabled);
+}
+
+void frmDesktop::spracheSetzen(std::int16_t sprache) {
+    gSprache = sprache;
+    beschriften();
+}
+
+void frmDesktop::Form_Activate() {
+    if (gMessStatus == 4 || gMessStatus == 5)
+        ui.pbDrehR->setEnabled(false);
+    switch (std::exchange(gDesktopFolge, std::int16_t{0})) {
+    case 2:
+        mnuGerät_Click();
+        break;
+    case 3:
+        mnuRezept_Click();
+        break;
+    case 4:
+        ::screen(frm::StatMessen).showModal();
+        break;
+    case 5:
+        pbMessen_Click();
+        break;
+    case 6:
+        if (exists(frm::Bericht))
+            ::screen(frm::Bericht).showModal();
+        break;
+    default:
+        break;
+    }
+    gFormStatus = 0;
+    gDesktopFolge = 0;
+    if (gUpdateBeimBeenden)
+        ui.pbBeenden->click();
+}
+
+bool frmDesktop::Form_QueryUnload() {
+    if (gSprache >= 0 && gSprache <= 2) {
+        mAntwort = meldung({"Wollen Sie das Programm wirklich beenden?",
+                            "Do you really want to terminate the program?"},
+                           YesNo + Question, {"Programmende", "End Of Program"});
+    }
+    if (mAntwort == No)
+        return false;
+    if (gMotorEin)
+        pbMotaus_Click();
+    return true;
+}
+
+void frmDesktop::Form_Unload() {
+    gDesktopAktiv = false;
+    tiEinlauf.setEnabled(false);
+    Timer1.setEnabled(false);
+    MSComm1.setPortOpen(false);
+    gDatenbank.close();
+    QCoreApplication::quit(); // other screens go with the process
+}
+
+void frmDesktop::mnuGerät_Click() try {
+    const Recordset rows =
+        gDatenbank.open("SELECT Gerätetyp FROM Ergometer WHERE KundenID = ?", {gKundenID});
+    if (!rows.empty()) {
+        ::screen(frm::Gerät).showModal();
+    } else if (exists(frm::NeuGerät)) {
+        gNeuModus = true;
+        Screen &neu = ::screen(frm::NeuGerät);
+        neu.showInfo(inSprache({"Noch kein Gerät vorhanden!", "No Units existent yet!"}));
+        neu.showModal();
+    } else {
+        meldung({"Noch kein Gerät vorhanden!", "No Units existent yet!"}, Exclamation,
+                {"Meldung", "Message"});
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 6000 - ", "ERROR 6000 - ", fehler);
+}
+
+void frmDesktop::mnuRezept_Click() {
+    gRezeptAufruf = true;
+    ::screen(frm::Rezepte).showModal();
+}
+
+void frmDesktop::mnuRezepte_Click() try {
+    gRezeptAufruf = false;
+    if (gDatenbank.open("SELECT RezName FROM Rezeptnamen").empty()) {
+        gNeuModus = true;
+        ::screen(frm::NeuRezept).showModal();
+    } else {
+        ::screen(frm::Rezepte).showModal();
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 6001 - ", "ERROR 6001 - ", fehler);
+}
+
+void frmDesktop::mnuKalibrierung_Click() {
+    if (gDrehrichtung > 0)
+        gFormStatus = 1;
+    ::screen(frm::Kalibrierung).showModal();
+}
+
+void frmDesktop::pbReset_Click() {
+    disable();
+    fnc_Reset();
+    enable();
+}
+
+void frmDesktop::mnuHelp_Click() try {
+    QKeyEvent f1(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    keyPressEvent(&f1);
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
+    msgBox(QString::number(fehler.number()) + " - " + gFehlerText, Exclamation, gProduktTitel);
+}
+
+void frmDesktop::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_F1)
+        hilfeÖffnen();
+    else
+        Screen::keyPressEvent(event);
+}
+
+void frmDesktop::hilfeÖffnen() {
+    const QFileInfo file(helpFile);
+    if (!file.exists() || !QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()))) {
+        throw Fehler(fehlernummer::FileNotFound,
+                     {QString("Die Hilfe (%1) lässt sich nicht öffnen.").arg(helpFile),
+                      QString("The help (%1) cannot be opened.").arg(helpFile)});
+    }
+}

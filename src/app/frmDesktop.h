@@ -1,0 +1,66 @@
+// The main window: shows what is selected, runs the motor for the running-in, starts everything
+// else. Screens report back through session variables, which the activation here reads.
+#pragma once
+
+#include "front.h"
+#include "screens.h"
+#include "seriennummer.h"
+#include "ui_frmDesktop.h"
+
+class frmDesktop : public Screen, public Front {
+  public:
+    static constexpr frm id = frm::Desktop;
+    frmDesktop();
+    ~frmDesktop() override;
+
+    /// What the selection allows.
+    void DesktopButton_Freigeben();
+    /// Asks the instrument for its serial number and takes its calibration data.
+    void Seriennummer_ermitteln() { mSeriennummer.Seriennummer_ermitteln(); }
+
+    // Front
+    void setMoteinEnabled(bool enabled) override { ui.pbMotein->setEnabled(enabled); }
+    void setMotausEnabled(bool enabled) override { ui.pbMotaus->setEnabled(enabled); }
+    void setDrehREnabled(bool enabled) override { ui.pbDrehR->setEnabled(enabled); }
+    void setMessenEnabled(bool enabled) override;
+    void showDrehrichtung(const QString &wort) override { ui.lbDrehrichtung->setText(wort); }
+    void showEinlauf(const QString &rest) override { ui.lbEinlauf->setText(rest); }
+    QString drehrichtung() const override { return ui.lbDrehrichtung->text(); }
+    void showMotorInfo(const QString &text) override { ui.laInfo->setText(text); }
+    void enableFront() override { enable(); }
+    void disableFront() override { disable(); }
+    void focusBeenden() override { ui.pbBeenden->setFocus(); }
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload() override;
+    void Form_Unload() override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+  private:
+    void verdrahten();
+    void öffnet(QPushButton *button, QAction *action, frm ziel, void (frmDesktop::*weg)());
+    void systemZeigen();
+    void beschriften();
+    void normalUndHebelarmZeigen();
+    void auswahlZeigen();
+    void spracheSetzen(std::int16_t sprache);
+    void hilfeÖffnen();
+
+    void mnuGerät_Click();
+    void mnuRezept_Click();
+    void mnuRezepte_Click();
+    void mnuKalibrierung_Click();
+    void mnuHelp_Click();
+    void pbReset_Click();
+
+    // Motor and measurement (frmDesktop_motor.cpp)
+    void pbMotein_Click();
+    void pbMotaus_Click();
+    void pbMessen_Click();
+
+    Ui::frmDesktop ui;
+    Seriennummer mSeriennummer;
+    int mAntwort = 0; ///< to the question whether the program shall end
+};

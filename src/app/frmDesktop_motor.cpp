@@ -1,0 +1,112 @@
+// Motor on and off, and the preconditions of a measurement.
+#include "frmDesktop.h"
+
+#include "controller.h"
+#include "einlauf.h"
+#include "fehler.h"
+#include "interface.h"
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+constexpr std::int16_t ruhe = 6; // gMessStatus: nothing runs
+}
+
+void frmDesktop::pbMotein_Click() try {
+    fnc_PortPrüfen();
+    if (!gSS1Vorhanden) {
+        meldung({"Die Schnittstellenparameter gibt es nicht. \nBitte korrigieren Sie die "
+                 "Einstellungen!",
+                 "The interface settings do not exist . \nPlease correct it!"},
+                Exclamation, {"Achtung!", "Attention!"});
+        ::screen(frm::Interface).showModal();
+        return;
+    }
+    einlaufzeitSetzen();
+    ui.pbMotein->setEnabled(false);
+    ui.pbDrehR->setEnabled(false);
+    disable();
+    const QString wirdEin = inSprache({"Motor wird eingeschaltet", "Motor is switched on"});
+    showMotorInfo(wirdEin);
+    if (fnc_BefehlSenden("E", gDrehrichtung, "60")) {
+        gMotorEin = true;
+        ui.pbMotein->setEnabled(false);
+        ui.pbMotaus->setEnabled(true);
+        einlaufStarten();
+        showMotorInfo(wirdEin);
+    } else {
+        meldung({"Motor konnte nicht eingeschaltet werden",
+                 "It was not possible to switch the motor on."},
+                Critical, {"Motor ein", "Motor On"});
+        ui.pbMotein->setEnabled(true);
+        ui.pbDrehR->setEnabled(true);
+        ui.pbMotaus->setEnabled(false);
+        gMotorEin = false;
+        showMotorInfo({});
+    }
+    enable();
+} catch (const Fehler &fehler) {
+    enable();
+    fehlerBox("Fehler 6003- ", "ERROR 6003 - ", fehler);
+}
+
+void frmDesktop::pbMotaus_Click() try {
+    ui.pbMotein->setEnabled(false);
+    ui.pbDrehR->setEnabled(false);
+    ui.pbMotaus->setEnabled(false);
+    disable();
+    showMotorInfo(inSprache({"Motor wird ausgeschaltet!", "Motor is switched off!"}));
+    tiEinlauf.setEnabled(false);
+    if (fnc_BefehlSenden("E", gDrehrichtung, "00")) {
+        gMotorEin = false;
+        ui.pbMotein->setEnabled(true);
+        ui.pbDrehR->setEnabled(true);
+        ui.pbMotaus->setEnabled(false);
+        showMotorInfo(inSprache({"Motor ist ausgeschaltet", "Motor is switched off"}));
+        tiEinlauf.setEnabled(false);
+        motorzeitMerken();
+        gMessStatus = ruhe;
+    } else {
+        meldung({"Fehler", "Error"}, Exclamation, {"Motor aus", "Motor Off"});
+        ui.pbMotein->setEnabled(false);
+        ui.pbMotaus->setEnabled(true);
+    }
+    enable();
+} catch (const Fehler &fehler) {
+    enable();
+    fehlerBox("Fehler 6004- ", "ERROR 6004 - ", fehler);
+}
+
+void frmDesktop::pbMessen_Click() {
+    gMessenFreigabe = true;
+    gMessStatus = ruhe;
+    if (!gEingelaufen) {
+        const int antwort =
+            meldung({"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
+                     "beginnen ?",
+                     "The unit under test has not completed the run-up yet!\rDo you still want to "
+                     "start the measurement?"},
+                    YesNo + Exclamation + SecondButtonDefault,
+                    {"Messen starten", "Start The Measurement"});
+        if (antwort == No) {
+            gMessenFreigabe = false;
+            return;
+        }
+        if (gDrehrichtung == 0) {
+            meldung({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
+                     "Please select a direction of rotation for the motor first!"},
+                    Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
+            gMessenFreigabe = true;
+            ::screen(frm::MotorDrehR).show();
+            return;
+        }
+    }
+    gEinlaufStatus = 0;
+    tiEinlauf.setEnabled(false);
+    gRestMinuten = gEinlaufzeit;
+    gEingelaufen = true;
+    ::screen(frm::StatMessen).showModal();
+}

@@ -1,0 +1,19 @@
+// The notice that the running-in time is over. Closes by itself; nothing depends on it.
+#pragma once
+
+#include "clock.h"
+#include "screens.h"
+#include "ui_frmMeldung1.h"
+
+class frmMeldung1 : public Screen {
+  public:
+    static constexpr frm id = frm::Meldung1;
+    frmMeldung1();
+
+  protected:
+    void Form_Load() override;
+
+  private:
+    Ui::frmMeldung1 ui;
+    Timer mTimer1{2000};
+};

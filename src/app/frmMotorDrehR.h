@@ -1,0 +1,23 @@
+// Choice of the motor's direction of rotation.
+#pragma once
+
+#include "screens.h"
+#include "ui_frmMotorDrehR.h"
+
+class frmMotorDrehR : public Screen {
+  public:
+    static constexpr frm id = frm::MotorDrehR;
+    frmMotorDrehR();
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+
+  private:
+    void wählen(std::int16_t richtung);
+    void pbok_Click();
+    void pbAbbrechen_Click();
+
+    Ui::frmMotorDrehR ui;
+};

@@ -1,0 +1,22 @@
+// The first screen: opens the database, reads the settings of the system, leads to the login.
+#pragma once
+
+#include "clock.h"
+#include "screens.h"
+#include "ui_frmSplash.h"
+
+class frmSplash : public Screen {
+  public:
+    static constexpr frm id = frm::Splash;
+    frmSplash();
+
+  protected:
+    void Form_Load() override;
+
+  private:
+    void systemLesen();
+    void tiFormVisible_Timer();
+
+    Ui::frmSplash ui;
+    Timer tiFormVisible{2000};
+};

@@ -1,0 +1,66 @@
+#include "seriennummer.h"
+
+#include "controller.h"
+#include "fehler.h"
+#include "interface.h"
+#include "msgbox.h"
+#include "normal.h"
+#include "screen.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+Seriennummer::Seriennummer(std::function<void(const QString &)> info,
+                           std::function<void()> gefunden)
+    : mInfo(std::move(info))
+    , mGefunden(std::move(gefunden)) {
+    mTimer2.onTick = [this] { guarded([this] { Timer2_Timer(); }); };
+}
+
+void Seriennummer::Seriennummer_ermitteln() try {
+    ++mSeriennrVersuche;
+    fnc_PortPrüfen();
+    if (!gSS1Vorhanden) {
+        if (mSeriennrVersuche > 1) {
+            meldung({"Der Motor ist noch nicht eingeschaltet oder \n"
+                     "die Schnittstellenparameter gibt es nicht!\n"
+                     "Bitte korrigieren Sie die Einstellungen!\n"
+                     "Bitte entfernen Sie ggf. kurzzeitig das Kabel an der USB-Schnittstelle!",
+                     "The engine is not yet switched on or \n"
+                     "the interface parameters do not exist!\n"
+                     "Please correct the settings!\n"
+                     "Please remove the cable at the USB interface for a short time!"},
+                    Exclamation, {"Achtung!", "Achtung!"});
+        }
+        return;
+    }
+    mInfo(inSprache({"Die Seriennummer wird ermittelt!", "Motor is switched on"}));
+    fnc_PortÖffnen();
+    MSComm1.Output("N");
+    mTimer2.setEnabled(true);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 6002neu - ", "ERROR 6002neu - ", fehler);
+}
+
+void Seriennummer::Timer2_Timer() try {
+    mTimer2.setEnabled(false);
+    if (MSComm1.InBufferCount() > 0)
+        gSeriennummer = QString::fromLatin1(MSComm1.Input());
+    if (!gSeriennummer.isEmpty()) {
+        if (fnc_NormalDatenLesen()) {
+            hebelarmDatumLesen();
+            mGefunden();
+        }
+    } else if (mSeriennrVersuche > 1) {
+        meldung({"Der Motor ist noch nicht eingeschaltet, \n"
+                 "die Seriennummer konnte nicht ermittelt werden!\n"
+                 "Bitte korrigieren Sie die Einstellungen!",
+                 "The engine is not yet switched on, \n"
+                 "the serial number could not be determined!\n"
+                 "Please correct the settings!"},
+                Exclamation, {"Achtung!", "Achtung!"});
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 6008 - ", "ERROR 6008 - ", fehler);
+}

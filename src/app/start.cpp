@@ -1,0 +1,80 @@
+#include "start.h"
+
+#include <QCoreApplication>
+
+#include "controller.h"
+#include "database.h"
+#include "einlauf.h"
+#include "fehler.h"
+#include "msgbox.h"
+#include "screens.h"
+#include "screentable.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+QString boxCaption(BoxAnswer answer) {
+    switch (answer) {
+    case OK:
+        return "&OK";
+    case Cancel:
+        return inSprache({"&Abbrechen", "&Cancel"});
+    case Abort:
+        return inSprache({"A&bbrechen", "&Abort"});
+    case Retry:
+        return inSprache({"&Wiederholen", "&Retry"});
+    case Ignore:
+        return inSprache({"&Ignorieren", "&Ignore"});
+    case Yes:
+        return inSprache({"&Ja", "&Yes"});
+    case No:
+        return inSprache({"&Nein", "&No"});
+    }
+    return {};
+}
+
+/// What no handler took: told, and the program goes on.
+void reportUncaught(const std::exception &problem) {
+    if (const auto *fehler = dynamic_cast<const Fehler *>(&problem))
+        fehlerBox("Fehler - ", "ERROR - ", *fehler);
+    else
+        fehlerBox("Fehler - ", "ERROR - ", Fehler(0, {problem.what(), problem.what()}));
+}
+
+} // namespace
+
+void programmStarten() {
+    setUncaughtReporter(reportUncaught);
+    setBoxCaptions(boxCaption);
+    controllerVorbereiten();
+    einlaufVorbereiten();
+    bindScreens();
+    screen(frm::Splash).show();
+}
+
+void beendenOhneFrage() {
+    static Timer nochmals(100);
+    if (!leitungFrei()) {
+        nochmals.onTick = [] { beendenOhneFrage(); };
+        nochmals.setEnabled(true);
+        return;
+    }
+    nochmals.setEnabled(false);
+    if (gDesktopAktiv && gMotorEin)
+        motorStillschweigendAus();
+    gDesktopAktiv = false;
+    gDatenbank.close();
+    QCoreApplication::quit();
+}
+
+void programmAufräumen() {
+    gDesktopAktiv = false;
+    for (Timer *timer : {&Timer1, &tiDrehzahl, &tiEinlauf})
+        timer->setEnabled(false);
+    closeAllScreens();
+    MSComm1.setPortOpen(false);
+    gDatenbank.close();
+}

@@ -1,0 +1,69 @@
+#include "einlauf.h"
+
+#include "front.h"
+#include "msgbox.h"
+#include "runtime.h"
+#include "screens.h"
+#include "session.h"
+
+Timer tiEinlauf(1000);
+
+namespace {
+
+void tick() {
+    if (!gDesktopAktiv) {
+        tiEinlauf.setEnabled(false);
+        return;
+    }
+    const bool over = einlaufSekunde();
+    gEinlaufRestText = Format(gEinlaufMin, "00") + ':' + Format(gEinlaufSek, "00");
+    if (over) {
+        tiEinlauf.setEnabled(false);
+        gEingelaufen = true;
+        if (gFormStatus > 0)
+            gFormStatus = 4;
+        platform::beep();
+        screen(frm::Meldung1).show();
+    }
+    if (gFormStatus == 0) {
+        front().showEinlauf(gEinlaufRestText);
+    } else if (Screen *calibration = loaded(frm::Kalibrierung)) {
+        calibration->showCountdown(gEinlaufRestText);
+    }
+}
+
+} // namespace
+
+void einlaufVorbereiten() {
+    tiEinlauf.onTick = tick;
+}
+
+void einlaufzeitSetzen() {
+    gEinlaufMin = static_cast<std::int16_t>(Int(gEinlaufzeit));
+    gEinlaufSek = static_cast<std::int16_t>(Int(Round(gEinlaufzeit * 100, 6)) - gEinlaufMin * 100);
+}
+
+void einlaufStarten() {
+    gMotorStart = platform::now().time();
+    tiEinlauf.setInterval(1000);
+    tiEinlauf.setEnabled(true);
+}
+
+bool einlaufSekunde() {
+    if (gEinlaufSek >= 1) {
+        --gEinlaufSek;
+        return false;
+    }
+    gEinlaufSek = 59;
+    if (--gEinlaufMin >= 0)
+        return false;
+    gEinlaufMin = 0;
+    gEinlaufSek = 0;
+    return true;
+}
+
+void motorzeitMerken() {
+    const int seconds = (gMotorStart.secsTo(platform::now().time()) + 86'400) % 86'400;
+    gRestMinuten = seconds / 60 % 60;
+    gRestSekunden = seconds % 60;
+}

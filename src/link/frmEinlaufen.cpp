@@ -1,0 +1,71 @@
+#include "frmEinlaufen.h"
+
+#include <QShortcut>
+
+#include "database.h"
+#include "einlaufwert.h"
+#include "msgbox.h"
+#include "runtime.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+constexpr Beschriftung english[] = {
+    {"", "Running-In Parameters"},
+    {"lbZeit", "&Time:"},
+    {"lbEinheitZeit", "min.s"},
+    {"lbHinweisZeit",
+     "Minutes and seconds: 10.3 and 10.30 are both 10 min 30 s. Below 60 minutes."},
+    {"lbW", "&Power:"},
+    {"lbHinweisW", "From 0 to below 800 W."},
+    {"pbok", "&OK"},
+    {"pbAbbrechen", "&Cancel"},
+};
+}
+
+frmEinlaufen::frmEinlaufen() {
+    ui.setupUi(this);
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbAbbrechen, [this] { unload(); });
+    onEnter(ui.txtZeit, [this] { ui.txtW->setFocus(); });
+    onEnter(ui.txtW, [this] { pbok_Click(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+void frmEinlaufen::Form_Load() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    ui.txtZeit->setText(CStr(gEinlaufzeit));
+    ui.txtW->setText(CStr(gEinlaufLeistung));
+    ui.txtZeit->setFocus();
+    ui.txtZeit->selectAll();
+}
+
+void frmEinlaufen::pbok_Click() try {
+    int failed = 0;
+    if (const auto time = einlaufWert(ui.txtZeit->text(), einlaufzeitGrenze)) {
+        gDatenbank.execute("UPDATE System set Einlzeit2 = ?", {*time});
+        gEinlaufzeit = *time;
+    } else {
+        ++failed;
+        ui.txtZeit->setFocus();
+    }
+    if (const auto power = einlaufWert(ui.txtW->text(), einlaufLeistungGrenze)) {
+        gDatenbank.execute("UPDATE System set EinlW = ?", {*power});
+        gEinlaufLeistung = *power;
+    } else if (++failed == 1) {
+        ui.txtW->setFocus();
+    }
+    if (failed == 0) {
+        unload();
+        return;
+    }
+    meldung({"Mindestens ein Parameter konnte nicht gespeichert werden!",
+             "At least one parameter could not be saved!"},
+            Critical, {"Eingabefehler", "Attention"});
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler frmEinl01 - ", "ERROR frmEinl01 - ", fehler);
+}

@@ -1,0 +1,104 @@
+#include "interface.h"
+
+#include "controller.h"
+#include "database.h"
+#include "runtime.h"
+#include "sprache.h"
+
+using namespace platform;
+
+bool gSS1Vorhanden = false;
+
+namespace {
+
+struct Parity {
+    const char *word;
+    char letter;
+};
+constexpr Parity parities[] = {
+    {"Gerade", 'E'}, {"Ungerade", 'O'}, {"Keine", 'N'}, {"Markierung", 'M'}, {"Leerzeichen", 'S'},
+};
+
+QString wordOf(const QString &letter) {
+    for (const Parity &parity : parities) {
+        if (letter == QChar(parity.letter))
+            return parity.word;
+    }
+    return {};
+}
+
+QString letterOf(const QString &word) {
+    for (const Parity &parity : parities) {
+        if (word == parity.word)
+            return QChar(parity.letter);
+    }
+    return {};
+}
+
+} // namespace
+
+Schnittstelle Schnittstelle::ausParameter(const QString &parameter) {
+    return {parameter.section(',', 0, 0), wordOf(parameter.section(',', 1, 1)),
+            parameter.section(',', 2, 2), parameter.section(',', 3)};
+}
+
+QString Schnittstelle::parameter() const {
+    const QString stop = stoppbits == "1,5" ? "1.5" : stoppbits;
+    return baud + ',' + letterOf(parität) + ',' + datenbits + ',' + stop;
+}
+
+const QStringList &Schnittstelle::baudraten() {
+    static const QStringList list{"75",    "110",   "134",   "150",   "300",   "600",
+                                  "1200",  "1800",  "2400",  "4800",  "7200",  "9600",
+                                  "14400", "19200", "38400", "57600", "115200"};
+    return list;
+}
+
+const QStringList &Schnittstelle::paritäten() {
+    static const QStringList list = [] {
+        QStringList words;
+        for (const Parity &parity : parities)
+            words += parity.word;
+        return words;
+    }();
+    return list;
+}
+
+const QStringList &Schnittstelle::datenbitzahlen() {
+    static const QStringList list{"4", "5", "6", "7", "8"};
+    return list;
+}
+
+const QStringList &Schnittstelle::stoppbitzahlen() {
+    static const QStringList list{"1", "1.5", "2"};
+    return list;
+}
+
+void fnc_PortPrüfen() {
+    try {
+        if (!MSComm1.PortOpen())
+            MSComm1.setPortOpen(true);
+        MSComm1.setPortOpen(false);
+        gSS1Vorhanden = true;
+    } catch (const Fehler &fehler) {
+        fehlerMerken(fehler);
+        if (fehler.number() == fehlernummer::NoSuchPort)
+            gSS1Vorhanden = false;
+        else
+            fehlerBox("Fehler mI 2 - ", "ERROR mSI 2 - ", fehler);
+    }
+}
+
+void fnc_InterfaceSpeichern(const QString &port, const QString &baud, const QString &data,
+                            const QString &parity, const QString &stop) {
+    const int number = static_cast<int>(Val(port));
+    MSComm1.setCommPort(number);
+    gDatenbank.execute("UPDATE Interface SET PortNr = ?", {number});
+    const Schnittstelle fields{baud, parity, data, stop};
+    gDatenbank.execute("UPDATE Interface SET Parameter = ?", {fields.parameter()});
+}
+
+InterfaceZeile interfaceLesen() {
+    const Recordset row = gDatenbank.open("SELECT PortNr, Parameter FROM Interface");
+    return {row[0].whole(), row[1].text()};
+}

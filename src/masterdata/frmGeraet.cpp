@@ -1,0 +1,267 @@
+#include "frmGeraet.h"
+
+#include <QLineEdit>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
+
+#include "auswahl.h"
+#include "database.h"
+#include "msgbox.h"
+#include "schluessel.h"
+#include "session.h"
+#include "spalte.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Select Unit"},
+    {"lbKunde", "Customer:"},
+    {"lbTyp", "Unit &type:"},
+    {"lbIdent", "&ID number:"},
+    {"Label", "Number Of Units In The List: 0"},
+    {"FrGerät", "Selected Unit"},
+    {"lbGerätetyp", "Unit type:"},
+    {"lbHersteller", "Manufacturer:"},
+    {"lbSerienNr", "Serial number:"},
+    {"lbIdentNr", "ID number:"},
+    {"pbNeu", "&New ..."},
+    {"pbchange", "&Edit ..."},
+    {"pbDelete", "&Delete ..."},
+    {"pbok", "&OK"},
+    {"pbexit", "&Cancel"},
+};
+
+constexpr std::int16_t folgeRezept = 3; // gDesktopFolge
+
+// Columns of a unit by position
+enum { GerätID = 0, Gerätetyp = 2, Hersteller = 3, SerienNr = 4, IdentNr = 5 };
+
+Recordset gerätMitIdent(const QString &ident) {
+    return gDatenbank.open("select * from ergometer where identnr = ? and kundenid = ?",
+                           {ident, gKundenID});
+}
+
+Recordset geräteVomTyp(const QString &typ) {
+    return gDatenbank.open("select * from ergometer where gerätetyp = ? And kundenid = ?",
+                           {typ, gKundenID});
+}
+
+void erstGerätWählen() {
+    meldung({"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"}, Exclamation,
+            {"Achtung!", "Attention!"});
+}
+
+} // namespace
+
+frmGerät::frmGerät() {
+    ui.setupUi(this);
+    mSuche.verbinden(ui.cmbIdent, ui.lstIdent);
+    on(ui.cmbTyp, &QComboBox::currentIndexChanged, [this] { cmbTyp_Click(); });
+    onEnter(ui.cmbTyp, [this] { ui.cmbIdent->setFocus(); });
+    on(ui.cmbIdent, &QComboBox::editTextChanged, [this] { cmbIdent_Change(); });
+    onKey(ui.cmbIdent, [this](QKeyEvent &key) { return mSuche.taste(key); });
+    onEnter(ui.cmbIdent, [this] { pbok_Click(); });
+    on(ui.lstIdent->selectionModel(), &QItemSelectionModel::selectionChanged,
+       [this] { mSuche.zeileGewählt(); });
+    on(ui.lstIdent, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
+    on(ui.lstIdent, &QListView::doubleClicked, [this] { pbok_Click(); });
+    onClick(ui.pbNeu, [this] { pbNeu_Click(); });
+    onClick(ui.pbchange, [this] { pbchange_Click(); });
+    onClick(ui.pbDelete, [this] { pbDelete_Click(); });
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    onEnter(this, [this] { pbok_Click(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+QString frmGerät::gerätename() const {
+    return mGerätID == 0 ? QString() : ui.txtTyp->text();
+}
+
+void frmGerät::beschriften() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    ui.cmbIdent->lineEdit()->setPlaceholderText(
+        inSprache({"Nummer oder Teil davon", "Number or part of it"}));
+}
+
+void frmGerät::Form_Load() try {
+    beschriften();
+    ui.laKunde->setText(auswahl().kunde);
+    listenLesen();
+    mGeladen = true;
+    ui.cmbIdent->setFocus();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1091 - ", "ERROR 1091 - ", fehler);
+}
+
+void frmGerät::Form_Activate() {
+    if (!std::exchange(mGeladen, false))
+        fnc_ListeAktualisieren();
+}
+
+void frmGerät::listenLesen() {
+    const QString typ = ui.cmbTyp->currentText();
+    const Recordset rows =
+        gDatenbank.open("select distinct gerätetyp from ergometer where kundenid = ?", {gKundenID});
+    {
+        const QSignalBlocker quiet(ui.cmbTyp);
+        ui.cmbTyp->clear();
+        ui.cmbTyp->addItem({}); // all types
+        ui.cmbTyp->addItems(Namensliste(spalte(rows, 0)).namen());
+    }
+    typSetzen(typ);
+    identnummernLesen();
+}
+
+void frmGerät::typSetzen(const QString &typ) {
+    const QSignalBlocker quiet(ui.cmbTyp);
+    ui.cmbTyp->setCurrentIndex(std::max(ui.cmbTyp->findText(typ), 0));
+}
+
+void frmGerät::identnummernLesen() {
+    const QString typ = ui.cmbTyp->currentText();
+    const Recordset rows =
+        typ.isEmpty()
+            ? gDatenbank.open("select identnr from ergometer where kundenid = ?", {gKundenID})
+            : gDatenbank.open("select identnr from ergometer where gerätetyp = ? And kundenid = ?",
+                              {typ, gKundenID});
+    mSuche.füllen(spalte(rows, 0));
+    if (rows.count() == 1) {
+        mSuche.leeren();
+        mSuche.übernehmen(rows[0].text());
+    }
+    fnc_GerätZeigen();
+}
+
+void frmGerät::fnc_ListeAktualisieren() try { listenLesen(); } catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1092 - ", "ERROR 1092 - ", fehler);
+}
+
+void frmGerät::fnc_ListeLeeren() {
+    typSetzen({});
+    mSuche.leeren();
+    fnc_ListeAktualisieren();
+}
+
+void frmGerät::fnc_GerätZeigen() {
+    const Recordset row = ident().isEmpty() ? Recordset() : gerätMitIdent(ident());
+    const bool found = !row.empty();
+    const auto text = [&](int column) { return found ? row[column].text() : QString(); };
+    mGerätID = found ? row[GerätID].whole() : 0;
+    ui.txtTyp->setText(text(Gerätetyp));
+    ui.txtHersteller->setText(text(Hersteller));
+    ui.txtSerienNr->setText(text(SerienNr));
+    ui.txtIdentNr->setText(text(IdentNr));
+    aktualisieren();
+}
+
+void frmGerät::aktualisieren() {
+    ui.Label->setText(inSprache({"Ergometeranzahl: ", "Number Of Units In The List: "}) +
+                      QString::number(mSuche.anzahl()));
+    ui.pbNeu->setEnabled(exists(frm::NeuGerät));
+    ui.pbchange->setEnabled(exists(frm::ÄndGerät));
+    ui.pbDelete->setEnabled(exists(frm::LöschGerät));
+}
+
+void frmGerät::cmbTyp_Click() try {
+    mSuche.leeren();
+    identnummernLesen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1093 - ", "ERROR 1093 - ", fehler);
+}
+
+void frmGerät::cmbIdent_Change() try {
+    mSuche.textGeändert();
+    fnc_GerätZeigen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1094 - ", "ERROR 1094 - ", fehler);
+}
+
+/// An ident number is meant as it stands: part of one could be another unit.
+QString frmGerät::ident() const {
+    const QString name = mSuche.name();
+    return name.isEmpty() ? mSuche.text().trimmed() : name;
+}
+
+/// The unit that the boxes name; empty, and told why, when they name none.
+Recordset frmGerät::gewähltesGerät() {
+    const QString typ = ui.cmbTyp->currentText();
+    if (!ident().isEmpty()) {
+        const Recordset row = gerätMitIdent(ident());
+        if (row.empty()) {
+            meldung({"Kunde besitzt kein Gerät mit dieser ID-Nummer!",
+                     "The customer does not have a unit with this ID number!"},
+                    Exclamation, {"Achtung!", "Attention!"});
+            ui.cmbIdent->setFocus();
+            ui.cmbIdent->lineEdit()->selectAll();
+        }
+        return row;
+    }
+    if (typ.isEmpty()) {
+        erstGerätWählen();
+        ui.cmbIdent->setFocus();
+        return {};
+    }
+    const Recordset rows = geräteVomTyp(typ);
+    if (rows.count() > 1) {
+        meldung({"Es gibt mehrere Geräte diesen Typs!\r"
+                 "Wählen sie zur genauen Bestimmung eine ID-Nummer aus!",
+                 "There are several units of this type!\r"
+                 "Select an ID number in order to exactly define the unit!"},
+                Exclamation, {"Achtung!", "Attention!"});
+        ui.cmbIdent->setFocus();
+        return {};
+    }
+    return rows;
+}
+
+void frmGerät::pbok_Click() try {
+    const Recordset row = gewähltesGerät();
+    if (row.empty())
+        return;
+    schlüsselNach(gGerätID, row[GerätID]);
+    gerätWählen(row[Gerätetyp].text(), row[IdentNr].text());
+    const int answer =
+        meldung({"Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
+                YesNo | Question, {"Stammdaten auswählen", "Select Master Data"});
+    if (answer == Yes)
+        gDesktopFolge = folgeRezept;
+    unload();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1102 - ", "ERROR 1102 - ", fehler);
+}
+
+bool frmGerät::gerätGezeigt() {
+    if (mGerätID == 0) {
+        erstGerätWählen();
+        ui.cmbIdent->setFocus();
+    }
+    return mGerätID != 0;
+}
+
+void frmGerät::pbNeu_Click() {
+    gNeuModus = false;
+    ::screen(frm::NeuGerät).showModal();
+}
+
+void frmGerät::pbchange_Click() try {
+    if (gerätGezeigt())
+        ::screen(frm::ÄndGerät).showModal();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1100 - ", "ERROR 1100 - ", fehler);
+}
+
+void frmGerät::pbDelete_Click() try {
+    if (gerätGezeigt())
+        ::screen(frm::LöschGerät).showModal();
+} catch (const Fehler &fehler) {
+    fehlerBox({"Fehler 1101 - ", "ERROR 1101 - "}, fehler, {"Achtung Fehler!", "ATTENTION !!"});
+}

@@ -1,0 +1,49 @@
+// Lists the units of the chosen customer and chooses the one of the session.
+#pragma once
+
+#include "recordset.h"
+#include "screens.h"
+#include "suchliste.h"
+#include "ui_frmGeraet.h"
+
+class frmGerät : public Screen {
+  public:
+    static constexpr frm id = frm::Gerät;
+    frmGerät();
+
+    /// The unit whose details are shown; 0 and empty for none.
+    int gerätID() const { return mGerätID; }
+    QString gerätename() const;
+
+    /// Reads the lists anew; what is shown stays if it is still there.
+    void fnc_ListeAktualisieren();
+    /// Reads the lists anew and shows no unit.
+    void fnc_ListeLeeren();
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+
+  private:
+    void beschriften();
+    void aktualisieren();
+    void listenLesen();
+    void typSetzen(const QString &typ);
+    void identnummernLesen();
+    void fnc_GerätZeigen();
+    bool gerätGezeigt();
+    QString ident() const;
+    Recordset gewähltesGerät();
+
+    void cmbTyp_Click();
+    void cmbIdent_Change();
+    void pbNeu_Click();
+    void pbchange_Click();
+    void pbDelete_Click();
+    void pbok_Click();
+
+    Ui::frmGerät ui;
+    Suchliste mSuche;
+    int mGerätID = 0;
+    bool mGeladen = false; ///< the first activation follows the loading and reads nothing
+};

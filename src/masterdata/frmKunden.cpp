@@ -1,0 +1,260 @@
+#include "frmKunden.h"
+
+#include <QLineEdit>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <utility>
+
+#include "auswahl.h"
+#include "database.h"
+#include "msgbox.h"
+#include "schluessel.h"
+#include "session.h"
+#include "spalte.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Select Customer"},
+    {"lbKundenname", "C&ustomer:"},
+    {"lbOrtsfilter", "&Town:"},
+    {"pbSearch", "&Search"},
+    {"pbSearch#tip", "Searches the database for whole names. * stands for any number of "
+                     "characters, ? for one."},
+    {"Label", "Number Of Customers In The List: 0"},
+    {"FrKunde", "Selected Customer"},
+    {"lbStraße", "Street:"},
+    {"lbPLZ", "Postal code:"},
+    {"lbOrt", "Town:"},
+    {"pbNeu", "&New ..."},
+    {"pbchange", "&Edit ..."},
+    {"pbDelete", "&Delete ..."},
+    {"pbexit", "&OK"},
+    {"pbAbbrechen", "&Cancel"},
+};
+
+constexpr std::int16_t folgeGerät = 2; // gDesktopFolge
+
+Recordset kundeSuchen(const QString &name, const QString &ort) {
+    if (ort.isEmpty())
+        return gDatenbank.open("select * from Kunden where Name = ?", {name});
+    return gDatenbank.open("select * from Kunden where Name = ? and Ort = ?", {name, ort});
+}
+
+void nichtsGefunden() {
+    meldung({"Es wurden keine Daten gefunden! ", "No data found! "}, Information,
+            {"Suchen", "Search"});
+}
+
+} // namespace
+
+frmKunden::frmKunden() {
+    ui.setupUi(this);
+    mSuche.verbinden(ui.cmbKundenname, ui.lstKunden);
+    on(ui.cmbKundenname, &QComboBox::editTextChanged, [this] { cmbKundenname_Change(); });
+    onKey(ui.cmbKundenname, [this](QKeyEvent &key) { return mSuche.taste(key); });
+    onEnter(ui.cmbKundenname, [this] { pbexit_Click(); });
+    on(ui.lstKunden->selectionModel(), &QItemSelectionModel::selectionChanged,
+       [this] { mSuche.zeileGewählt(); });
+    on(ui.lstKunden, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
+    on(ui.lstKunden, &QListView::doubleClicked, [this] { pbexit_Click(); });
+    on(ui.cmbOrt, &QComboBox::currentIndexChanged, [this] { cmbOrt_Click(); });
+    onEnter(ui.cmbOrt, [this] { ui.lstKunden->setFocus(); });
+    onClick(ui.pbSearch, [this] { pbSearch_Click(); });
+    onClick(ui.pbNeu, [this] { pbNeu_Click(); });
+    onClick(ui.pbchange, [this] { pbchange_Click(); });
+    onClick(ui.pbDelete, [this] { pbDelete_Click(); });
+    onClick(ui.pbexit, [this] { pbexit_Click(); });
+    onClick(ui.pbAbbrechen, [this] { unload(); });
+    onEnter(this, [this] { pbexit_Click(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+QString frmKunden::kundenname() const {
+    return mKundenID == 0 ? QString() : mSuche.name();
+}
+
+void frmKunden::beschriften() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    ui.cmbKundenname->lineEdit()->setPlaceholderText(
+        inSprache({"Name oder Teil davon, auch mit * und ?", "Name or part of it, also * and ?"}));
+}
+
+void frmKunden::Form_Load() try {
+    beschriften();
+    listenLesen();
+    mGeladen = true;
+    ui.cmbKundenname->setFocus();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1070 - ", "ERROR 1070 - ", fehler);
+}
+
+void frmKunden::Form_Activate() {
+    if (!std::exchange(mGeladen, false))
+        fnc_ListeAktualisieren();
+}
+
+bool frmKunden::Form_QueryUnload() {
+    if (!mGewählt)
+        return true;
+    const int answer = meldung({"Wollen Sie jetzt ein Gerät zu diesem Kunden auswählen?",
+                                "Do you want to select a unit for this customer now?"},
+                               YesNo | Question, {"Stammdaten auswählen", "Select Master Data"});
+    if (answer == Yes)
+        gDesktopFolge = folgeGerät;
+    return true;
+}
+
+void frmKunden::listenLesen() {
+    const QString town = ui.cmbOrt->currentText();
+    const Namensliste towns(spalte(gDatenbank.open("Select distinct Ort from Kunden"), 0));
+    {
+        const QSignalBlocker quiet(ui.cmbOrt);
+        ui.cmbOrt->clear();
+        ui.cmbOrt->addItem({}); // all towns
+        ui.cmbOrt->addItems(towns.namen());
+        ui.cmbOrt->setCurrentIndex(std::max(ui.cmbOrt->findText(town), 0));
+    }
+    const QString chosen = ui.cmbOrt->currentText();
+    mSuche.füllen(spalte(chosen.isEmpty()
+                             ? gDatenbank.open("select name from kunden")
+                             : gDatenbank.open("Select Name from Kunden where Ort= ?", {chosen}),
+                         0));
+    fnc_KundeZeigen();
+}
+
+void frmKunden::fnc_ListeAktualisieren() try { listenLesen(); } catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1077 - ", "ERROR 1077 - ", fehler);
+}
+
+void frmKunden::fnc_ListeLeeren() {
+    mSuche.leeren();
+    fnc_ListeAktualisieren();
+}
+
+void frmKunden::fnc_KundeZeigen() {
+    mKundenID = 0;
+    const QString name = mSuche.name();
+    Recordset row;
+    if (!name.isEmpty())
+        row = kundeSuchen(name, ui.cmbOrt->currentText());
+    const bool found = !row.empty();
+    if (found)
+        mKundenID = row[0].whole();
+    ui.lbName->setText(found ? row[1].text() : QString());
+    ui.txtStraße->setText(found ? row[2].text() : QString());
+    ui.txtPLZ->setText(found ? row[3].text() : QString());
+    ui.txtOrt->setText(found ? row[4].text() : QString());
+    aktualisieren();
+}
+
+void frmKunden::aktualisieren() {
+    ui.Label->setText(inSprache({"Kundenanzahl: ", "Number Of Customers In The List: "}) +
+                      QString::number(mSuche.anzahl()));
+    ui.pbNeu->setEnabled(exists(frm::NeuKunde));
+    ui.pbchange->setEnabled(exists(frm::ÄndKund));
+    ui.pbDelete->setEnabled(exists(frm::LöschKunde));
+}
+
+void frmKunden::cmbKundenname_Change() try {
+    mSuche.textGeändert();
+    fnc_KundeZeigen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1071 - ", "ERROR 1071 - ", fehler);
+}
+
+void frmKunden::cmbOrt_Click() try {
+    mSuche.leeren();
+    listenLesen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1072 - ", "ERROR 1072 - ", fehler);
+}
+
+void frmKunden::pbSearch_Click() try {
+    const QString text = mSuche.text().trimmed();
+    ui.cmbKundenname->setFocus();
+    if (text.isEmpty()) {
+        meldung({"Bitte geben Sie den Suchtext im Feld Kundenname ein!",
+                 "To search, enter the text into the field 'Customer'!"},
+                Exclamation, {"Suchen", "Search"});
+        return;
+    }
+    const Recordset rows = gDatenbank.open("select * from Kunden where Muster(?, Name)", {text});
+    if (rows.empty()) {
+        nichtsGefunden();
+        return;
+    }
+    if (ui.cmbOrt->currentIndex() != 0) { // the search goes over all towns
+        {
+            const QSignalBlocker quiet(ui.cmbOrt);
+            ui.cmbOrt->setCurrentIndex(0);
+        }
+        listenLesen();
+    }
+    mSuche.zeigen(spalte(rows, 1));
+    if (rows.count() == 1)
+        mSuche.übernehmen(rows[1].text());
+    aktualisieren();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1073 - ", "ERROR 1073 - ", fehler);
+}
+
+void frmKunden::pbexit_Click() try {
+    switch (mSuche.abschließen()) {
+    case Suchliste::Eingabe::Leer:
+        meldung({"Bitte wählen sie zuerst einen Kunden aus!", "Please select a customer first!"},
+                Exclamation, {"Achtung!", "Attention"});
+        ui.cmbKundenname->setFocus();
+        return;
+    case Suchliste::Eingabe::Unbekannt:
+        nichtsGefunden();
+        ui.cmbKundenname->setFocus();
+        return;
+    case Suchliste::Eingabe::Ergänzt:
+        return;
+    case Suchliste::Eingabe::Vollständig:
+        break;
+    }
+    const QString name = mSuche.name();
+    schlüsselNach(gKundenID, kundeSuchen(name, ui.cmbOrt->currentText())["KundenID"]);
+    kundeWählen(name);
+    mGewählt = true;
+    unload();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1074 - ", "ERROR 1074 - ", fehler);
+}
+
+bool frmKunden::kundeGezeigt() {
+    if (mKundenID != 0)
+        return true;
+    meldung({"Wählen sie zuerst einen Kunden aus!", "Please select a customer first!"}, Exclamation,
+            {"Achtung!", "Attention"});
+    ui.cmbKundenname->setFocus();
+    return false;
+}
+
+void frmKunden::pbNeu_Click() {
+    gNeuModus = false;
+    ::screen(frm::NeuKunde).showModal();
+}
+
+void frmKunden::pbchange_Click() try {
+    if (kundeGezeigt())
+        ::screen(frm::ÄndKund).showModal();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1075 - ", "ERROR 1075 - ", fehler);
+}
+
+void frmKunden::pbDelete_Click() try {
+    if (kundeGezeigt())
+        ::screen(frm::LöschKunde).showModal();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1076 - ", "ERROR 1076 - ", fehler);
+}

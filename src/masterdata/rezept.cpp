@@ -1,0 +1,48 @@
+#include "rezept.h"
+
+#include "database.h"
+#include "schluessel.h"
+#include "session.h"
+#include "sprache.h"
+
+RezeptKopf rezeptKopf(const QString &name) {
+    const Recordset row = gDatenbank.open(
+        "SELECT RezeptID, ID, Bezeichnung, GKlasse, Messverfahren "
+        "FROM Rezeptnamen INNER JOIN Toleranzen ON Rezeptnamen.ToleranzID = Toleranzen.ID "
+        "WHERE RezName = ?",
+        {name});
+    RezeptKopf kopf;
+    schlüsselNach(kopf.rezeptID, row["RezeptID"]);
+    schlüsselNach(kopf.toleranzID, row["ID"]);
+    kopf.toleranz = row["Bezeichnung"].text();
+    kopf.messverfahren = row["Messverfahren"].text();
+    return kopf;
+}
+
+std::int16_t rezeptSchlüssel(const QString &name) {
+    const Recordset row =
+        gDatenbank.open("select rezeptid from rezeptnamen where rezname = ?", {name});
+    std::int16_t key = 0;
+    schlüsselNach(key, row[0]);
+    return key;
+}
+
+Recordset rezeptSchritte(std::int16_t rezeptID) {
+    return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
+                           "IIF(Prüfart='1', ?, ?) AS Messart "
+                           "FROM Rezepte WHERE Rezeptid = ? order by val(Prüfschritt)",
+                           {inSprache({"Leistungsmessung  ", "Power Measurement"}),
+                            inSprache({"Drehzahlmessung  ", "Speed Measurement"}), rezeptID});
+}
+
+void rezeptLöschen(std::int16_t rezeptID) {
+    gDatenbank.execute("DELETE FROM Rezepte WHERE Rezeptid = ?", {rezeptID});
+    gDatenbank.execute("DELETE FROM Rezeptnamen WHERE Rezeptid = ?", {rezeptID});
+}
+
+void rezeptEinsetzen(const RezeptKopf &kopf) {
+    gRezeptID = kopf.rezeptID;
+    gToleranzID = kopf.toleranzID;
+    gRezeptName = kopf.toleranz;
+    gMessverfahren = kopf.messverfahren;
+}

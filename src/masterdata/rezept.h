@@ -1,0 +1,32 @@
+// A recipe as the database tells it, and the recipe of the session.
+#pragma once
+
+#include <QString>
+
+#include <cstdint>
+
+#include "recordset.h"
+
+struct RezeptKopf {
+    std::int16_t rezeptID = 0;
+    std::int16_t toleranzID = 0;
+    QString toleranz; ///< name of the specification
+    QString messverfahren;
+};
+
+/// Head of a recipe with its specification. Raises NoCurrentRecord when there is no such recipe or
+/// its specification was deleted.
+RezeptKopf rezeptKopf(const QString &name);
+
+/// The key alone, also of a recipe without a specification. Raises NoCurrentRecord.
+std::int16_t rezeptSchlüssel(const QString &name);
+
+/// Prüfschritt, Drehzahl, Leistung, Messart in the order of the steps; Messart in the language of
+/// the session.
+Recordset rezeptSchritte(std::int16_t rezeptID);
+
+/// Steps first, then the name. Protocols that were measured with it are not looked at.
+void rezeptLöschen(std::int16_t rezeptID);
+
+/// Into gRezeptID, gToleranzID, gRezeptName, gMessverfahren.
+void rezeptEinsetzen(const RezeptKopf &kopf);

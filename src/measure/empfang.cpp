@@ -1,0 +1,109 @@
+#include "empfang.h"
+
+#include "controller.h"
+#include "fehler.h"
+#include "messablauf.h"
+#include "msgbox.h"
+#include "sechsrunden.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr int watchdogMilliseconds = 18'000;
+constexpr int transmissionMilliseconds = 120;
+
+/// A watchdog tells, it does not end the reception: the next data arm it again.
+void warn(Timer &timer, const Text &text) {
+    timer.setEnabled(false);
+    if (!gDesktopAktiv)
+        return;
+    gStopMessung = true;
+    meldung(text, Critical, {"Kommunikationsfehler", "Communication Error"});
+}
+
+} // namespace
+
+void fnc_SechsRundenStarten() {
+    try {
+        MSComm1.Output("6");
+        countedDelay(kurzeVerzögerung);
+    } catch (const Fehler &fehler) {
+        fehlerBox("Fehler 3001 - ", "ERROR 3001 - ", fehler);
+    }
+}
+
+SechsRundenEmpfang::SechsRundenEmpfang() {
+    Timer1_6R.onTick = [this] {
+        warn(Timer1_6R, {"Keine Daten bei ca. 3 x 6 Runden!", "No data at ca. 3 x 6 rounds!"});
+    };
+    Timer2_6R.onTick = [this] {
+        warn(Timer2_6R, {"Dauer der Übertragung nach C0 zu lang!", "Transmission to C0 takes too long!"});
+    };
+}
+
+void SechsRundenEmpfang::stop() {
+    Timer1_6R.setEnabled(false);
+    Timer1_6R.setInterval(0);
+    Timer2_6R.setEnabled(false);
+    Timer2_6R.setInterval(0);
+}
+
+void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) {
+    try {
+        Timer1_6R.setEnabled(false);
+        Timer2_6R.setInterval(transmissionMilliseconds);
+        Timer2_6R.setEnabled(false);
+        Timer1_6R.setInterval(watchdogMilliseconds);
+        MSComm1.discardInput();
+        SechsRundenDecoder decoder;
+        const auto goOn = [&anzeige] {
+            return gDesktopAktiv && gMessStatus <= 0 && !gTimeoutTimer1 && !anzeige.abgelöst();
+        };
+        using Ereignis = SechsRundenDecoder::Ereignis;
+        do {
+            pump();
+            // Asked before the line is looked at: whoever ended this pass may have closed it.
+            if (!goOn() || MSComm1.InBufferCount() == 0)
+                continue;
+            const QByteArray block = MSComm1.Input();
+            Timer1_6R.setEnabled(true);
+            for (const char byte : block) {
+                switch (decoder.feed(static_cast<std::uint8_t>(byte))) {
+                case Ereignis::Nichts:
+                    break;
+                case Ereignis::Sync:
+                    Timer1_6R.setEnabled(true);
+                    break;
+                case Ereignis::Drehzahl:
+                    anzeige.zeigeDrehzahl(decoder.value());
+                    break;
+                case Ereignis::Drehmoment:
+                    anzeige.zeigeDrehmoment(decoder.value());
+                    break;
+                case Ereignis::Leistung:
+                    anzeige.zeigeLeistung(decoder.value());
+                    Timer1_6R.setEnabled(false);
+                    anzeige.rahmenFertig();
+                    break;
+                }
+                if (!goOn())
+                    break;
+            }
+            if (goOn())
+                messablauf().nachBlock();
+        } while (goOn());
+        if (gTimeoutTimer1 && !anzeige.abgelöst()) {
+            gTimeoutTimer1 = false;
+            Timer2_6R.setEnabled(false);
+            meldung({"Nach 18 Sek kein Empfang", "No reception after 18 sec"}, Exclamation,
+                    {"Meldung", "Message"});
+        }
+    } catch (const Fehler &fehler) {
+        stop();
+        fehlerBox("Fehler 3002 - ", "ERROR 3002 - ", fehler);
+    }
+    stop();
+}

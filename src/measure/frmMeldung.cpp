@@ -1,0 +1,49 @@
+#include "frmMeldung.h"
+
+#include "frmMessen.h"
+#include "session.h"
+#include "sprache.h"
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Message"}, {"laMeldung1", "Attention!"}, {"laMeldung2", "Next Test Step!"}};
+
+constexpr std::int16_t startenAnzeigen = 10; // gMessStatus: the starting notice is to be shown
+
+} // namespace
+
+frmMeldung::frmMeldung() {
+    ui.setupUi(this);
+    mTimer1.onTick = handler([this] {
+        mTimer1.setEnabled(false);
+        unload();
+    });
+}
+
+void frmMeldung::Form_Load() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    if (auto *messen = loaded<frmMessen>())
+        messen->disable();
+    const auto zeilen = [this](const Text &erste, const Text &zweite) {
+        ui.laMeldung1->setText(inSprache(erste));
+        ui.laMeldung2->setText(inSprache(zweite));
+    };
+    if (gMessStatus == messstatus::Ende) {
+        zeilen({"Beenden", "Terminate"}, {"des Messens", "the Measuring"});
+    } else if (gMessStatus == startenAnzeigen) {
+        zeilen({"Starten", "Start"}, {"des Messens", "the Measuring"});
+        gMessStatus = messstatus::Messen;
+    }
+    mTimer1.setEnabled(true);
+}
+
+void frmMeldung::Form_Unload() {
+    auto *messen = loaded<frmMessen>();
+    if (!messen)
+        return;
+    messen->enable();
+    messen->ergometerFeldZeigen();
+}

@@ -1,0 +1,325 @@
+#include "frmMessen.h"
+
+#include <QHeaderView>
+
+#include "controller.h"
+#include "fehler.h"
+#include "front.h"
+#include "auswahl.h"
+#include "messwerte.h"
+#include "msgbox.h"
+#include "runtime.h"
+#include "session.h"
+#include "sprache.h"
+#include "waiting.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Six Rounds - Measuring"},
+    {"lbRezept", "Recipe:"},
+    {"lbToleranz", "Specification:"},
+    {"lbDrehR", "Direction of rotation:"},
+    {"lbKorrF", "Correction factor:"},
+    {"lbPrSchritt", "Test step"},
+    {"Frame2", "Setpoints"},
+    {"lbSoll_n", "Sp&eed:"},
+    {"lbEinheitSoll_n", "rpm"},
+    {"lbSoll_P", "P&ower:"},
+    {"lbPrArt", "Type of &measurement:"},
+    {"pbÜbernehmen", "&Apply"},
+    {"pbAusführen", "E&xecute"},
+    {"Frame1", "Working standard"},
+    {"lbIST_n", "Speed:"},
+    {"lbEinheitIST_n", "rpm"},
+    {"lbIST_D", "Torque:"},
+    {"lbIST_P", "Power:"},
+    {"Frame3", "Ergometer"},
+    {"lbIST_n_ergom", "Speed &reading:"},
+    {"lbEinheitErgom", "rpm"},
+    {"pbSpeichern", "&Save"},
+    {"pbFirst", "&First"},
+    {"pbPrevious", "&Previous"},
+    {"pbNext", "&Next"},
+    {"pbLast", "&Last"},
+    {"pbMessen", "&Current Step"},
+    {"pbFreieEing", "Free &Input"},
+    {"pbDrehzNull", "Speed &Zero"},
+    {"pbDynMess", "&Dynamic Measuring"},
+    {"laEinhaltung", "Compliance with MPE"},
+    {"pbAbbrechen", "&Terminate"},
+};
+
+} // namespace
+
+frmMessen::frmMessen() {
+    ui.setupUi(this);
+    ui.DBGrid1->setModel(&mRaster);
+    ui.DBGrid1->verticalHeader()->hide();
+    ui.DBGrid1->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    onClick(ui.pbFirst, [this] { navigieren(&frmMessen::zumErsten); });
+    onClick(ui.pbLast, [this] { navigieren(&frmMessen::zumLetzten); });
+    onClick(ui.pbNext, [this] { navigieren(&frmMessen::zumNächsten); });
+    onClick(ui.pbPrevious, [this] { navigieren(&frmMessen::zumVorherigen); });
+    onClick(ui.pbMessen, [this] { pbMessen_Click(); });
+    onClick(ui.pbSpeichern, [this] { pbSpeichern_Click(); });
+    onClick(ui.pbDynMess, [this] { pbDynMess_Click(); });
+    onClick(ui.pbAbbrechen, [this] { pbAbbrechen_Click(); });
+    eingabenVerdrahten();
+}
+
+void frmMessen::Form_Load() try {
+    front().disableFront();
+    fnc_BefehlSenden("E", gDrehrichtung, "00");
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    const bool deutsch = gSprache != 2;
+    ui.cmbMessArt->addItems(deutsch
+                                ? QStringList{"Leistungsmessung", "Drehzahlmessung"}
+                                : QStringList{"Power Measurement", "Speed Measurement"});
+    ui.cmbMessArt->setEditText({});
+    constexpr auto rechts = Qt::AlignRight | Qt::AlignVCenter;
+    constexpr auto mitte = Qt::AlignCenter;
+    const auto kopf = [deutsch](const char *de, const char *en) {
+        return QString(deutsch ? de : en);
+    };
+    mRaster.setSpalten({
+        {"Prüfschritt", kopf("Prüfschritt", "Test step"), mitte},
+        {"Soll_n", kopf("Soll n\n1/min", "Setpoint n\nrpm"), rechts},
+        {"Soll_P", kopf("Soll P\nW", "Setpoint P\nW"), rechts},
+        {"Ist_n_torvena", kopf("Normal n\n1/min", "Standard n\nrpm"), rechts},
+        {"Ist_D_torvena", kopf("Normal M\nN m", "Standard M\nN m"), rechts},
+        {"Ist_P_torvena", kopf("Normal P\nW", "Standard P\nW"), rechts},
+        {"Ist_n_ergom", kopf("Ergometer n\n1/min", "Ergometer n\nrpm"), rechts},
+        {"MU_ohne", kopf("ohne Berück. MU", "without regard to MU"), mitte},
+        {"MU_mit", kopf("mit Berück. MU", "with regard to MU"), mitte},
+    });
+    setFreeInput(ui.txtSoll_n, false);
+    setFreeInput(ui.txtSoll_P, false);
+    messablauf().beimÖffnen(*this);
+
+    mKorrF = 1;
+    ui.laKorrF->setText(Format(mKorrF, "0.0000"));
+    gMessungLäuft = true;
+    mDrehzNull = false;
+    mRezeptEnde = false;
+    if (gMessStatus == messstatus::Ende || gMessStatus == messstatus::Verweigert ||
+        gMessStatus == messstatus::Neu) {
+        gMessStatus = messstatus::Neu;
+    } else {
+        gMessStatus = messstatus::Ruhe;
+        gMessenFreigabe = true;
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 3010 - ", "ERROR 3010 - ", fehler);
+}
+
+void frmMessen::Form_Activate() try {
+    if (gMessStatus == messstatus::Ende || gMessStatus == messstatus::Verweigert) {
+        unload();
+        return;
+    }
+    if (gMessungLäuft)
+        ersteAktivierung();
+    if (!gMessungLäuft)
+        fnc_Messzyklus();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 3013 - ", "ERROR 3013 - ", fehler);
+}
+
+void frmMessen::ersteAktivierung() {
+    ui.laRezName->setText(auswahl().rezept);
+    ui.laDrehR->setText(front().drehrichtung());
+    if (messablauf().protokollErfragen()) {
+        ToleranzZeile zeile;
+        if (toleranzLesen(gToleranzID, zeile)) {
+            ui.txtToleranz->setText(zeile.bezeichnung);
+            mSpezifikation = zeile.spezifikation;
+        }
+    } else {
+        ui.txtToleranz->setText(gRezeptName);
+    }
+    dataRezept = messablauf().schritte();
+    if (messablauf().protokollErfragen()) {
+        ::screen(frm::ProtokollNr).showModal();
+    } else {
+        gMessungLäuft = false;
+        gMessStatus = messstatus::Messen;
+    }
+}
+
+bool frmMessen::Form_QueryUnload() try {
+    if (fnc_BefehlSenden("E", gDrehrichtung, "00"))
+        front().setDrehREnabled(true);
+    gMessStatus = messstatus::Ende;
+    gMessenFreigabe = false;
+    messablauf().beimVerlassen();
+    return true;
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 3021 - ", "ERROR 3021 - ", fehler);
+    return true;
+}
+
+void frmMessen::Form_Unload() {
+    front().enableFront();
+    front().focusBeenden();
+}
+
+void frmMessen::fnc_PrüfschrittAnzeigen() try {
+    ui.laPrSchritt->setText(dataRezept["Prüfschritt"].text());
+    mBasisDrehzahl = dataRezept["Drehzahl"].number();
+    ui.txtSoll_n->setText(Format(mBasisDrehzahl * mKorrF, "0.0"));
+    ui.txtSoll_P->setText(Format(dataRezept["Leistung"].number(), "0.0"));
+    if (gMessenAktiv)
+        fnc_MesswerteAnzeigen();
+    ui.txtIST_n_ergom->clear();
+    const int art = dataRezept["Prüfart"].whole();
+    if (art == 1 || art == 2)
+        messArtZeigen(art);
+    ui.txtIST_n_ergom->setVisible(art != 1);
+    fnc_GraphGrenzenSetzen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 3017 - ", "ERROR 3017 - ", fehler);
+}
+
+void frmMessen::fnc_MesswerteAnzeigen() {
+    gMessenAktiv = false;
+    dataMesswerte = protokollMesswerte(gProtokollID);
+    mRaster.setRecordset(dataMesswerte);
+}
+
+void frmMessen::fnc_Bewerten() try {
+    SchrittTexte texte{ui.txtSoll_n->text(), ui.txtSoll_P->text(), ui.txtIST_n_torvena->text(),
+                       ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()};
+    if (istLeistungsmessung()) {
+        const Unsicherheiten mu = unsicherheitLeistung();
+        try {
+            leistungBewerten(mUrteil, texte, mSpezifikation, mu);
+        } catch (const Fehler &) {
+            ui.txtIST_n_ergom->setText(texte.ist_n_ergom);
+            throw;
+        }
+        ui.txtIST_n_ergom->setText(texte.ist_n_ergom);
+    } else {
+        drehzahlBewerten(mUrteil, texte, mSpezifikation, unsicherheitDrehzahl());
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 3018 - ", "ERROR 3018 - ", fehler);
+}
+
+void frmMessen::pbSpeichern_Click() {
+    gMessStatus = messstatus::Speichern;
+    fnc_MesswertSpeichern();
+    // A row that could not be written leaves the measurement running and the step current.
+    if (gMessStatus == messstatus::Speichern)
+        gMessStatus = messstatus::Messen;
+}
+
+void frmMessen::fnc_MesswertSpeichern() try {
+    fnc_Bewerten();
+    const QString schritt = ui.laPrSchritt->text();
+    messwertSpeichern({gProtokollID, schritt,
+                       {ui.txtSoll_n->text(), ui.txtSoll_P->text(), ui.txtIST_n_torvena->text(),
+                        ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()},
+                       ui.txtIST_D_torvena->text(), mUrteil});
+    dataMesswerte = protokollMesswerte(gProtokollID);
+    mRaster.setRecordset(dataMesswerte);
+    if (schritt == freierSchritt ? dataMesswerte.findLast("Prüfschritt", schritt)
+                                 : dataMesswerte.findFirst("Prüfschritt", schritt)) {
+        ui.DBGrid1->selectRow(dataMesswerte.position());
+        ui.DBGrid1->scrollTo(mRaster.index(dataMesswerte.position(), 0));
+    }
+    ui.pbAusführen->setEnabled(false);
+    ui.pbSpeichern->setEnabled(false);
+    setWaiting(ui.pbSpeichern, false);
+    if (schritt != freierSchritt && !mRezeptEnde)
+        dataRezept.moveNext();
+    fnc_EingabeSperren();
+    fnc_MesswerteLeeren();
+    if (dataRezept.atEnd() && !mRezeptEnde) {
+        rezeptAbgearbeitet();
+        return;
+    }
+    gStopMessung = false;
+    gMessStatus = messstatus::Messen;
+    if (!mRezeptEnde)
+        ::screen(frm::Meldung).show();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 3016 - ", "ERROR 3016 - ", fehler);
+}
+
+void frmMessen::rezeptAbgearbeitet() {
+    meldung({"Das Rezept ist abgearbeitet!\r"
+             "Beenden Sie das Messen oder fahren Sie mit freier Eingabe fort!",
+             "The recipe has been run!\r"
+             "Terminate the measuring, or continue with Free Input!"},
+            Information, {"Meldung!", "Message!"});
+    dataRezept.movePrevious();
+    mRezeptEnde = true;
+    messablauf().rezeptEnde(*this); // the status first: a line that has gone does not hold it up
+    datenstromBeenden();
+}
+
+void frmMessen::pbMessen_Click() {
+    gMessStatus = messstatus::Messen;
+    fnc_MesswerteLeeren();
+    fnc_PrüfschrittAnzeigen();
+    ui.pbPlus->setEnabled(true);
+    ui.pbMinus->setEnabled(true);
+    ::screen(frm::Meldung).show();
+    if (messablauf().bedient())
+        ui.pbDrehzNull->setEnabled(true);
+}
+
+void frmMessen::pbDynMess_Click() {
+    gMessStatus = messstatus::Dynamisch;
+}
+
+void frmMessen::pbAbbrechen_Click() {
+    for (QPushButton *button : findChildren<QPushButton *>())
+        button->setEnabled(false);
+    gMessenFreigabe = false;
+    gMessStatus = messstatus::Ende;
+    ::screen(frm::Meldung).show();
+    if (mRezeptEnde)
+        unload();
+}
+
+void frmMessen::navigieren(void (frmMessen::*schritt)()) {
+    if (dataRezept.empty())
+        return;
+    (this->*schritt)();
+    fnc_PrüfschrittAnzeigen();
+    fnc_EingabeSperren();
+    ui.pbPlus->setEnabled(true);
+    ui.pbMinus->setEnabled(true);
+    aufAusführenWarten();
+    ui.pbAusführen->setFocus();
+}
+
+void frmMessen::zumErsten() {
+    dataRezept.moveFirst();
+}
+
+void frmMessen::zumLetzten() {
+    dataRezept.moveLast();
+}
+
+void frmMessen::zumNächsten() {
+    dataRezept.moveNext();
+    if (dataRezept.atEnd()) {
+        dataRezept.moveLast();
+        beep();
+    }
+}
+
+void frmMessen::zumVorherigen() {
+    dataRezept.movePrevious();
+    if (dataRezept.atStart()) {
+        dataRezept.moveFirst();
+        beep();
+    }
+}

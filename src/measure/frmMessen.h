@@ -1,0 +1,128 @@
+// The screen on which a protocol is measured: walks through the steps of a recipe, drives the
+// speed, shows what the working standard delivers, and stores each step that the operator saves.
+//
+// Everything that wants to change the course of a measurement sets gMessStatus; the pass that runs
+// reads it after each received byte (see fnc_Messzyklus).
+#pragma once
+
+#include "bewertung.h"
+#include "empfang.h"
+#include "fehler.h"
+#include "messablauf.h"
+#include "recordset.h"
+#include "recordsetmodel.h"
+#include "screens.h"
+#include "ui_frmMessen.h"
+
+/// Values of gMessStatus.
+namespace messstatus {
+enum : std::int16_t {
+    Messen = 0,     ///< the loop runs, or runs at the next activation
+    Speichern = 1,  ///< save and go on
+    FreieEingabe = 2,
+    Dynamisch = 3,
+    Ende = 4,       ///< end of the session
+    Verweigert = 5, ///< the controller refused; report and end
+    Ruhe = 6,       ///< nothing runs
+    MotorAus = 7,   ///< stop the motor, then nothing
+    Neu = 8,        ///< the screen was loaded again after 4 or 5
+};
+}
+
+class frmMessen : public Screen, private Messanzeige {
+  public:
+    static constexpr frm id = frm::Messen;
+    frmMessen();
+
+    /// Judges and stores the step that is shown and moves on to the next one.
+    void fnc_MesswertSpeichern();
+    /// What the notice does when it closes: the box for the ergometer's speed gets the keyboard in
+    /// a speed measurement and goes away in a power measurement.
+    void ergometerFeldZeigen();
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload() override;
+    void Form_Unload() override;
+
+  private:
+    // The pass (frmMessen_zyklus.cpp)
+    void fnc_Messzyklus();
+    void durchgang();
+    void verteilen();
+    void motorAbschalten();
+    bool fnc_SollwertSenden();
+    void fnc_NavigationFreigeben();
+    void zeigeDrehzahl(double drehzahl) override;
+    void zeigeDrehmoment(double drehmoment) override;
+    void zeigeLeistung(double leistung) override;
+    void rahmenFertig() override;
+    bool abgelöst() const override { return mNeuerDurchgang || unloaded(); }
+
+    // Steps, saving, leaving (frmMessen.cpp)
+    void ersteAktivierung();
+    void fnc_PrüfschrittAnzeigen();
+    void fnc_MesswerteAnzeigen();
+    void fnc_Bewerten();
+    void rezeptAbgearbeitet();
+    void pbSpeichern_Click();
+    void pbAbbrechen_Click();
+    void pbMessen_Click();
+    void pbDynMess_Click();
+    void navigieren(void (frmMessen::*schritt)());
+    void zumErsten();
+    void zumLetzten();
+    void zumNächsten();
+    void zumVorherigen();
+
+    // Set-points and free input (frmMessen_eingabe.cpp)
+    void eingabenVerdrahten();
+    void fnc_GraphGrenzenSetzen();
+    void fnc_EingabeSperren();
+    void fnc_MesswerteLeeren();
+    void istwerteLeeren();
+    bool fnc_DrehmomentPrüfen();
+    void fnc_DrehzahlPlus() { korrigieren(+0.1); }
+    void fnc_DrehzahlMinus() { korrigieren(-0.1); }
+    void korrigieren(double schritt);
+    void korrekturtaste(void (frmMessen::*richtung)());
+    void fnc_FreieEingabe();
+    void pbAusführen_Click();
+    void pbÜbernehmen_Click();
+    void pbFreieEing_Click();
+    void pbDrehzNull_Click();
+    void cmbMessArt_Click();
+    bool cmbMessArt_KeyPress(QKeyEvent &taste);
+    void cmbMessArt_Change();
+    void messArtZeigen(int art); // 1 power, 2 speed
+    void messArtSetzen(int art);
+    void ausführenFreigeben();
+    void aufAusführenWarten();
+    void sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenze, const Text &keineZahl,
+                        const Text &außerhalb);
+    void txtIST_n_ergom_LostFocus();
+    void speichernFreigeben(const QLineEdit *geändert);
+    bool istLeistungsmessung() const;
+    bool istDrehzahlmessung() const;
+
+    Ui::frmMessen ui;
+    RecordsetModel mRaster;
+    Recordset dataRezept;
+    Recordset dataMesswerte;
+    SechsRundenEmpfang mEmpfang;
+    Spezifikation mSpezifikation;
+    Urteil mUrteil;
+
+    double mBasisDrehzahl = 0; ///< speed of the step before the correction factor, 1/min
+    double mKorrF = 1;
+    QString mAltSoll_n;
+    QString mAltSoll_P;
+    QString mTaste;
+    bool mTasteNeu = false;
+    int mMessArt = 0; ///< 0 none, 1 power, 2 speed
+    bool mDrehzNull = false;
+    bool mRezeptEnde = false;
+    bool mDurchgangLäuft = false;
+    bool mNeuerDurchgang = false;
+};

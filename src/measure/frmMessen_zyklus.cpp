@@ -1,0 +1,138 @@
+// The pass of the measurement screen: one step from its set-point to the event that ends it.
+#include "frmMessen.h"
+
+#include "controller.h"
+#include "fehler.h"
+#include "messwerte.h"
+#include "msgbox.h"
+#include "runtime.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+constexpr long sehrKurzeVerzögerung = 10'000; // counted rounds, 0.5 ms
+}
+
+// A pass that is asked for while another waits for the stream does not run inside it. The older
+// one leaves its wait without touching line, boxes or status, and the loop here starts the new one.
+void frmMessen::fnc_Messzyklus() {
+    if (mDurchgangLäuft) {
+        mNeuerDurchgang = true;
+        return;
+    }
+    mDurchgangLäuft = true;
+    do {
+        mNeuerDurchgang = false;
+        try {
+            durchgang();
+        } catch (const Fehler &fehler) {
+            gMessenFreigabe = false;
+            fehlerBox("Fehler 3014 - ", "ERROR 3014 - ", fehler);
+        }
+    } while (mNeuerDurchgang && !unloaded());
+    mDurchgangLäuft = false;
+}
+
+void frmMessen::durchgang() {
+    if (gMessStatus == messstatus::Messen) {
+        gMessenFreigabe = true;
+        istwerteLeeren(); // what stands there was measured under another set-point
+        if (ui.laPrSchritt->text() != freierSchritt) {
+            fnc_PrüfschrittAnzeigen();
+            fnc_GraphGrenzenSetzen();
+        }
+        fnc_EingabeSperren();
+        if (fnc_SollwertSenden()) {
+            countedDelay(sehrKurzeVerzögerung);
+            fnc_SechsRundenStarten();
+            countedDelay(sehrKurzeVerzögerung);
+            if (messablauf().bedient())
+                fnc_NavigationFreigeben();
+            mEmpfang.fnc_SechsRundenEmpfang(*this);
+        }
+        if (abgelöst())
+            return;
+        gMessenFreigabe = false;
+    }
+    datenstromBeenden();
+    verteilen();
+}
+
+void frmMessen::verteilen() {
+    switch (gMessStatus) {
+    case messstatus::Speichern:
+        gMessStatus = messstatus::Messen;
+        messablauf().schrittFertig(*this);
+        break;
+    case messstatus::FreieEingabe:
+        gMessStatus = messstatus::Messen;
+        fnc_MesswerteLeeren();
+        fnc_FreieEingabe();
+        break;
+    case messstatus::Dynamisch:
+        if (DynamikMessung *dynamik = dynamikMessung())
+            dynamik->messen();
+        break;
+    case messstatus::Ende:
+        gMessenFreigabe = false;
+        motorAbschalten();
+        break;
+    case messstatus::Verweigert:
+        gMessenFreigabe = false;
+        meldung({"Fehler im Gerät oder in der Kommunikation",
+                 "Error in the unit under test, or communication error"},
+                Critical, {"Fehler", "Error"});
+        requestActivation(*this); // which leaves the screen
+        break;
+    case messstatus::MotorAus:
+        gMessStatus = messstatus::Ruhe;
+        motorAbschalten();
+        break;
+    default:
+        break;
+    }
+}
+
+void frmMessen::motorAbschalten() {
+    if (!fnc_BefehlSenden("E", gDrehrichtung, "00"))
+        meldung({"Fehler", "Error"}, Critical, {"Motor aus", "Motor Off"});
+}
+
+bool frmMessen::fnc_SollwertSenden() {
+    messablauf().vorSollwert();
+    if (fnc_BefehlSenden("E", gDrehrichtung, ui.txtSoll_n->text())) {
+        gMotorEin = true;
+        ui.pbAbbrechen->setEnabled(true);
+        if (messablauf().bedient())
+            ui.pbFreieEing->setEnabled(true);
+        return true;
+    }
+    meldung({"Fehler", "Error"}, Critical, {"Motor ein", "Motor On"});
+    ui.pbFreieEing->setEnabled(false);
+    gMessStatus = messstatus::Verweigert;
+    return false;
+}
+
+void frmMessen::fnc_NavigationFreigeben() {
+    for (QPushButton *button : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast, ui.pbMessen})
+        button->setEnabled(true);
+}
+
+void frmMessen::zeigeDrehzahl(double drehzahl) {
+    ui.txtIST_n_torvena->setText(Format(drehzahl, "0.00"));
+}
+
+void frmMessen::zeigeDrehmoment(double drehmoment) {
+    ui.txtIST_D_torvena->setText(Format(drehmoment, "0.00"));
+}
+
+void frmMessen::zeigeLeistung(double leistung) {
+    ui.txtIST_P_torvena->setText(Format(leistung, "0.00"));
+}
+
+void frmMessen::rahmenFertig() {
+    if (messablauf().bedient() && dynamikMessung())
+        ui.pbDynMess->setEnabled(true);
+}

@@ -1,0 +1,65 @@
+#include "frmNachStatNPK.h"
+
+#include "frmMessen.h"
+#include "frmStatMessen.h"
+#include "session.h"
+#include "sprache.h"
+
+namespace {
+
+constexpr Beschriftung english[] = {{"", "End Of The Static Zero-point Correction"},
+                                    {"laKopf", "Attention!"}};
+
+const Text ankoppeln{"Vor Beginn der Messung ist die Kreuzgelenkwelle "
+                     "am Normal anzukoppeln und auszurichten.",
+                     "Before beginning the measurement, the universal joint "
+                     "shaft has to be coupled to the normal, and aligned"};
+
+// gFormStatus of the lever-arm sequence
+constexpr std::int16_t korrekturFertig = 5;
+constexpr std::int16_t schwereEingegeben = 6;
+constexpr std::int16_t abgebrochen = 10;
+
+} // namespace
+
+frmNachStatNPK::frmNachStatNPK() {
+    ui.setupUi(this);
+    onClick(ui.pbok, [this] { pbok_Click(); });
+}
+
+void frmNachStatNPK::Form_Load() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    ui.laText->setText(inSprache(ankoppeln));
+    if (gFormStatus == korrekturFertig) {
+        anzeigen({"Vorbereitung der Hebelarmkalibrierung",
+                  "Preparations For The Lever Arm Calibration"},
+                 {"Montieren Sie den Hebelarm für Linkskalibrierung, wie in der "
+                  "Bedienungsanleitung beschrieben.\r"
+                  "Bitte achten Sie auf eine waagerechte Ausrichtung des Hebelarms!",
+                  "Mount the lever arm for left-handed calibration as described in the Operating "
+                  "Instructions.\rMake sure the lever arm is in horizontal position!"});
+    }
+}
+
+void frmNachStatNPK::anzeigen(const Text &titel, const Text &text) {
+    setCaption(inSprache(titel));
+    ui.laText->setText(QString(inSprache(text)).replace('\r', '\n'));
+}
+
+void frmNachStatNPK::pbok_Click() {
+    if (gFormStatus == korrekturFertig)
+        gFormStatus = gMessStatus != messstatus::Verweigert ? schwereEingegeben : abgebrochen;
+    unload();
+}
+
+void frmNachStatNPK::Form_Unload() {
+    // Without a finished correction no measurement may follow, whatever closed this screen.
+    auto *korrektur = loaded<frmStatMessen>();
+    const bool weiter = gFormStatus == 0 && gMessStatus != messstatus::Verweigert && korrektur;
+    if (korrektur)
+        korrektur->unload();
+    if (weiter)
+        ::screen<frmMessen>().show();
+}

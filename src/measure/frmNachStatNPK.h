@@ -1,0 +1,24 @@
+// Instruction behind the zero-point correction, and in the lever-arm sequence.
+#pragma once
+
+#include "fehler.h"
+#include "screens.h"
+#include "ui_frmNachStatNPK.h"
+
+class frmNachStatNPK : public Screen {
+  public:
+    static constexpr frm id = frm::NachStatNPK;
+    frmNachStatNPK();
+
+    /// Another caption and text than the ones that the stage of the sequence gives.
+    void anzeigen(const Text &titel, const Text &text);
+
+  protected:
+    void Form_Load() override;
+    void Form_Unload() override;
+
+  private:
+    void pbok_Click();
+
+    Ui::frmNachStatNPK ui;
+};

@@ -1,0 +1,252 @@
+#include "frmStatMessen.h"
+
+#include "controller.h"
+#include "database.h"
+#include "einlauf.h"
+#include "frmNachStatNPK.h"
+#include "front.h"
+#include "msgbox.h"
+#include "runtime.h"
+#include "session.h"
+#include "sprache.h"
+#include "statikwerte.h"
+
+using namespace platform;
+
+double gOffsetRoh = 0;
+double gGainRoh = 0;
+double gOffsetSoll = 0;
+double gGainSoll = 0;
+double gMomentFaktor = 0;
+double gOffsetDiff = 0;
+double gGainDiff = 0;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Static Zero-Point And Amplifier Correction"},
+    {"lbReferenz", "Reference"},
+    {"lbMesswert", "Measured"},
+    {"FrOffset", "Offset Drift"},
+    {"FrGain", "Gain Drift"},
+    {"lbOffsetDiff", "Deviation:"},
+    {"lbGainDiff", "Deviation:"},
+    {"laMeldung", "Static zero-point correction is terminated."},
+    {"pbWeiter", "&Continue"},
+    {"pbAbbrechen", "&Abort"},
+};
+
+constexpr int streamMilliseconds = 15'000;
+constexpr long weiterVerzögerung = 1'000'000; // counted rounds
+
+/// Stages of gEinlaufStatus.
+enum : std::int16_t { NichtBegonnen = 0, MotorWirdGestoppt = 1, Vorbereitet = 2, Gemessen = 3 };
+
+constexpr std::int16_t abgebrochen = 5;        // gMessStatus
+constexpr std::int16_t kalibrierungKorrektur = 4; // gFormStatus: the lever-arm sequence waits here
+constexpr std::int16_t kalibrierungAbgebrochen = 10;
+
+} // namespace
+
+frmStatMessen::frmStatMessen() {
+    ui.setupUi(this);
+    ui.laMeldung->hide();
+    onClick(ui.pbWeiter, [this] { pbWeiter_Click(); });
+    onClick(ui.pbAbbrechen, [this] { pbAbbrechen_Click(); });
+}
+
+void frmStatMessen::Form_Load() try {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    ui.txtOffset1->setText(Format(0, "0.000"));
+    Recordset normal = gDatenbank.open("SELECT * FROM Normalkalibrierdaten ORDER BY NK_ID");
+    normal.moveLast();
+    const bool rechts = gDrehrichtung == 1;
+    gOffsetSoll = normal["Offset"].number();
+    gGainSoll = normal[rechts ? "Gain_R" : "Gain_L"].number();
+    gMomentFaktor = normal[rechts ? "VK1_R" : "VK1_L"].number();
+    mSoll = {gOffsetSoll, gGainSoll, gMomentFaktor};
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 4040 - ", "ERROR 4040 - ", fehler);
+}
+
+void frmStatMessen::Form_Activate() try {
+    if (gEinlaufStatus == NichtBegonnen) {
+        gEinlaufStatus = MotorWirdGestoppt;
+        showInfo(inSprache({"Motor wird ausgeschaltet", "Motor is switched off."}));
+        fnc_StatVorbereiten();
+    } else if (gEinlaufStatus == Vorbereitet) {
+        gEinlaufStatus = Gemessen;
+        fnc_StatMessen();
+        if (unloaded())
+            return;
+        if (gMessStatus == abgebrochen)
+            pbAbbrechen_Click();
+        else
+            fnc_StatAbschluss();
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 4041 - ", "ERROR 4041 - ", fehler);
+}
+
+bool frmStatMessen::Form_QueryUnload() {
+    gMessenFreigabe = false;
+    return true;
+}
+
+void frmStatMessen::Form_Unload() {
+    if (gFormStatus == 0 && gMessStatus != abgebrochen && gErgebnis) {
+        gMessenFreigabe = true;
+        gMessStatus = 0;
+    }
+    if (gMessStatus == abgebrochen)
+        front().setMessenEnabled(false);
+}
+
+void frmStatMessen::fnc_StatVorbereiten() {
+    tiEinlauf.setEnabled(false);
+    gErgebnis = fnc_MotorAus();
+    beep();
+    if (gMessStatus != abgebrochen && !unloaded())
+        ::screen(frm::VorStatNPK).showModal();
+}
+
+void frmStatMessen::fnc_StatMessen() {
+    gErgebnis = fnc_Messung(codeOffset) && fnc_Messung(codeGain);
+    if (unloaded() || statikZulässig(gOffsetDiff, gGainDiff))
+        return;
+    auto &hinweis = ::screen<frmNachStatNPK>();
+    hinweis.anzeigen({"Toleranzüberschreitung", "Tolerance Exeeded"},
+                     {"Gerät ausschalten, wieder einschalten,\r"
+                      "Einlaufzeit einhalten und statische Korrektur wiederholen.\r\r"
+                      "Bei erneuter Toleranzüberschreitung Hotline anrufen.",
+                      "Switch the unit under test off, then switch it on again!\r"
+                      "Await the end of running-in time and repeat the static correction.\r\r"
+                      "In case of deviations, please call the service!"});
+    hinweis.showModal();
+    gMessStatus = abgebrochen;
+}
+
+bool frmStatMessen::mittelwertEmpfangen(std::uint8_t code, double &mittel) {
+    const bool offset = code == codeOffset;
+    countedDelay(kurzeVerzögerung);
+    Timer1.setEnabled(false);
+    Timer1.setInterval(streamMilliseconds);
+    gTimeoutTimer1 = false;
+    Timer1.setEnabled(true);
+    MSComm1.discardInput();
+    showInfo(inSprache(offset ? Text{"Offset messen", "Measure Offset"}
+                              : Text{"Gain messen", "Measure Gain"}));
+    MSComm1.Output(offset ? "f" : "t");
+    countedDelay(kurzeVerzögerung);
+
+    StatikDecoder decoder(code);
+    StatikMittel mean;
+    while (!mean.done() && !gTimeoutTimer1 && gDesktopAktiv && !unloaded()) {
+        pump();
+        if (unloaded() || MSComm1.InBufferCount() == 0)
+            continue;
+        for (const char byte : MSComm1.Input()) {
+            if (!decoder.feed(static_cast<std::uint8_t>(byte)))
+                continue;
+            mean.add(decoder.value());
+            if (mean.counted() > 0)
+                showInfo(QString::number(mean.counted()) +
+                         inSprache({" Messwerte", " Measuring Values"}));
+            if (mean.done())
+                break;
+        }
+    }
+    mittel = mean.mean();
+    return mean.done();
+}
+
+bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
+    double mittel = 0;
+    const bool empfangen = mittelwertEmpfangen(code, mittel);
+    if (gTimeoutTimer1 && !empfangen) {
+        Timer1.setEnabled(false);
+        gTimeoutTimer1 = false;
+        meldung({"Nach 15 Sek kein Empfang", "No reception after 15 sec!"}, Exclamation,
+                {"Meldung", "Message"});
+    }
+    Timer1.setEnabled(false);
+    datenstromBeenden();
+    if (!empfangen || unloaded())
+        return false;
+    if (code == codeOffset) {
+        gOffsetRoh = mittel;
+        const StatikErgebnis ergebnis = offsetErgebnis(gOffsetRoh, mSoll);
+        ui.txtOffset2->setText(Format(ergebnis.drift, "0.000"));
+        ui.lblOffsetDiff->setText(Format(ergebnis.drift, "0.000"));
+        gOffsetDiff = ergebnis.drift * 1000;
+        ui.AnzWert_O->setBalken(driftBalken(gOffsetDiff));
+    } else {
+        gGainRoh = mittel;
+        const StatikErgebnis ergebnis = gainErgebnis(gGainRoh, gOffsetRoh, mSoll);
+        ui.txtGain1->setText(Format(ergebnis.soll, "0.000"));
+        ui.txtGain2->setText(Format(ergebnis.ist, "0.000"));
+        ui.lblGainDiff->setText(Format(ergebnis.drift, "0.000"));
+        gGainDiff = ergebnis.drift * 1000;
+        ui.AnzWert_G->setBalken(driftBalken(gGainDiff));
+    }
+    return true;
+} catch (const Fehler &fehler) {
+    Timer1.setEnabled(false);
+    gTimeoutTimer1 = false;
+    fehlerBox("Fehler 4002 - ", "ERROR 4002 - ", fehler);
+    return false;
+}
+
+void frmStatMessen::fnc_StatAbschluss() {
+    if (gErgebnis)
+        fnc_StatSchreiben();
+    beep();
+    if (gErgebnis) {
+        ui.laMeldung->show();
+        showInfo({});
+        ui.pbWeiter->setEnabled(true);
+        ui.pbWeiter->setFocus();
+        return;
+    }
+    meldung({"Statische Nullpunkt-Korrektur abgebrochen",
+             "Static zero-point correction has been discontinued!"},
+            Exclamation, {"Meldung", "Message"});
+    if (frontScreen() == this) {
+        ui.pbWeiter->setEnabled(false);
+        ui.pbAbbrechen->setFocus();
+    }
+}
+
+void frmStatMessen::fnc_StatSchreiben() try {
+    MSComm1.Output(offsetBefehl(gOffsetRoh));
+    MSComm1.Output(momentFaktorBefehl(gMomentFaktor));
+} catch (const Fehler &fehler) {
+    gErgebnis = false; // nothing goes on with the controller's old values
+    fehlerBox("Fehler 4003 - ", "ERROR 4003 - ", fehler);
+}
+
+void frmStatMessen::pbWeiter_Click() try {
+    MSComm1.Output("-");
+    countedDelay(weiterVerzögerung);
+    MSComm1.Output("-");
+    if (gFormStatus == kalibrierungKorrektur) {
+        gFormStatus = kalibrierungKorrektur + 1;
+        unload();
+        return;
+    }
+    beep();
+    ::screen(frm::NachStatNPK).showModal();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 4042 - ", "ERROR 4042 - ", fehler);
+}
+
+void frmStatMessen::pbAbbrechen_Click() {
+    meldung({"Die Nullpunkt-Korrektur wurde abgebrochen!",
+             "The zero-point correction has been discontinued!"},
+            Critical, {"Fehler", "Error"});
+    gMessStatus = abgebrochen;
+    gFormStatus = kalibrierungAbgebrochen;
+    unload();
+}

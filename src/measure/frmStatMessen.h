@@ -1,0 +1,35 @@
+// Static zero-point correction and gain check: stops the motor, has the shaft uncoupled, reads
+// offset and gain at rest, judges them and writes them to the controller.
+#pragma once
+
+#include "screens.h"
+#include "statik.h"
+#include "ui_frmStatMessen.h"
+
+class frmStatMessen : public Screen {
+  public:
+    static constexpr frm id = frm::StatMessen;
+    frmStatMessen();
+
+    void showInfo(const QString &text) override { ui.laInfo->setText(text); }
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    bool Form_QueryUnload() override;
+    void Form_Unload() override;
+
+  private:
+    void fnc_StatVorbereiten();
+    void fnc_StatMessen();
+    bool fnc_Messung(std::uint8_t code);
+    bool mittelwertEmpfangen(std::uint8_t code, double &mittel);
+    void fnc_StatAbschluss();
+    void fnc_StatSchreiben();
+    void pbWeiter_Click();
+    void pbAbbrechen_Click();
+
+    Ui::frmStatMessen ui;
+    StatikSoll mSoll;
+    bool gErgebnis = false; ///< outcome of the last stage
+};

@@ -1,0 +1,45 @@
+#include "frmVorStatNPK.h"
+
+#include "session.h"
+#include "sprache.h"
+
+namespace {
+
+constexpr Beschriftung english[] = {{"", "Preparation For The Static Zero-point Correction"},
+                                    {"laKopf", "Attention!"}};
+
+const Text hebelarm{"1.Modus Hebelarmkalibrierung einschalten. \n"
+                    "2.Mit Break-Taste Markierung am Sechskant\n"
+                    "    senkrecht nach oben positionieren\n"
+                    "3.Hebelarm für Linkskalibrierung 30 s an\n"
+                    "    Sechskant waagerecht anhängen\n"
+                    "4.Hebelarm abkoppeln",
+                    "1.Switch on the lever arm calibration mode. \n"
+                    "2.Use the break key to position the mark at the hexagon\n"
+                    "    vertically upwards\n"
+                    "3.Hang the lever arm for left-handed calibration on the hexagon\n"
+                    "    horizontally for 30 s\n"
+                    "4.Take the lever arm off"};
+const Text abkoppeln{"Vor Durchführung der statischen Nullpunktkorrektur "
+                     "ist die Kreuzgelenkwelle am Normal abzukoppeln.",
+                     "Before carrying out the static zero-point correction, "
+                     "the universal joint shaft has to be uncoupled from the normal."};
+
+constexpr std::int16_t vorbereitet = 2; // gEinlaufStatus
+
+} // namespace
+
+frmVorStatNPK::frmVorStatNPK() {
+    ui.setupUi(this);
+    onClick(ui.pbok, [this] {
+        gEinlaufStatus = vorbereitet;
+        unload();
+    });
+}
+
+void frmVorStatNPK::Form_Load() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    ui.laText->setText(inSprache(gFormStatus != 0 ? hebelarm : abkoppeln));
+}

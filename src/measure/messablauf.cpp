@@ -1,0 +1,59 @@
+#include "messablauf.h"
+
+#include "frmMessen.h"
+#include "messwerte.h"
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+/// The flow of the operator.
+class OrdentlicherAblauf : public Messablauf {
+  public:
+    void beimÖffnen(frmMessen &) override {}
+    Recordset schritte() override { return rezeptSchritte(gRezeptID); }
+    bool protokollErfragen() const override { return true; }
+    bool bedient() const override { return true; }
+    void vorSollwert() override {}
+    void nachBlock() override {}
+    void schrittFertig(frmMessen &screen) override { screen.fnc_MesswertSpeichern(); }
+    void rezeptEnde(frmMessen &) override { gMessStatus = 6; }
+
+    void beimVerlassen() override {
+        if (protokollHatMesswerte(gProtokollID)) {
+            gBerichtAntwort = 6;
+            return;
+        }
+        if (protokollHatBlätter(gProtokollID))
+            return;
+        protokollkopfLöschen(gProtokollID);
+        meldung({"Protokoll enthält keine Daten und wird gelöscht!",
+                 "Protocol does not contain data and is deleted!"},
+                Information, {"Beenden", "Message"});
+    }
+};
+
+Messablauf *otherFlow = nullptr;
+DynamikMessung *dynamics = nullptr;
+
+} // namespace
+
+Messablauf &messablauf() {
+    static OrdentlicherAblauf ordinary;
+    return otherFlow ? *otherFlow : ordinary;
+}
+
+void setMessablauf(Messablauf *ablauf) {
+    otherFlow = ablauf;
+}
+
+DynamikMessung *dynamikMessung() {
+    return dynamics;
+}
+
+void setDynamikMessung(DynamikMessung *messung) {
+    dynamics = messung;
+}

@@ -1,0 +1,101 @@
+#include "statik.h"
+
+#include <QString>
+
+#include <cmath>
+
+#include "runtime.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr std::uint8_t syncByte = 0xFF;
+constexpr double rawPerUnit = 50;
+
+/// The leading `count` bytes of the number's hex digits, padded on the left.
+QByteArray hexBytes(double number, int count) {
+    const QString digits =
+        QString::number(static_cast<qint64>(number), 16).rightJustified(2 * count, '0');
+    return QByteArray::fromHex(digits.left(2 * count).toLatin1());
+}
+
+} // namespace
+
+bool StatikDecoder::feed(std::uint8_t byte) {
+    switch (mState) {
+    case State::Sync:
+        if (byte == syncByte)
+            mState = State::Code;
+        return false;
+    case State::Code:
+        if (byte == mCode) {
+            mState = State::InFrame;
+            mPosition = 0;
+        }
+        return false;
+    case State::InFrame:
+        break;
+    }
+    switch (mPosition) {
+    case 0:
+        mValue = byte * 65536.0;
+        break;
+    case 1:
+        mValue += byte * 256.0;
+        break;
+    case 2:
+        mValue = (mValue + byte) / 10;
+        break;
+    case 3:
+        if (byte != syncByte)
+            return false;
+        break;
+    default:
+        if (byte != mCode)
+            return false;
+        mPosition = 0;
+        return true;
+    }
+    ++mPosition;
+    return false;
+}
+
+void StatikMittel::add(double value) {
+    if (done())
+        return;
+    if (++mCount > verworfen)
+        mSum += value;
+}
+
+StatikErgebnis offsetErgebnis(double offsetRoh, const StatikSoll &soll) {
+    const double drift = (offsetRoh - soll.offset) / rawPerUnit * soll.momentFaktor;
+    return {0, drift, drift};
+}
+
+StatikErgebnis gainErgebnis(double gainRoh, double offsetRoh, const StatikSoll &soll) {
+    const double reference = soll.gain / rawPerUnit * soll.momentFaktor;
+    const double measured = (gainRoh - offsetRoh) / rawPerUnit * soll.momentFaktor;
+    return {reference, measured, measured - reference};
+}
+
+bool statikZulässig(double offsetDrift, double gainDrift) {
+    // Drifts are judged to a nanonewton metre, so that 0.300 N m is not above its limit by noise.
+    const auto within = [](double drift) { return std::fabs(Round(drift, 6)) <= statikGrenze; };
+    return within(offsetDrift) && within(gainDrift);
+}
+
+DriftBalken driftBalken(double drift) {
+    const double shown = Round(drift, 6);
+    const int width = static_cast<int>(std::fabs(Int(shown * balkenJeMNm)));
+    return {shown >= 0 ? balkenMitte : balkenMitte - width, width,
+            std::fabs(shown) >= statikWarnung};
+}
+
+QByteArray offsetBefehl(double offsetRoh) {
+    return "p" + hexBytes(Round(Round(offsetRoh, 1) * 10), 3);
+}
+
+QByteArray momentFaktorBefehl(double momentFaktor) {
+    return "w" + hexBytes(Round(momentFaktor * 10'000), 2);
+}

@@ -1,0 +1,255 @@
+#include "screen.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QWindow>
+
+#include "desk.h"
+#include "msgbox.h"
+
+namespace platform {
+
+namespace {
+std::function<void(const std::exception &)> uncaughtReporter;
+}
+
+Running::Running(Screen *screen)
+    : mScreen(screen) {
+    ++mScreen->mRunning;
+}
+
+Running::~Running() {
+    if (--mScreen->mRunning == 0 && mScreen->mUnloaded)
+        Desk::instance().buryLater();
+}
+
+HoldActivations::HoldActivations() {
+    Desk::instance().hold();
+}
+
+HoldActivations::~HoldActivations() {
+    Desk::instance().release();
+}
+
+Screen::Screen()
+    : QWidget(nullptr, Qt::Window) {
+    setAttribute(Qt::WA_QuitOnClose, false);
+}
+
+Screen::~Screen() = default;
+
+void Screen::show() {
+    if (mUnloaded)
+        return;
+    const bool first = !isVisible();
+    if (first) {
+        if (Screen *front = frontScreen(); front && front != this && front->isVisible()) {
+            adjustSize();
+            const QPoint centre = front->geometry().center() - rect().center();
+            move(std::max(centre.x(), 0), std::max(centre.y(), 0));
+            winId(); // makes the window, which is to stay above the one it came from
+            if (windowHandle() && front->windowHandle())
+                windowHandle()->setTransientParent(front->windowHandle());
+        }
+        QWidget::show();
+    }
+    raise();
+    activateWindow();
+    Desk::instance().moveFrontTo(*this);
+}
+
+void Screen::showModal() {
+    for (Screen *other : Desk::instance().visible()) {
+        if (other != this) {
+            ++other->mModalAbove;
+            mTakenOutOfUse.push_back(other);
+        }
+    }
+    show();
+}
+
+void Screen::leaveDesk() {
+    Desk &desk = Desk::instance();
+    for (Screen *other : std::exchange(mTakenOutOfUse, {})) {
+        --other->mModalAbove;
+        desk.becameUsable(*other);
+    }
+    for (Screen *other : desk.visible()) {
+        auto &taken = other->mTakenOutOfUse;
+        if (mUnloaded)
+            taken.erase(std::remove(taken.begin(), taken.end(), this), taken.end());
+    }
+    QWidget::hide();
+    desk.wentAway(*this);
+}
+
+void Screen::hide() {
+    leaveDesk();
+}
+
+bool Screen::unload() {
+    if (mUnloading || mUnloaded)
+        return true;
+    const Running running(this);
+    const HoldActivations hold;
+    mUnloading = true;
+    bool agreed = true;
+    guarded([&] { agreed = Form_QueryUnload(); });
+    if (!agreed) {
+        mUnloading = false;
+        return false;
+    }
+    guarded([this] { Form_Unload(); });
+    mUnloaded = true;
+    leaveDesk();
+    Desk::instance().retire(*this);
+    return true;
+}
+
+void Screen::setInUse(bool inUse) {
+    mInUse = inUse;
+    if (mInUse) {
+        unsetCursor();
+        Desk::instance().becameUsable(*this);
+    } else {
+        setCursor(Qt::WaitCursor);
+    }
+}
+
+void Screen::closeEvent(QCloseEvent *event) {
+    event->ignore(); // the screen itself decides when it goes
+    if (!usable() || mUnloading || mUnloaded)
+        return;
+    if (Desk::instance().held())
+        Desk::instance().closeLater(*this);
+    else
+        unload();
+}
+
+// Enter in a field that has no use for it presses the button that is drawn as the default one.
+void Screen::keyPressEvent(QKeyEvent *event) {
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        if (button->isDefault() && button->isEnabled() && button->isVisible()) {
+            button->click();
+            return;
+        }
+    }
+}
+
+void Screen::run(const Handler &handler) {
+    const Running running(this);
+    guarded(handler);
+}
+
+Screen::FilterHandlers &Screen::filterOf(QWidget *control) {
+    control->installEventFilter(this);
+    return mFilters[control];
+}
+
+void Screen::onClick(QAbstractButton *button, Handler handler) {
+    on(button, &QAbstractButton::clicked, std::move(handler));
+}
+
+void Screen::onEnter(QWidget *control, Handler handler) {
+    filterOf(control).enter = std::move(handler);
+}
+
+void Screen::onGotFocus(QWidget *control, Handler handler) {
+    filterOf(control).gotFocus = std::move(handler);
+}
+
+void Screen::onLostFocus(QWidget *control, Handler handler) {
+    filterOf(control).lostFocus = std::move(handler);
+}
+
+void Screen::onKey(QWidget *control, std::function<bool(QKeyEvent &)> handler) {
+    filterOf(control).key = std::move(handler);
+}
+
+bool Screen::eventFilter(QObject *watched, QEvent *event) {
+    const auto found = mFilters.find(watched);
+    if (found == mFilters.end() || mUnloaded)
+        return false;
+    const FilterHandlers &handlers = found->second;
+    switch (event->type()) {
+    case QEvent::KeyPress: {
+        auto &key = static_cast<QKeyEvent &>(*event);
+        bool used = false;
+        if (handlers.key)
+            run([&] { used = handlers.key(key); });
+        const bool enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+        if (!used && enter && handlers.enter) {
+            run(handlers.enter);
+            used = true;
+        }
+        return used;
+    }
+    case QEvent::FocusIn:
+        if (handlers.gotFocus)
+            run(handlers.gotFocus);
+        return false;
+    case QEvent::FocusOut: {
+        // Leaving for a menu, a popup or another window is no leaving of the field.
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (handlers.lostFocus && reason != Qt::ActiveWindowFocusReason &&
+            reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason)
+            run(handlers.lostFocus);
+        return false;
+    }
+    default:
+        return false;
+    }
+}
+
+void registerScreen(int id, std::function<std::unique_ptr<Screen>()> make) {
+    Desk::instance().add(id, std::move(make));
+}
+
+bool screenExists(int id) {
+    return Desk::instance().knows(id);
+}
+
+Screen &screenWithId(int id) {
+    return Desk::instance().get(id);
+}
+
+Screen *loadedScreen(int id) {
+    return Desk::instance().find(id);
+}
+
+Screen *frontScreen() {
+    return Desk::instance().front();
+}
+
+void requestActivation(Screen &screen) {
+    if (screen.isVisible() && !screen.unloaded())
+        Desk::instance().activate(screen);
+}
+
+void closeAllScreens() {
+    Desk::instance().clear();
+}
+
+void setUncaughtReporter(std::function<void(const std::exception &)> reporter) {
+    uncaughtReporter = std::move(reporter);
+}
+
+void guarded(const std::function<void()> &body) {
+    try {
+        body();
+    } catch (const std::exception &problem) {
+        if (uncaughtReporter)
+            uncaughtReporter(problem);
+        else
+            msgBox(problem.what(), Critical, "torvena");
+    }
+}
+
+} // namespace platform

@@ -1,0 +1,37 @@
+// Asks under which protocol the measurement runs: a new one, an existing one that has no measured
+// values yet, or the last one if nothing has changed since. Shown modally before a measurement.
+#pragma once
+
+#include "protokolldialog.h"
+#include "ui_frmProtokollNr.h"
+
+class frmProtokollNr : public Protokolldialog {
+  public:
+    static constexpr frm id = frm::ProtokollNr;
+    frmProtokollNr();
+
+  protected:
+    void Form_Load() override;
+    QString titel() const override;
+
+  private:
+    void beschriften();
+    void fnc_LeereProtokolle();
+    bool fnc_LetztesProtokollPrüfen();
+    void fnc_ProtokollNrNeu();
+    void listeZeigen(int zeile);
+
+    void obNeu_Click();
+    void obVorhanden_Click();
+    void obLetztes_Click();
+    void cmbVorhanden_Click();
+    void cmbVorhanden_Change();
+    void cmbVorhanden_KeyPress();
+    void pbok_Click();
+    void pbexit_Click();
+
+    Ui::frmProtokollNr ui;
+    std::int32_t mnLetztesProtokoll = 0;   // highest with measured values
+    std::int16_t mnLetztesProtokollID = 0; // the same once it may be continued
+    QString msLetzterName;
+};

@@ -1,0 +1,94 @@
+// Every screen of the program by name. The classes behind the names are bound in app/screens.cpp
+// alone, so that a low floor can show a high screen without knowing it.
+#pragma once
+
+#include "screen.h"
+
+enum class frm {
+    // start-up and desktop
+    Splash,
+    Login,
+    Desktop,
+    MotorDrehR,
+    Meldung1,
+    Refresh,
+    // link
+    Interface,
+    SecondInterface,
+    Einlaufen,
+    // master data
+    Kunden,
+    NeuKunde,
+    ÄndKund,
+    LöschKunde,
+    Gerät,
+    NeuGerät,
+    ÄndGerät,
+    LöschGerät,
+    Rezepte,
+    NeuRezept,
+    ÄndRez,
+    RezeptKopie,
+    Toleranzen,
+    // measurement
+    StatMessen,
+    VorStatNPK,
+    NachStatNPK,
+    Messen,
+    Meldung,
+    GraphLite,
+    SetScale,
+    // calibration of the stand
+    Kalibrierung,
+    MomentKal,
+    Oberfl,
+    History,
+    // protocols
+    ProtokollNr,
+    ProtokollNr_1,
+    Blutdruck,
+    BlutdruckAbfrage,
+    SecControl,
+    Bericht,
+    Bericht1,
+    PrinterPDF,
+    Sort,
+    DeleteExtended,
+    // final test
+    Endprüf,
+    EPRezepte,
+    EPÄndRez,
+    EPNeuRezept,
+    Test,
+};
+
+/// The one instance, made and loaded on first use.
+inline Screen &screen(frm name) {
+    return platform::screenWithId(static_cast<int>(name));
+}
+
+/// The instance if it is loaded.
+inline Screen *loaded(frm name) {
+    return platform::loadedScreen(static_cast<int>(name));
+}
+
+/// True when a class is bound to the name.
+inline bool exists(frm name) {
+    return platform::screenExists(static_cast<int>(name));
+}
+
+// Typed access, for the own floor and below: each class says `static constexpr frm id`.
+template <class S>
+S &screen() {
+    return static_cast<S &>(screen(S::id));
+}
+
+template <class S>
+S *loaded() {
+    return static_cast<S *>(loaded(S::id));
+}
+
+template <class S>
+void bindScreen() {
+    platform::registerScreen(static_cast<int>(S::id), [] { return std::make_unique<S>(); });
+}

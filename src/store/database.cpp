@@ -1,0 +1,193 @@
+#include "database.h"
+
+#include <QFileInfo>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+#include <sqlite3.h>
+
+#include "msgbox.h"
+#include "runtime.h"
+#include "session.h"
+#include "sprache.h"
+#include "sqltext.h"
+
+using namespace platform;
+
+Datenbank gDatenbank;
+
+namespace {
+
+constexpr int busyMilliseconds = 400; // long enough for a backup tool, short enough for a person
+
+Fehler fehlerOf(const SQLite::Exception &problem) {
+    const QString words = QString::fromUtf8(problem.what());
+    switch (problem.getErrorCode()) {
+    case SQLITE_CANTOPEN:
+        return {fehlernummer::DatabaseNotFound,
+                {"Die Datenbank oder ihre Begleitdatei kann nicht geöffnet werden. Bitte prüfen "
+                 "Sie, ob sie im Arbeitsverzeichnis liegt und beschreibbar ist.",
+                 "The database or its journal cannot be opened. Please check that it lies in the "
+                 "working directory and can be written."}};
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return {fehlernummer::DatabaseLocked,
+                {"Die Datenbank ist von einem anderen Programm gesperrt. Bitte schließen Sie es.",
+                 "The database is locked by another program. Please close it."}};
+    case SQLITE_READONLY:
+        return {fehlernummer::ReadOnly,
+                {"Die Datenbank ist schreibgeschützt. Es wurde nichts gespeichert.",
+                 "The database is read-only. Nothing has been saved."}};
+    case SQLITE_NOTADB:
+    case SQLITE_CORRUPT:
+        return {fehlernummer::DatabaseDamaged,
+                {"Die Datenbank ist beschädigt. Bitte spielen Sie eine Sicherungskopie ein.",
+                 "The database is damaged. Please restore a safety copy."}};
+    case SQLITE_CONSTRAINT:
+        return {fehlernummer::DuplicateKey,
+                {"Der Datensatz verletzt einen Schlüssel: " + words,
+                 "The record violates a key: " + words}};
+    default:
+        break;
+    }
+    if (words.startsWith("no such table"))
+        return {fehlernummer::MissingTable,
+                {"Die Tabelle wurde nicht gefunden: " + words, "Table not found: " + words}};
+    if (words.startsWith("no such column") || words.contains("has no column named"))
+        return {fehlernummer::MissingColumn,
+                {"Die Spalte wurde nicht gefunden: " + words, "Column not found: " + words}};
+    return {fehlernummer::StatementFailed,
+            {"Die Anweisung ist fehlgeschlagen: " + words, "The statement failed: " + words}};
+}
+
+template <class Body>
+auto translated(Body body) {
+    try {
+        return body();
+    } catch (const SQLite::Exception &problem) {
+        throw fehlerOf(problem);
+    }
+}
+
+void bind(SQLite::Statement &statement, int index, const QVariant &value) {
+    if (value.isNull())
+        statement.bind(index);
+    else if (value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float)
+        statement.bind(index, value.toDouble());
+    else if (value.canConvert<qlonglong>() && value.typeId() != QMetaType::QString)
+        statement.bind(index, static_cast<int64_t>(value.toLongLong()));
+    else
+        statement.bind(index, value.toString().toStdString());
+}
+
+QVariant valueOf(const SQLite::Column &column) {
+    if (column.isNull())
+        return {};
+    if (column.isInteger())
+        return QVariant::fromValue<qlonglong>(column.getInt64());
+    if (column.isFloat())
+        return column.getDouble();
+    return QString::fromStdString(column.getString());
+}
+
+QString textOf(sqlite3_value *value) {
+    const auto *bytes = reinterpret_cast<const char *>(sqlite3_value_text(value));
+    return QString::fromUtf8(bytes, sqlite3_value_bytes(value));
+}
+
+} // namespace
+
+Datenbank::Datenbank() = default;
+Datenbank::~Datenbank() = default;
+
+void Datenbank::openFile(const QString &path) {
+    close();
+    if (!QFileInfo::exists(path)) {
+        throw Fehler(fehlernummer::DatabaseNotFound,
+                     {"Die Datei \"" + path + "\" wurde im Arbeitsverzeichnis nicht gefunden.",
+                      "The file \"" + path + "\" was not found in the working directory."});
+    }
+    translated([&] {
+        auto database = std::make_unique<SQLite::Database>(path.toStdString(),
+                                                           SQLite::OPEN_READWRITE, busyMilliseconds);
+        database->exec("PRAGMA synchronous=FULL");
+        database->exec("SELECT count(*) FROM sqlite_master"); // reads: a damaged file tells now
+        mDatabase = std::move(database);
+        registerFunctions();
+    });
+}
+
+void Datenbank::createFile(const QString &path, const std::vector<QString> &scripts) {
+    translated([&] {
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        SQLite::Transaction whole(database);
+        for (const QString &script : scripts)
+            database.exec(script.toStdString());
+        whole.commit();
+    });
+}
+
+void Datenbank::close() {
+    mDatabase.reset();
+}
+
+void Datenbank::registerFunctions() {
+    const auto add = [this](const char *name, int arguments, auto function) {
+        mDatabase->createFunction(name, arguments, true, nullptr, function, nullptr, nullptr,
+                                  nullptr);
+    };
+    add("Val", 1, [](sqlite3_context *context, int, sqlite3_value **values) {
+        sqlite3_result_double(context, Val(textOf(values[0])));
+    });
+    add("Muster", 2, [](sqlite3_context *context, int, sqlite3_value **values) {
+        sqlite3_result_int(context, passtZumMuster(textOf(values[0]), textOf(values[1])));
+    });
+}
+
+SQLite::Database &Datenbank::database() {
+    if (!mDatabase) {
+        throw Fehler(fehlernummer::DatabaseNotOpen,
+                     {"Die Datenbank ist nicht geöffnet.", "The database is not open."});
+    }
+    return *mDatabase;
+}
+
+SQLite::Statement Datenbank::prepare(const QString &sql, const Params &params) {
+    SQLite::Statement statement(database(), sql.toStdString());
+    for (size_t i = 0; i < params.size(); ++i)
+        bind(statement, static_cast<int>(i) + 1, params[i]);
+    return statement;
+}
+
+Recordset Datenbank::open(const QString &sql, const Params &params) {
+    return translated([&] {
+        SQLite::Statement statement = prepare(sql, params);
+        QStringList columns;
+        for (int i = 0; i < statement.getColumnCount(); ++i)
+            columns += QString::fromUtf8(statement.getColumnName(i));
+        std::vector<std::vector<QVariant>> rows;
+        while (statement.executeStep()) {
+            std::vector<QVariant> row;
+            row.reserve(static_cast<size_t>(columns.size()));
+            for (int i = 0; i < columns.size(); ++i)
+                row.push_back(valueOf(statement.getColumn(i)));
+            rows.push_back(std::move(row));
+        }
+        return Recordset(std::move(columns), std::move(rows));
+    });
+}
+
+int Datenbank::execute(const QString &sql, const Params &params) {
+    return translated([&] { return prepare(sql, params).exec(); });
+}
+
+std::int16_t fnc_DatenbankÖffnen() {
+    try {
+        gDatenbank.openFile(datenbankName);
+    } catch (const Fehler &fehler) {
+        fehlerMerken(fehler);
+        meldung({"Fehler 1002-" + Str(fehler.number()) + ' ' + gFehlerText,
+                 "Error 1002-" + Str(fehler.number()) + ' ' + gFehlerText},
+                Critical, {"Fehler", "Error"});
+    }
+    return 0;
+}

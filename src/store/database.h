@@ -1,0 +1,57 @@
+// The one database. Values are bound, never written into the statement, so an apostrophe is a
+// letter like any other. Each statement is whole on disk before the next one runs.
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+#include <memory>
+#include <vector>
+
+#include "fehler.h"
+#include "recordset.h"
+
+namespace SQLite {
+class Database;
+class Statement;
+} // namespace SQLite
+
+class Datenbank {
+  public:
+    using Params = std::vector<QVariant>; ///< texts, whole numbers, doubles, or null
+
+    Datenbank();
+    ~Datenbank();
+    Datenbank(const Datenbank &) = delete;
+    Datenbank &operator=(const Datenbank &) = delete;
+
+    /// Opens an existing file; it is never created here. Raises DatabaseNotFound, DatabaseDamaged
+    /// or DatabaseLocked.
+    void openFile(const QString &path);
+    /// Makes a new file by running whole scripts in it, and closes it again.
+    static void createFile(const QString &path, const std::vector<QString> &scripts);
+    void close();
+    bool isOpen() const { return mDatabase != nullptr; }
+
+    /// A snapshot of the rows. Raises MissingTable, MissingColumn, or StatementFailed with the
+    /// engine's words.
+    Recordset open(const QString &sql, const Params &params = {});
+    /// Writes and answers how many rows were touched. Raises DuplicateKey besides those of open().
+    int execute(const QString &sql, const Params &params = {});
+
+  private:
+    SQLite::Database &database();
+    SQLite::Statement prepare(const QString &sql, const Params &params);
+    void registerFunctions();
+
+    std::unique_ptr<SQLite::Database> mDatabase;
+};
+
+extern Datenbank gDatenbank;
+
+/// Name of the database in use, in the current directory.
+inline constexpr const char *datenbankName = "torvena470.mdb";
+
+/// Opens the database of the current directory into gDatenbank. What fails is shown in a box, not
+/// raised. Answers 0 always.
+std::int16_t fnc_DatenbankÖffnen();

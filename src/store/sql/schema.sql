@@ -1,0 +1,495 @@
+-- All tables of torvena470.mdb.
+--
+-- The program moves rows with INSERT INTO ... SELECT * and reads several tables by position, so
+-- the order of columns is part of the contract: new columns go to the end, and in a pair to both.
+--
+-- Text compares without regard to case (A to Z only; Ä and ä differ). Dates are ISO text in local
+-- time. Yes/No is -1/0. Identifiers with umlauts must be written in the case used here.
+--
+-- Nothing cascades: the program deletes table by table.
+--
+-- ToDo and Normalkalibrierdaten_neu are missing on purpose. Only an update file has them, and the
+-- absence of ToDo is how a plain database is told from an update.
+
+
+-- Customers and units --------------------------------------------------------------------------
+
+CREATE TABLE Kunden (
+    KundenID    INTEGER PRIMARY KEY AUTOINCREMENT,
+    Name        TEXT COLLATE NOCASE,
+    Straße      TEXT COLLATE NOCASE,
+    PLZ         TEXT COLLATE NOCASE,
+    Ort         TEXT COLLATE NOCASE
+);
+CREATE INDEX KundenName ON Kunden (Name);
+CREATE INDEX KundenOrt ON Kunden (Ort);
+
+CREATE TABLE Ergometer (
+    GerätID     INTEGER PRIMARY KEY AUTOINCREMENT,
+    KundenID    INTEGER,
+    Gerätetyp   TEXT COLLATE NOCASE,
+    Hersteller  TEXT COLLATE NOCASE,
+    SerienNr    TEXT COLLATE NOCASE,
+    IdentNr     TEXT COLLATE NOCASE     -- unique over all customers; kept so by the program
+);
+CREATE INDEX ErgometerKundenID ON Ergometer (KundenID);
+CREATE INDEX ErgometerIdentNr ON Ergometer (IdentNr);
+
+
+-- Specifications and recipes -------------------------------------------------------------------
+
+-- NUMERIC keeps 5 as 5 and 7.5 as 7.5, also in the texts of the specification list.
+CREATE TABLE Toleranzen (
+    ID              INTEGER PRIMARY KEY AUTOINCREMENT,
+    Bezeichnung     TEXT COLLATE NOCASE,
+    Prozent         NUMERIC,            -- % of the set power
+    Watt            NUMERIC,            -- W, the least permissible deviation of power
+    GrenzAbw        NUMERIC,            -- 1/min
+    GKlasse         TEXT COLLATE NOCASE,
+    Messverfahren   TEXT COLLATE NOCASE
+);
+
+CREATE TABLE Rezeptnamen (
+    RezeptID    INTEGER PRIMARY KEY AUTOINCREMENT,
+    RezName     TEXT COLLATE NOCASE,
+    Toleranz    TEXT COLLATE NOCASE,    -- filled by updates from old files only
+    ToleranzID  INTEGER
+);
+CREATE INDEX RezeptnamenRezName ON Rezeptnamen (RezName);
+
+-- The three tables of steps have the same columns: both recipe editors work on the one copy in
+-- ÄndRez_temp, and its rows go back with SELECT *. Rezepte leaves the last two columns empty.
+--
+-- No unique key: renumbering moves step by step, and a step may stand twice for a moment.
+CREATE TABLE Rezepte (
+    RezeptID        INTEGER,
+    Prüfschritt     TEXT COLLATE NOCASE,    -- number from 1
+    Drehzahl        TEXT COLLATE NOCASE,    -- 1/min
+    Leistung        NUMERIC,                -- W
+    Prüfart         TEXT COLLATE NOCASE,    -- '1' power, '2' speed measurement
+    SSCode          TEXT COLLATE NOCASE,    -- load line to the ergometer, e.g. W150[13]
+    MessSchritte    TEXT COLLATE NOCASE     -- number of six-round measurements
+);
+CREATE INDEX RezepteSchritt ON Rezepte (RezeptID, Prüfschritt);
+
+CREATE TABLE ÄndRez_temp (
+    RezeptID        INTEGER,
+    Prüfschritt     TEXT COLLATE NOCASE,
+    Drehzahl        TEXT COLLATE NOCASE,
+    Leistung        NUMERIC,
+    Prüfart         TEXT COLLATE NOCASE,
+    SSCode          TEXT COLLATE NOCASE,
+    MessSchritte    TEXT COLLATE NOCASE
+);
+
+CREATE TABLE EP_Rezeptnamen (
+    RezeptID        INTEGER PRIMARY KEY AUTOINCREMENT,
+    RezName         TEXT COLLATE NOCASE,
+    Toleranz        TEXT COLLATE NOCASE,    -- the class itself, no reference
+    LetzterAufruf   INTEGER DEFAULT 0       -- -1 on the recipe used last
+);
+
+CREATE TABLE EP_Rezepte (
+    RezeptID        INTEGER,
+    Prüfschritt     TEXT COLLATE NOCASE,
+    Drehzahl        TEXT COLLATE NOCASE,
+    Leistung        NUMERIC,
+    Prüfart         TEXT COLLATE NOCASE,
+    SSCode          TEXT COLLATE NOCASE,
+    MessSchritte    TEXT COLLATE NOCASE
+);
+CREATE INDEX EP_RezepteSchritt ON EP_Rezepte (RezeptID, Prüfschritt);
+
+
+-- Protocols: working tables (_temp) and archive ------------------------------------------------
+
+-- The number is given by the program, the highest of both tables plus one. A head that comes a
+-- second time raises a duplicate key.
+CREATE TABLE Protokoll_temp (
+    ProtokollID     INTEGER PRIMARY KEY,
+    Protokollname   TEXT COLLATE NOCASE,
+    Prüfername      TEXT COLLATE NOCASE,
+    GerätID         INTEGER,
+    KundenID        INTEGER,
+    Drehrichtung    INTEGER,                -- 1 right, 2 left
+    PrüfungsArt     INTEGER,                -- Toleranzen.ID
+    NK_ID           INTEGER,
+    Messverfahren   TEXT COLLATE NOCASE,
+    ErstellDatum    TEXT DEFAULT (date('now', 'localtime'))
+);
+CREATE INDEX Protokoll_tempKundenID ON Protokoll_temp (KundenID);
+CREATE INDEX Protokoll_tempGerätID ON Protokoll_temp (GerätID);
+
+CREATE TABLE Protokoll (
+    ProtokollID     INTEGER PRIMARY KEY,
+    Protokollname   TEXT COLLATE NOCASE,
+    Prüfername      TEXT COLLATE NOCASE,
+    GerätID         INTEGER,
+    KundenID        INTEGER,
+    Drehrichtung    INTEGER,
+    PrüfungsArt     INTEGER,
+    NK_ID           INTEGER,
+    Messverfahren   TEXT COLLATE NOCASE,
+    ErstellDatum    TEXT DEFAULT (date('now', 'localtime'))
+);
+CREATE INDEX ProtokollKundenID ON Protokoll (KundenID);
+CREATE INDEX ProtokollGerätID ON Protokoll (GerätID);
+
+-- Values are the texts of the screen, with the decimal sign of the session that saved them.
+-- No unique key: free steps ('FR') repeat, in the order of MDat.
+CREATE TABLE Messwerte_temp (
+    ProtokollID     INTEGER,
+    Prüfschritt     TEXT COLLATE NOCASE,    -- number from 1, or 'FR'
+    Soll_n          TEXT COLLATE NOCASE,    -- 1/min
+    Soll_P          TEXT COLLATE NOCASE,    -- W
+    Ist_n_torvena   TEXT COLLATE NOCASE,    -- 1/min
+    Ist_D_torvena   TEXT COLLATE NOCASE,    -- N m
+    Ist_P_torvena   TEXT COLLATE NOCASE,    -- W
+    Ist_n_ergom     TEXT COLLATE NOCASE,    -- 1/min, '0' after a power measurement
+    MU_ohne         TEXT COLLATE NOCASE,    -- ja, nein; yes, no
+    MU_mit          TEXT COLLATE NOCASE,    -- ja, nein; yes, no; ?
+    MU_Proz         NUMERIC,                -- %
+    MDat            TEXT DEFAULT (strftime('%Y-%m-%d %H:%M:%f', 'now', 'localtime'))
+);
+CREATE INDEX Messwerte_tempSchritt ON Messwerte_temp (ProtokollID, Prüfschritt);
+
+CREATE TABLE Messwerte (
+    ProtokollID     INTEGER,
+    Prüfschritt     TEXT COLLATE NOCASE,
+    Soll_n          TEXT COLLATE NOCASE,
+    Soll_P          TEXT COLLATE NOCASE,
+    Ist_n_torvena   TEXT COLLATE NOCASE,
+    Ist_D_torvena   TEXT COLLATE NOCASE,
+    Ist_P_torvena   TEXT COLLATE NOCASE,
+    Ist_n_ergom     TEXT COLLATE NOCASE,
+    MU_ohne         TEXT COLLATE NOCASE,
+    MU_mit          TEXT COLLATE NOCASE,
+    MU_Proz         NUMERIC,
+    MDat            TEXT DEFAULT (strftime('%Y-%m-%d %H:%M:%f', 'now', 'localtime'))
+);
+CREATE INDEX MesswerteSchritt ON Messwerte (ProtokollID, Prüfschritt);
+
+-- Seven rows a protocol, 0 to 300 mmHg.
+CREATE TABLE Blutdruck_temp (
+    ProtokollID         INTEGER,
+    Normalanzeige       INTEGER,            -- mmHg
+    auf                 TEXT COLLATE NOCASE,
+    ab                  TEXT COLLATE NOCASE,
+    MU                  TEXT COLLATE NOCASE,
+    NormalNr_BD         TEXT COLLATE NOCASE,
+    KennNr_BD           TEXT COLLATE NOCASE,
+    kalibriertVon_BD    TEXT COLLATE NOCASE,
+    kalibriertBis_BD    TEXT COLLATE NOCASE,
+    kalScheinNr_BD      TEXT COLLATE NOCASE
+);
+CREATE UNIQUE INDEX Blutdruck_tempStufe ON Blutdruck_temp (ProtokollID, Normalanzeige);
+
+CREATE TABLE Blutdruck (
+    ProtokollID         INTEGER,
+    Normalanzeige       INTEGER,
+    auf                 TEXT COLLATE NOCASE,
+    ab                  TEXT COLLATE NOCASE,
+    MU                  TEXT COLLATE NOCASE,
+    NormalNr_BD         TEXT COLLATE NOCASE,
+    KennNr_BD           TEXT COLLATE NOCASE,
+    kalibriertVon_BD    TEXT COLLATE NOCASE,
+    kalibriertBis_BD    TEXT COLLATE NOCASE,
+    kalScheinNr_BD      TEXT COLLATE NOCASE
+);
+CREATE UNIQUE INDEX BlutdruckStufe ON Blutdruck (ProtokollID, Normalanzeige);
+
+-- One row a protocol. GW limit value, MU uncertainty.
+CREATE TABLE SecControl_temp (
+    ProtokollID         INTEGER PRIMARY KEY,
+    NormalNr_STK        TEXT COLLATE NOCASE,
+    KennNr_STK          TEXT COLLATE NOCASE,
+    kalibriertVon_STK   TEXT COLLATE NOCASE,
+    kalibriertBis_STK   TEXT COLLATE NOCASE,
+    KalScheinNr_STK     TEXT COLLATE NOCASE,
+    Messverfahren_STK   TEXT COLLATE NOCASE,
+    SchutzleiterR       TEXT COLLATE NOCASE,    -- Ohm
+    IsolationsR         TEXT COLLATE NOCASE,    -- MOhm
+    GeräteableitI       TEXT COLLATE NOCASE,    -- mA
+    SchutzleiterR_GW    TEXT COLLATE NOCASE,
+    IsolationsR_GW      TEXT COLLATE NOCASE,
+    GeräteableitI_GW    TEXT COLLATE NOCASE,
+    SchutzleiterR_MU    TEXT COLLATE NOCASE,
+    IsolationsR_MU      TEXT COLLATE NOCASE,
+    GeräteableitI_MU    TEXT COLLATE NOCASE
+);
+
+CREATE TABLE SecControl (
+    ProtokollID         INTEGER PRIMARY KEY,
+    NormalNr_STK        TEXT COLLATE NOCASE,
+    KennNr_STK          TEXT COLLATE NOCASE,
+    kalibriertVon_STK   TEXT COLLATE NOCASE,
+    kalibriertBis_STK   TEXT COLLATE NOCASE,
+    KalScheinNr_STK     TEXT COLLATE NOCASE,
+    Messverfahren_STK   TEXT COLLATE NOCASE,
+    SchutzleiterR       TEXT COLLATE NOCASE,
+    IsolationsR         TEXT COLLATE NOCASE,
+    GeräteableitI       TEXT COLLATE NOCASE,
+    SchutzleiterR_GW    TEXT COLLATE NOCASE,
+    IsolationsR_GW      TEXT COLLATE NOCASE,
+    GeräteableitI_GW    TEXT COLLATE NOCASE,
+    SchutzleiterR_MU    TEXT COLLATE NOCASE,
+    IsolationsR_MU      TEXT COLLATE NOCASE,
+    GeräteableitI_MU    TEXT COLLATE NOCASE
+);
+
+
+-- The stand ------------------------------------------------------------------------------------
+
+-- Read by position. A new row for every calibration; the last row is the instrument in use.
+CREATE TABLE Normalkalibrierdaten (
+    NK_ID               INTEGER PRIMARY KEY AUTOINCREMENT,
+    SerienNr            TEXT COLLATE NOCASE,
+    Normal              TEXT COLLATE NOCASE,
+    kalibriertVon       TEXT,               -- date
+    kalibriertBis       TEXT,               -- date
+    KalScheinNr         TEXT COLLATE NOCASE,
+    Offset              REAL,               -- raw reading without load
+    Gain_R              REAL,               -- raw gain reading less offset
+    Gain_L              REAL,
+    VK1_R               REAL,               -- moment factor: N m = raw / 50 * VK1
+    VK1_L               REAL,
+    HebelarmNr          TEXT COLLATE NOCASE,
+    GrenzwStreubreite   REAL,               -- N m, limit of the spread
+    AnzahlStreu         INTEGER             -- samples of one lever-arm run
+);
+
+-- Read by position. The first row holds the reference moments.
+CREATE TABLE Hebelarmkalibrierung (
+    ID          INTEGER PRIMARY KEY AUTOINCREMENT,
+    Prüfer      TEXT COLLATE NOCASE,
+    Prüfdatum   TEXT DEFAULT (datetime('now', 'localtime')),
+    Erdschwere  REAL,                       -- m/s²
+    Rechts      REAL,                       -- N m
+    Links       REAL,                       -- N m, negative
+    Streu_R     REAL,                       -- N m, standard deviation of the mean
+    Streu_L     REAL,                       -- N m
+    NK_ID       INTEGER
+);
+
+-- Both are read in the order of ID and by position: upper limit of the range, uncertainty.
+CREATE TABLE MU_Leistung (
+    ID          INTEGER PRIMARY KEY,
+    bis         REAL,                       -- W
+    MU          REAL                        -- first row W, all others % of the setpoint
+);
+
+CREATE TABLE MU_Drehzahl (
+    ID          INTEGER PRIMARY KEY,
+    bis         REAL,                       -- 1/min
+    MU          REAL                        -- % of the reading
+);
+
+
+-- Settings -------------------------------------------------------------------------------------
+
+-- Exactly one row, read by position up to EinlW.
+CREATE TABLE System (
+    Firmenname      TEXT COLLATE NOCASE,
+    Produktname     TEXT COLLATE NOCASE,
+    Einlzeit        INTEGER,                -- min, running-in before a lever-arm calibration
+    Einlzeit2       REAL,                   -- running-in, minutes.seconds; 10.3 is 10 min 30 s
+    Reserve4        TEXT COLLATE NOCASE,
+    Reserve5        TEXT COLLATE NOCASE,
+    Sprache         INTEGER,                -- 1 German, 2 English
+    Reserve7        TEXT COLLATE NOCASE,
+    EinlW           REAL,                   -- W, load during running-in
+    DruckerPDF      TEXT COLLATE NOCASE,
+    PDFOrdner       TEXT,
+    Version         TEXT COLLATE NOCASE,    -- its existence marks a current database
+    Endprüfung      INTEGER DEFAULT 0       -- -1 shows the buttons of the final test
+);
+
+-- One row each: port number; baud, parity letter, data bits, stop bits.
+CREATE TABLE Interface (
+    PortNr      INTEGER,
+    Parameter   TEXT COLLATE NOCASE
+);
+
+CREATE TABLE SecondInterface (
+    PortNr      INTEGER,
+    Parameter   TEXT COLLATE NOCASE
+);
+
+
+-- Final test -----------------------------------------------------------------------------------
+
+CREATE TABLE EP (
+    EP_ID           INTEGER PRIMARY KEY AUTOINCREMENT,
+    SerienNr        TEXT COLLATE NOCASE,
+    Prüfer          TEXT COLLATE NOCASE,
+    kalibriertBis   TEXT COLLATE NOCASE,    -- month name and year
+    Prüfdatum       TEXT COLLATE NOCASE,
+    Messkopf        TEXT COLLATE NOCASE,
+    Kunde           TEXT COLLATE NOCASE,
+    Gerätetyp       TEXT COLLATE NOCASE,
+    GeräteableitI   TEXT COLLATE NOCASE,    -- µA
+    SchutzleiterR   TEXT COLLATE NOCASE,    -- Ohm
+    IsolationsR     TEXT COLLATE NOCASE,    -- MOhm
+    auf0            TEXT COLLATE NOCASE,    -- mmHg, as all of these
+    auf50           TEXT COLLATE NOCASE,
+    auf100          TEXT COLLATE NOCASE,
+    auf150          TEXT COLLATE NOCASE,
+    auf200          TEXT COLLATE NOCASE,
+    auf250          TEXT COLLATE NOCASE,
+    auf300          TEXT COLLATE NOCASE,
+    Ablassrate      TEXT COLLATE NOCASE     -- mmHg/s
+);
+CREATE INDEX EPSerienNr ON EP (SerienNr);
+
+CREATE TABLE EP_Messwerte (
+    ProtokollID     INTEGER,                -- EP.EP_ID
+    Prüfschritt     TEXT COLLATE NOCASE,
+    Soll_n          TEXT COLLATE NOCASE,
+    Soll_P          TEXT COLLATE NOCASE,
+    Ist_n_torvena   TEXT COLLATE NOCASE,
+    Ist_D_torvena   TEXT COLLATE NOCASE,
+    Ist_P_torvena   TEXT COLLATE NOCASE,
+    Ist_n_ergom     TEXT COLLATE NOCASE,
+    Toleranz        TEXT COLLATE NOCASE     -- verdict; Null when nothing was judged
+);
+CREATE INDEX EP_MesswerteSchritt ON EP_Messwerte (ProtokollID, Prüfschritt);
+
+
+-- Staging of the reports -----------------------------------------------------------------------
+--
+-- Each holds the rows of the one protocol that is being printed, and is filled from the views of
+-- the same number with SELECT *. What the columns mean is told at the views.
+
+CREATE TABLE Bericht1 (
+    ProtokollID         INTEGER,
+    ProtokollName       TEXT COLLATE NOCASE,
+    ErstellDatum        TEXT,
+    Prüfername          TEXT COLLATE NOCASE,
+    Firmenname          TEXT COLLATE NOCASE,
+    Kunde               TEXT COLLATE NOCASE,
+    Straße              TEXT COLLATE NOCASE,
+    PLZ                 TEXT COLLATE NOCASE,
+    Ort                 TEXT COLLATE NOCASE,
+    Gerätetyp           TEXT COLLATE NOCASE,
+    Hersteller          TEXT COLLATE NOCASE,
+    SerienNr            TEXT COLLATE NOCASE,
+    IdentNr             TEXT COLLATE NOCASE,
+    NächsteKalibrierung TEXT,
+    Drehrichtung        INTEGER,
+    Messverfahren       TEXT COLLATE NOCASE,
+    Spezifikation       TEXT COLLATE NOCASE,
+    Prozent             NUMERIC,
+    Watt                NUMERIC,
+    GrenzAbw            NUMERIC,
+    GKlasse             TEXT COLLATE NOCASE,
+    Normal              TEXT COLLATE NOCASE,
+    NormalSerienNr      TEXT COLLATE NOCASE,
+    kalibriertVon       TEXT,
+    kalibriertBis       TEXT,
+    KalScheinNr         TEXT COLLATE NOCASE,
+    HebelarmNr          TEXT COLLATE NOCASE
+);
+
+CREATE TABLE Bericht2 (
+    ProtokollID     INTEGER,
+    ProtokollName   TEXT COLLATE NOCASE,
+    Drehrichtung    INTEGER,
+    Gruppe          INTEGER,
+    Prüfschritt     NUMERIC,                -- numbers before 'FR', 2 before 10
+    ErgometerMW     REAL,
+    TorvenaMW       REAL,
+    ZulAbw          REAL,
+    RelAbw          REAL,
+    TolAusN         REAL,
+    TorvenaMW2      REAL,
+    MU_ohne         TEXT COLLATE NOCASE,
+    MU_mit          TEXT COLLATE NOCASE,
+    MU_Proz         NUMERIC,
+    Konform         TEXT COLLATE NOCASE     -- page with or without conformity statement
+);
+
+CREATE TABLE Bericht3 (
+    ProtokollID         INTEGER,
+    ProtokollName       TEXT COLLATE NOCASE,
+    ErstellDatum        TEXT,
+    Prüfername          TEXT COLLATE NOCASE,
+    Firmenname          TEXT COLLATE NOCASE,
+    Kunde               TEXT COLLATE NOCASE,
+    Straße              TEXT COLLATE NOCASE,
+    PLZ                 TEXT COLLATE NOCASE,
+    Ort                 TEXT COLLATE NOCASE,
+    Gerätetyp           TEXT COLLATE NOCASE,
+    Hersteller          TEXT COLLATE NOCASE,
+    SerienNr            TEXT COLLATE NOCASE,
+    IdentNr             TEXT COLLATE NOCASE,
+    NormalNr_STK        TEXT COLLATE NOCASE,
+    KennNr_STK          TEXT COLLATE NOCASE,
+    kalibriertVon_STK   TEXT COLLATE NOCASE,
+    kalibriertBis_STK   TEXT COLLATE NOCASE,
+    KalScheinNr_STK     TEXT COLLATE NOCASE,
+    Messverfahren_STK   TEXT COLLATE NOCASE,
+    SchutzleiterR       TEXT COLLATE NOCASE,
+    IsolationsR         TEXT COLLATE NOCASE,
+    GeräteableitI       TEXT COLLATE NOCASE,
+    SchutzleiterR_GW    TEXT COLLATE NOCASE,
+    IsolationsR_GW      TEXT COLLATE NOCASE,
+    GeräteableitI_GW    TEXT COLLATE NOCASE,
+    SchutzleiterR_MU    TEXT COLLATE NOCASE,
+    IsolationsR_MU      TEXT COLLATE NOCASE,
+    GeräteableitI_MU    TEXT COLLATE NOCASE
+);
+
+CREATE TABLE Bericht4 (
+    ProtokollID         INTEGER,
+    ProtokollName       TEXT COLLATE NOCASE,
+    ErstellDatum        TEXT,
+    Prüfername          TEXT COLLATE NOCASE,
+    Firmenname          TEXT COLLATE NOCASE,
+    Kunde               TEXT COLLATE NOCASE,
+    Straße              TEXT COLLATE NOCASE,
+    PLZ                 TEXT COLLATE NOCASE,
+    Ort                 TEXT COLLATE NOCASE,
+    Gerätetyp           TEXT COLLATE NOCASE,
+    Hersteller          TEXT COLLATE NOCASE,
+    SerienNr            TEXT COLLATE NOCASE,
+    IdentNr             TEXT COLLATE NOCASE,
+    Normalanzeige       INTEGER,
+    auf                 TEXT COLLATE NOCASE,
+    ab                  TEXT COLLATE NOCASE,
+    MU                  TEXT COLLATE NOCASE,
+    NormalNr_BD         TEXT COLLATE NOCASE,
+    KennNr_BD           TEXT COLLATE NOCASE,
+    kalibriertVon_BD    TEXT COLLATE NOCASE,
+    kalibriertBis_BD    TEXT COLLATE NOCASE,
+    kalScheinNr_BD      TEXT COLLATE NOCASE
+);
+
+CREATE TABLE EP_Bericht5 (
+    ProtokollID     INTEGER,
+    SerienNr        TEXT COLLATE NOCASE,
+    Prüfer          TEXT COLLATE NOCASE,
+    kalibriertBis   TEXT COLLATE NOCASE,
+    Prüfdatum       TEXT COLLATE NOCASE,
+    Messkopf        TEXT COLLATE NOCASE,
+    Kunde           TEXT COLLATE NOCASE,
+    Gerätetyp       TEXT COLLATE NOCASE,
+    GeräteableitI   TEXT COLLATE NOCASE,
+    SchutzleiterR   TEXT COLLATE NOCASE,
+    IsolationsR     TEXT COLLATE NOCASE,
+    auf0            TEXT COLLATE NOCASE,
+    auf50           TEXT COLLATE NOCASE,
+    auf100          TEXT COLLATE NOCASE,
+    auf150          TEXT COLLATE NOCASE,
+    auf200          TEXT COLLATE NOCASE,
+    auf250          TEXT COLLATE NOCASE,
+    auf300          TEXT COLLATE NOCASE,
+    Ablassrate      TEXT COLLATE NOCASE,
+    Prüfschritt     NUMERIC,
+    Soll_n          TEXT COLLATE NOCASE,
+    Soll_P          TEXT COLLATE NOCASE,
+    Ist_n_torvena   TEXT COLLATE NOCASE,
+    Ist_D_torvena   TEXT COLLATE NOCASE,
+    Ist_P_torvena   TEXT COLLATE NOCASE,
+    Ist_n_ergom     TEXT COLLATE NOCASE,
+    Toleranz        TEXT COLLATE NOCASE
+);

@@ -1,0 +1,25 @@
+// What a person types into a search, and dates and texts of the database as a person reads them.
+#pragma once
+
+#include <QDate>
+#include <QString>
+
+/// True when the whole text fits the pattern: `*` any run of letters, `?` exactly one, without
+/// regard to case. Every other character stands for itself.
+bool passtZumMuster(const QString &muster, const QString &text);
+
+/// The date of an ISO text with or without a time; invalid when there is none.
+QDate datumAus(const QString &iso);
+
+/// dd.mm.yyyy; empty for an invalid date.
+QString datumText(const QDate &datum);
+
+/// Replaces every "," by ".", in place.
+void fnc_KommaZuPunkt(QString &text);
+
+/// The text without any ".".
+QString fnc_OhnePunkt(const QString &text);
+
+/// True when another program holds the file so that it cannot be opened for exclusive use. Any
+/// other failure than PermissionDenied is raised: FileNotFound for a missing file.
+bool fnc_DateiGeöffnet(const QString &path);

@@ -1,0 +1,52 @@
+// The message boxes of a test: which one comes, and what is answered. A box that nobody expected
+// fails the test, and so does one that was expected and did not come.
+#pragma once
+
+#include <QString>
+
+#include <functional>
+#include <list>
+#include <vector>
+
+#include "msgbox.h"
+
+namespace support {
+
+class Boxes {
+  public:
+    Boxes();
+    ~Boxes();
+    Boxes(const Boxes &) = delete;
+    Boxes &operator=(const Boxes &) = delete;
+
+    /// The next unexplained box whose text is (or, with a "…" at its end, begins with) this one.
+    /// Expected boxes may come in any order. `meanwhile` runs while the box is open.
+    void expect(const QString &text, int answer = platform::OK,
+                std::function<void()> meanwhile = {});
+    /// The same with everything that a person sees.
+    void expect(const QString &text, const QString &title, int flags, int answer = platform::OK);
+    /// This box may come any number of times.
+    void allow(const QString &text, int answer = platform::OK);
+
+    const std::vector<platform::Box> &seen() const { return mSeen; }
+    /// How many boxes came so far.
+    size_t count() const { return mSeen.size(); }
+    bool allCame() const { return mExpected.empty(); }
+
+  private:
+    struct Expected {
+        QString text;
+        QString title;
+        int flags = -1;
+        int answer = platform::OK;
+        std::function<void()> meanwhile;
+        bool matches(const platform::Box &box) const;
+    };
+    int answer(const platform::Box &box);
+
+    std::list<Expected> mExpected;
+    std::vector<Expected> mAllowed;
+    std::vector<platform::Box> mSeen;
+};
+
+} // namespace support

@@ -1,0 +1,86 @@
+// Screens and their controls as a person uses them: by name, and only what can be seen and used.
+#pragma once
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include <stdexcept>
+
+#include "screens.h"
+
+namespace support {
+
+/// Raises when the screen is not loaded or has no such control.
+template <class Control = QWidget>
+Control *control(frm name, const char *control) {
+    Screen *screen = loaded(name);
+    if (!screen)
+        throw std::runtime_error(std::string("the screen of ") + control + " is not loaded");
+    auto *found = screen->findChild<Control *>(QString::fromUtf8(control));
+    if (!found)
+        throw std::runtime_error(std::string("no control ") + control);
+    return found;
+}
+
+inline bool inFront(frm name) {
+    return loaded(name) && platform::frontScreen() == loaded(name);
+}
+
+inline bool canPress(frm name, const char *button) {
+    if (!loaded(name) || !loaded(name)->usable())
+        return false;
+    const auto *b = control<QAbstractButton>(name, button);
+    return b->isVisible() && b->isEnabled();
+}
+
+inline void press(frm name, const char *button) {
+    if (!canPress(name, button))
+        throw std::runtime_error(std::string("cannot press ") + button);
+    control<QAbstractButton>(name, button)->click();
+}
+
+inline void choose(frm name, const char *action) {
+    auto *a = control<QAction>(name, action);
+    if (!loaded(name)->usable() || !a->isEnabled())
+        throw std::runtime_error(std::string("cannot choose ") + action);
+    a->trigger();
+}
+
+/// The text of a box or label.
+inline QString text(frm name, const char *which) {
+    QObject *object = control<QObject>(name, which);
+    if (auto *box = qobject_cast<QLineEdit *>(object))
+        return box->text();
+    if (auto *combo = qobject_cast<QComboBox *>(object))
+        return combo->currentText();
+    if (auto *label = qobject_cast<QLabel *>(object))
+        return label->text();
+    return object->property("text").toString();
+}
+
+/// Types any letters, umlauts too.
+void sendKeys(QWidget &target, const QString &keys);
+
+/// Replaces what stands in the box, key by key.
+inline void type(frm name, const char *box, const QString &keys) {
+    auto *edit = control<QWidget>(name, box);
+    edit->setFocus();
+    if (auto *line = qobject_cast<QLineEdit *>(edit))
+        line->selectAll();
+    else if (auto *combo = qobject_cast<QComboBox *>(edit); combo && combo->lineEdit())
+        combo->lineEdit()->selectAll();
+    sendKeys(*edit, keys);
+}
+
+inline void enter(frm name, const char *box) {
+    QTest::keyClick(control<QWidget>(name, box), Qt::Key_Return);
+}
+
+/// All captions that a person sees on the screen, for looking for left-over German.
+QStringList visibleTexts(frm name);
+
+} // namespace support

@@ -1,0 +1,77 @@
+#include "simulatedline.h"
+
+#include "fehler.h"
+
+namespace support {
+
+using namespace platform;
+
+class SimulatedLine::Device : public SerialDevice {
+  public:
+    explicit Device(SimulatedLine &line)
+        : mLine(line) {}
+
+    void open(const SerialSettings &) override {
+        if (!mLine.mPlugged)
+            throw Fehler(fehlernummer::NoSuchPort, {"fehlt", "missing"});
+        if (mLine.mOccupied)
+            throw Fehler(fehlernummer::PortInUse, {"belegt", "in use"});
+        mGeneration = mLine.mGeneration;
+        discard();
+    }
+    void write(const QByteArray &bytes) override {
+        mLine.mStand.receive(std::string_view(bytes.constData(), size_t(bytes.size())),
+                             mLine.mClock.elapsed());
+    }
+    QByteArray readAll() override {
+        collect();
+        return std::exchange(mLine.mArrived, {});
+    }
+    void discard() override { readAll(); }
+    qsizetype waiting() override {
+        collect();
+        return mLine.mArrived.size();
+    }
+    bool lost() const override { return !mLine.mPlugged || mGeneration != mLine.mGeneration; }
+
+  private:
+    void collect() {
+        mLine.mArrived += QByteArray::fromStdString(mLine.mStand.take(mLine.mClock.elapsed()));
+    }
+
+    SimulatedLine &mLine;
+    int mGeneration = 0;
+};
+
+SimulatedLine::SimulatedLine(TestClock &clock)
+    : mClock(clock) {
+    setSerialDeviceMaker([this](const QString &location) -> std::unique_ptr<SerialDevice> {
+        if (!location.endsWith("ttyS0") && !location.endsWith("COM1"))
+            throw Fehler(fehlernummer::NoSuchPort, {"fehlt", "missing"});
+        return std::make_unique<Device>(*this);
+    });
+    mClock.nextOutside = [this] { return mStand.nextEvent(); };
+    mClock.outside = [this] {
+        const std::string bytes = mStand.take(mClock.elapsed());
+        if (mPlugged)
+            mArrived += QByteArray::fromStdString(bytes);
+    };
+}
+
+SimulatedLine::~SimulatedLine() {
+    setSerialDeviceMaker({});
+    mClock.nextOutside = {};
+}
+
+simulator::Stand &SimulatedLine::stand() {
+    mStand.advance(mClock.elapsed());
+    return mStand;
+}
+
+void SimulatedLine::unplug() {
+    mPlugged = false;
+    ++mGeneration;
+    mArrived.clear();
+}
+
+} // namespace support

@@ -1,0 +1,217 @@
+// Takes the main job by itself, in real time, against the stand behind COM1 of the current
+// directory: from the login to a recipe whose steps stand judged in the database. Leaves a picture
+// of each screen in tour/ and prints the stored rows. Ends with 1 when a station is not reached.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <cstdio>
+#include <vector>
+
+#include "clock.h"
+#include "database.h"
+#include "msgbox.h"
+#include "screens.h"
+#include "session.h"
+#include "start.h"
+
+namespace {
+
+constexpr int longestWait = 60'000; // ms for one station: two six-round frames at 60 1/min and more
+
+template <class Control>
+Control *control(frm name, const char *which) {
+    return loaded(name)->findChild<Control *>(which);
+}
+
+bool inFront(frm name) {
+    return loaded(name) && platform::frontScreen() == loaded(name);
+}
+
+bool canPress(frm name, const char *which) {
+    return inFront(name) && loaded(name)->usable() &&
+           control<QAbstractButton>(name, which)->isEnabled();
+}
+
+void press(frm name, const char *which) {
+    control<QAbstractButton>(name, which)->click();
+}
+
+void type(frm name, const char *which, const QString &keys) {
+    auto *box = control<QWidget>(name, which);
+    box->setFocus();
+    for (const QChar key : keys) {
+        QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(key));
+        QApplication::sendEvent(box, &event);
+    }
+}
+
+void enter(frm name, const char *which) {
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
+    QApplication::sendEvent(control<QWidget>(name, which), &event);
+}
+
+struct Station {
+    const char *name;
+    std::function<bool()> reached;
+    std::function<void()> goOn;
+};
+
+std::vector<Station> stations() {
+    const auto front = [](frm name) { return [name] { return inFront(name); }; };
+    const auto ready = [](frm name, const char *button) {
+        return [name, button] { return canPress(name, button); };
+    };
+    const auto step = [](const char *wanted) {
+        return [wanted] {
+            return canPress(frm::Messen, "pbSpeichern") &&
+                   control<QLabel>(frm::Messen, "laPrSchritt")->text() == wanted;
+        };
+    };
+    return {
+        {"splash", front(frm::Splash), [] {}},
+        {"login", front(frm::Login),
+         [] {
+             type(frm::Login, "txtUserName", "Rundgang");
+             press(frm::Login, "pbok");
+         }},
+        {"desktop", front(frm::Desktop), [] { press(frm::Desktop, "pbKunde"); }},
+        {"customers", front(frm::Kunden),
+         [] {
+             type(frm::Kunden, "cmbKundenname", "Klinikum Ährenfeld");
+             press(frm::Kunden, "pbexit");
+         }},
+        {"units", front(frm::Gerät),
+         [] {
+             type(frm::Gerät, "cmbIdent", "AEH-001");
+             enter(frm::Gerät, "cmbIdent");
+         }},
+        {"recipes", front(frm::Rezepte),
+         [] {
+             type(frm::Rezepte, "cmbRezeptname", "Kurzprüfung");
+             press(frm::Rezepte, "pbok");
+         }},
+        {"desktop, chosen", ready(frm::Desktop, "pbMessen"),
+         [] { press(frm::Desktop, "pbDrehR"); }},
+        {"direction", front(frm::MotorDrehR),
+         [] {
+             press(frm::MotorDrehR, "obRechts");
+             press(frm::MotorDrehR, "pbok");
+         }},
+        {"motor on", ready(frm::Desktop, "pbMotein"), [] { press(frm::Desktop, "pbMotein"); }},
+        {"running in", ready(frm::Desktop, "pbMotaus"), [] { press(frm::Desktop, "pbMessen"); }},
+        {"uncouple", front(frm::VorStatNPK), [] { press(frm::VorStatNPK, "pbok"); }},
+        {"zero point", ready(frm::StatMessen, "pbWeiter"),
+         [] { press(frm::StatMessen, "pbWeiter"); }},
+        {"couple", front(frm::NachStatNPK), [] { press(frm::NachStatNPK, "pbok"); }},
+        {"protocol", front(frm::ProtokollNr),
+         [] {
+             press(frm::ProtokollNr, "obNeu");
+             type(frm::ProtokollNr, "txtNeu", "Rundgang");
+             press(frm::ProtokollNr, "pbok");
+         }},
+        {"power step", step("1"), [] { press(frm::Messen, "pbSpeichern"); }},
+        {"notice", front(frm::Meldung), [] {}},
+        {"speed step",
+         [] {
+             return inFront(frm::Messen) &&
+                    control<QLabel>(frm::Messen, "laPrSchritt")->text() == "2" &&
+                    !control<QLineEdit>(frm::Messen, "txtIST_P_torvena")->text().isEmpty();
+         },
+         [] { type(frm::Messen, "txtIST_n_ergom", "80"); }},
+        {"speed read", step("2"), [] { press(frm::Messen, "pbSpeichern"); }},
+        {"recipe done", ready(frm::Messen, "pbAbbrechen"),
+         [] { press(frm::Messen, "pbAbbrechen"); }},
+        {"desktop again", ready(frm::Desktop, "pbBeenden"), [] {}},
+    };
+}
+
+void printRows() {
+    const Recordset rows = gDatenbank.open(
+        "SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, Ist_D_torvena, Ist_P_torvena, "
+        "Ist_n_ergom, MU_ohne, MU_mit FROM Messwerte_temp WHERE ProtokollID = ? ORDER BY MDat",
+        {gProtokollID});
+    std::printf("stored under protocol %d:\n", int(gProtokollID));
+    std::printf("  step  set n  set P  n 1/min  M N m    P W      read n  without MU  with MU\n");
+    for (int row = 0; row < rows.count(); ++row) {
+        const auto cell = [&](int column) { return rows.at(row, column).toString().toUtf8(); };
+        std::printf("  %-5s %-6s %-6s %-8s %-8s %-8s %-7s %-11s %s\n", cell(0).constData(),
+                    cell(1).constData(), cell(2).constData(), cell(3).constData(),
+                    cell(4).constData(), cell(5).constData(), cell(6).constData(),
+                    cell(7).constData(), cell(8).constData());
+    }
+}
+
+class Tour {
+  public:
+    Tour()
+        : mStations(stations()) {
+        QDir().mkpath("tour");
+        platform::setBoxAnswerer([](const platform::Box &box) {
+            std::printf("   box: %s\n", box.text.simplified().toUtf8().constData());
+            std::fflush(stdout);
+            return (box.flags & 15) == platform::YesNo ? platform::Yes : platform::OK;
+        });
+        mTimer.onTick = [this] { look(); };
+        mTimer.setEnabled(true);
+        mSince.start();
+    }
+
+  private:
+    void look() {
+        if (mSettled || mNext == mStations.size())
+            return;
+        const Station &station = mStations[mNext];
+        if (!station.reached()) {
+            if (mSince.elapsed() > longestWait) {
+                std::printf("not reached: %s\n", station.name);
+                mNext = mStations.size();
+                QApplication::exit(1);
+            }
+            return;
+        }
+        mSettled = true; // one look lies between reaching a station and its picture
+        Screen *screen = platform::frontScreen();
+        QApplication::processEvents();
+        const QString file =
+            QString("tour/%1 %2.png").arg(mNext + 1, 2, 10, QChar('0')).arg(station.name);
+        if (screen)
+            screen->grab().save(file);
+        std::printf("%2zu %s\n", mNext + 1, station.name);
+        std::fflush(stdout);
+        ++mNext;
+        mSettled = false;
+        mSince.restart();
+        station.goOn();
+        if (mNext == mStations.size()) {
+            printRows();
+            beendenOhneFrage();
+        }
+    }
+
+    std::vector<Station> mStations;
+    size_t mNext = 0;
+    bool mSettled = false;
+    platform::Timer mTimer{100};
+    QElapsedTimer mSince;
+};
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    int result = 0;
+    {
+        programmStarten();
+        Tour tour;
+        result = QApplication::exec();
+    }
+    programmAufräumen();
+    return result;
+}
