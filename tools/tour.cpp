@@ -10,12 +10,14 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <cmath>
 #include <cstdio>
 #include <vector>
 
 #include "clock.h"
 #include "database.h"
 #include "msgbox.h"
+#include "runtime.h"
 #include "screens.h"
 #include "session.h"
 #include "start.h"
@@ -67,10 +69,18 @@ std::vector<Station> stations() {
     const auto ready = [](frm name, const char *button) {
         return [name, button] { return canPress(name, button); };
     };
-    const auto step = [](const char *wanted) {
-        return [wanted] {
-            return canPress(frm::Messen, "pbSpeichern") &&
-                   control<QLabel>(frm::Messen, "laPrSchritt")->text() == wanted;
+    // The step is shown and the motor has followed to its speed.
+    const auto settled = [](const char *wanted) {
+        const auto number = [](const char *box) {
+            return Val(control<QLineEdit>(frm::Messen, box)->text().replace(',', '.'));
+        };
+        return inFront(frm::Messen) &&
+               control<QLabel>(frm::Messen, "laPrSchritt")->text() == wanted &&
+               std::fabs(number("txtIST_n_torvena") - number("txtSoll_n")) < 0.5;
+    };
+    const auto step = [settled](const char *wanted) {
+        return [settled, wanted] {
+            return settled(wanted) && canPress(frm::Messen, "pbSpeichern");
         };
     };
     return {
@@ -118,11 +128,7 @@ std::vector<Station> stations() {
         {"power step", step("1"), [] { press(frm::Messen, "pbSpeichern"); }},
         {"notice", front(frm::Meldung), [] {}},
         {"speed step",
-         [] {
-             return inFront(frm::Messen) &&
-                    control<QLabel>(frm::Messen, "laPrSchritt")->text() == "2" &&
-                    !control<QLineEdit>(frm::Messen, "txtIST_P_torvena")->text().isEmpty();
-         },
+         [settled] { return settled("2"); },
          [] { type(frm::Messen, "txtIST_n_ergom", "80"); }},
         {"speed read", step("2"), [] { press(frm::Messen, "pbSpeichern"); }},
         {"recipe done", ready(frm::Messen, "pbAbbrechen"),

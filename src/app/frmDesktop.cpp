@@ -282,7 +282,7 @@ void frmDesktop::Form_Unload() {
     Timer1.setEnabled(false);
     MSComm1.setPortOpen(false);
     gDatenbank.close();
-    QCoreApplication::quit(); // other screens go with the process
+    QCoreApplication::exit(0); // other screens go with the process
 }
 
 void frmDesktop::mnuGerät_Click() try {

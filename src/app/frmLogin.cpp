@@ -33,7 +33,7 @@ void frmLogin::Form_Unload() {
         return;
     if (Screen *splash = loaded(frm::Splash))
         splash->unload();
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);
 }
 
 void frmLogin::pbok_Click() {

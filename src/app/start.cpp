@@ -67,7 +67,7 @@ void beendenOhneFrage() {
         motorStillschweigendAus();
     gDesktopAktiv = false;
     gDatenbank.close();
-    QCoreApplication::quit();
+    QCoreApplication::exit(0);
 }
 
 void programmAufräumen() {

@@ -45,5 +45,5 @@ void frmMeldung::Form_Unload() {
     if (!messen)
         return;
     messen->enable();
-    messen->ergometerFeldZeigen();
+    messen->meldungGeschlossen();
 }

@@ -94,8 +94,8 @@ void frmMessen::Form_Load() try {
         {"Ist_D_torvena", kopf("Normal M\nN m", "Standard M\nN m"), rechts},
         {"Ist_P_torvena", kopf("Normal P\nW", "Standard P\nW"), rechts},
         {"Ist_n_ergom", kopf("Ergometer n\n1/min", "Ergometer n\nrpm"), rechts},
-        {"MU_ohne", kopf("ohne Berück. MU", "without regard to MU"), mitte},
-        {"MU_mit", kopf("mit Berück. MU", "with regard to MU"), mitte},
+        {"MU_ohne", kopf("ohne Berück. MU", "without\nregard to MU"), mitte},
+        {"MU_mit", kopf("mit Berück. MU", "with\nregard to MU"), mitte},
     });
     setFreeInput(ui.txtSoll_n, false);
     setFreeInput(ui.txtSoll_P, false);
@@ -179,7 +179,7 @@ void frmMessen::fnc_PrüfschrittAnzeigen() try {
     const int art = dataRezept["Prüfart"].whole();
     if (art == 1 || art == 2)
         messArtZeigen(art);
-    ui.txtIST_n_ergom->setVisible(art != 1);
+    ergometerFeldZeigen(art != 1);
     fnc_GraphGrenzenSetzen();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 3017 - ", "ERROR 3017 - ", fehler);

@@ -38,7 +38,7 @@ class frmMessen : public Screen, private Messanzeige {
     void fnc_MesswertSpeichern();
     /// What the notice does when it closes: the box for the ergometer's speed gets the keyboard in
     /// a speed measurement and goes away in a power measurement.
-    void ergometerFeldZeigen();
+    void meldungGeschlossen();
 
   protected:
     void Form_Load() override;
@@ -102,6 +102,7 @@ class frmMessen : public Screen, private Messanzeige {
     void sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenze, const Text &keineZahl,
                         const Text &außerhalb);
     void txtIST_n_ergom_LostFocus();
+    void ergometerFeldZeigen(bool zeigen);
     void speichernFreigeben(const QLineEdit *geändert);
     bool istLeistungsmessung() const;
     bool istDrehzahlmessung() const;

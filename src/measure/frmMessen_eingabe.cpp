@@ -146,7 +146,7 @@ void frmMessen::pbAusführen_Click() {
     gMessStatus = messstatus::Messen;
     fnc_GraphGrenzenSetzen();
     fnc_EingabeSperren();
-    ui.txtIST_n_ergom->setVisible(!istLeistungsmessung());
+    ergometerFeldZeigen(!istLeistungsmessung());
     if (istDrehzahlmessung() && messablauf().bedient())
         ui.txtIST_n_ergom->setFocus();
     ::screen(frm::Meldung).show();
@@ -209,7 +209,7 @@ void frmMessen::fnc_FreieEingabe() {
 
 void frmMessen::cmbMessArt_Click() {
     ui.txtMessArt->setText(ui.cmbMessArt->currentText());
-    ui.txtIST_n_ergom->setVisible(istDrehzahlmessung());
+    ergometerFeldZeigen(istDrehzahlmessung());
     ausführenFreigeben();
 }
 
@@ -307,13 +307,16 @@ bool frmMessen::istDrehzahlmessung() const {
     return isEither(ui.txtMessArt->text(), drehzahlmessung);
 }
 
-void frmMessen::ergometerFeldZeigen() {
-    if (istDrehzahlmessung()) {
-        ui.txtIST_n_ergom->show();
+void frmMessen::ergometerFeldZeigen(bool zeigen) {
+    ui.lbIST_n_ergom->setVisible(zeigen);
+    ui.txtIST_n_ergom->setVisible(zeigen);
+    ui.lbEinheitErgom->setVisible(zeigen);
+}
+
+void frmMessen::meldungGeschlossen() {
+    ergometerFeldZeigen(istDrehzahlmessung());
+    if (istDrehzahlmessung())
         ui.txtIST_n_ergom->setFocus();
-    } else {
-        ui.txtIST_n_ergom->hide();
-    }
 }
 
 // When pbSpeichern may be pressed: as soon as every box that the step needs holds a value that was

@@ -101,8 +101,7 @@ void Desk::wentAway(Screen &screen) {
                                    [](const Screen *other) { return other->usable(); });
     if (next != mVisible.rend()) {
         Screen &heir = **next;
-        heir.raise();
-        heir.activateWindow();
+        heir.bringForward();
         moveFrontTo(heir);
     }
 }

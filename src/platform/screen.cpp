@@ -56,9 +56,15 @@ void Screen::show() {
         }
         QWidget::show();
     }
+    bringForward();
+    Desk::instance().moveFrontTo(*this);
+}
+
+void Screen::bringForward() {
+    if (QGuiApplication::platformName() == "offscreen")
+        return; // it has no order of windows, and says so each time
     raise();
     activateWindow();
-    Desk::instance().moveFrontTo(*this);
 }
 
 void Screen::showModal() {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <vector>
 
 #include "boxes.h"
@@ -100,11 +101,13 @@ class ScriptedLine {
     ScriptedLine(const ScriptedLine &) = delete;
     ScriptedLine &operator=(const ScriptedLine &) = delete;
 
-    /// The pieces arrive one by one, the first so many milliseconds from now, at least one.
+    /// The pieces arrive one by one, the first so many milliseconds from now.
     void arrive(const std::vector<QByteArray> &pieces, double milliseconds = 1) {
         double at = 0;
-        for (const QByteArray &piece : pieces)
-            mClock.after(at += milliseconds, [this, piece] { mArrived += piece; });
+        for (const QByteArray &piece : pieces) {
+            mUnderWay.emplace(mClock.elapsed() + (at += milliseconds), piece);
+            mClock.after(at, [] {}); // wakes who waits
+        }
     }
     std::function<void(const QByteArray &)> onWrite;
     QByteArray written;
@@ -118,13 +121,20 @@ class ScriptedLine {
             if (line.onWrite)
                 line.onWrite(bytes);
         }
-        QByteArray readAll() override { return std::exchange(line.mArrived, {}); }
-        void discard() override { line.mArrived.clear(); }
-        qsizetype waiting() override { return line.mArrived.size(); }
+        QByteArray readAll() override { return std::exchange(line.arrived(), {}); }
+        void discard() override { line.arrived().clear(); }
+        qsizetype waiting() override { return line.arrived().size(); }
         bool lost() const override { return false; }
         ScriptedLine &line;
     };
 
+    QByteArray &arrived() {
+        while (!mUnderWay.empty() && mUnderWay.begin()->first <= mClock.elapsed())
+            mArrived += mUnderWay.extract(mUnderWay.begin()).mapped();
+        return mArrived;
+    }
+
     support::TestClock &mClock;
+    std::multimap<double, QByteArray> mUnderWay;
     QByteArray mArrived;
 };

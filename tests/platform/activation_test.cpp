@@ -423,9 +423,9 @@ TEST_F(Activation, WhatNobodyCaughtIsReportedAndTheProgramGoesOn) {
     setUncaughtReporter({});
     support::Boxes boxes;
     boxes.expect("13 load", "torvena", Critical);
-    probe(A);
     plans[A] = {};
-    probe(A).unload();
+    plans[A].load = raise("load");
+    probe(A);
 }
 
 // A notice (B) is on screen, the screen below it (A) is disabled until the notice closes by itself.

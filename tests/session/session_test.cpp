@@ -81,7 +81,7 @@ TEST_F(Session, FailureBoxesShowAndKeepNumberAndText) {
         EXPECT_EQ(gFehlerText, QString(c.kept));
     }
     gSprache = 1;
-    boxes.expect("Fehler 7- -5 x", "T", Critical);
+    boxes.expect("Fehler 7--5 x", "T", Critical);
     fehlerBox({"Fehler 7-", "ERROR 7-"}, Fehler(-5, {"x", "y"}), {"T", "U"});
     const size_t before = boxes.count();
     fehlerMerken(fehler);
