@@ -145,6 +145,11 @@ void frmDesktop::verdrahten() {
 }
 
 void frmDesktop::Form_Load() try {
+    // What kept the database from opening at the first screen may have been mended since.
+    if (!gDatenbank.isOpen() && fnc_DatenbankÖffnen() == 1) {
+        meldung({"Initialisierungsfehler!", "Initializing Error!"}, Critical,
+                {"Fehler", "Error"});
+    }
     const InterfaceZeile leitung = interfaceLesen();
     MSComm1.setCommPort(leitung.port);
     MSComm1.setSettings(leitung.parameter);
@@ -159,8 +164,13 @@ void frmDesktop::Form_Load() try {
     gUpdateBeimBeenden = false;
     systemZeigen();
     letztesNormalLesen();
+    ui.txtKalDat->setText(datumText(gKalibrierdatum));
     datumZeigen(datumText(now().date()));
-    hebelarmDatumLesen();
+    if (!fnc_HebelarmDatumLesen()) {
+        throw Fehler(fehlernummer::NoCurrentRecord,
+                     {"Es gibt noch keine Hebelarmkalibrierung.",
+                      "There is no lever arm calibration yet."});
+    }
     normalUndHebelarmZeigen();
 } catch (const Fehler &fehler) {
     gDesktopAktiv = true; // the window stays up with what it got, and its waits must end by time
@@ -332,12 +342,9 @@ void frmDesktop::pbReset_Click() {
     enable();
 }
 
-void frmDesktop::mnuHelp_Click() try {
+void frmDesktop::mnuHelp_Click() {
     QKeyEvent f1(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
     keyPressEvent(&f1);
-} catch (const Fehler &fehler) {
-    fehlerMerken(fehler);
-    msgBox(QString::number(fehler.number()) + " - " + gFehlerText, Exclamation, gProduktTitel);
 }
 
 void frmDesktop::keyPressEvent(QKeyEvent *event) {
@@ -347,11 +354,14 @@ void frmDesktop::keyPressEvent(QKeyEvent *event) {
         Screen::keyPressEvent(event);
 }
 
-void frmDesktop::hilfeÖffnen() {
+void frmDesktop::hilfeÖffnen() try {
     const QFileInfo file(helpFile);
     if (!file.exists() || !QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()))) {
         throw Fehler(fehlernummer::FileNotFound,
                      {QString("Die Hilfe (%1) lässt sich nicht öffnen.").arg(helpFile),
                       QString("The help (%1) cannot be opened.").arg(helpFile)});
     }
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
+    msgBox(QString::number(fehler.number()) + " - " + gFehlerText, Exclamation, gProduktTitel);
 }

@@ -51,11 +51,14 @@ bool fnc_NormalDatenLesen() {
     return true;
 }
 
-void hebelarmDatumLesen() {
+bool fnc_HebelarmDatumLesen() {
     Recordset rows = gDatenbank.open("SELECT * FROM Hebelarmkalibrierung ORDER BY ID");
+    if (rows.empty())
+        return false;
     rows.moveLast();
     gHebelarmDatum = datumAus(rows[2].text());
     gHebelarmFällig = gHebelarmDatum.addMonths(6);
+    return true;
 }
 
 int hebelarmRest(const QDate &datum, const QDate &fällig, const QDate &heute) {

@@ -19,9 +19,9 @@ void letztesNormalLesen();
 /// The last row of the instrument with gSeriennummer. False, with a box, when there is none.
 bool fnc_NormalDatenLesen();
 
-/// Date of the last lever-arm calibration and the day it is due again, six months on. Raises
-/// NoCurrentRecord without one.
-void hebelarmDatumLesen();
+/// Date of the last lever-arm calibration and the day it is due again, six months on. False when
+/// there has been none.
+bool fnc_HebelarmDatumLesen();
 
 /// How much of the time between the two dates is left, 0 to 100 %.
 int hebelarmRest(const QDate &datum, const QDate &fällig, const QDate &heute);

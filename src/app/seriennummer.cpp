@@ -49,7 +49,7 @@ void Seriennummer::Timer2_Timer() try {
         gSeriennummer = QString::fromLatin1(MSComm1.Input());
     if (!gSeriennummer.isEmpty()) {
         if (fnc_NormalDatenLesen()) {
-            hebelarmDatumLesen();
+            fnc_HebelarmDatumLesen();
             mGefunden();
         }
     } else if (mSeriennrVersuche > 1) {

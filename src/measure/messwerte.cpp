@@ -16,7 +16,7 @@ Unsicherheiten uncertaintyTable(const QString &table) {
     return list;
 }
 
-bool stepExists(const Messwert &wert) {
+bool fnc_SchrittVorhanden(const Messwert &wert) {
     const Recordset rows = gDatenbank.open(
         "SELECT Prüfschritt FROM Messwerte_temp WHERE ProtokollID = ?", {wert.protokollID});
     for (int row = 0; row < rows.count(); ++row) {
@@ -65,7 +65,7 @@ void messwertSpeichern(const Messwert &wert) {
     const SchrittTexte &texte = wert.texte;
     const bool german = gSprache == 1;
     const QString ohne = wert.urteil.ohne ? (german ? "ja" : "yes") : (german ? "nein" : "no");
-    if (wert.prüfschritt != freierSchritt && stepExists(wert)) {
+    if (wert.prüfschritt != freierSchritt && fnc_SchrittVorhanden(wert)) {
         gDatenbank.execute("UPDATE Messwerte_temp SET IST_n_torvena = ?, IST_P_torvena = ?, "
                            "IST_D_torvena = ?, IST_n_ergom = ?, MU_ohne = ?, MU_mit = ?, "
                            "MU_Proz = ? WHERE Prüfschritt = ? AND ProtokollID = ?",

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTextStream>
 
@@ -19,12 +20,29 @@ int complain(const QString &text, ExitCode code) {
     return code;
 }
 
+/// Puts the delivered files into the directory; one that lies there already stays.
+bool deliverFiles(const QString &directory) {
+    const QDir delivered(":/layouts");
+    for (const QString &name : delivered.entryList()) {
+        const QString target = QDir(directory).filePath(name);
+        if (QFileInfo::exists(target))
+            continue;
+        if (!QFile::copy(delivered.filePath(name), target))
+            return false;
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                                          QFile::ReadOther);
+    }
+    return true;
+}
+
 int setUp(const QString &directory, bool demo) {
     const QString path = QDir(directory).filePath(datenbankName);
     if (QFileInfo::exists(path))
         return complain(path + " exists already. Nothing has been changed.", AlreadyThere);
     if (!QDir().mkpath(directory))
         return complain("the directory " + directory + " cannot be created.", Failed);
+    if (!deliverFiles(directory))
+        return complain("the delivered files cannot be written to " + directory + ".", Failed);
     try {
         legeDatenbankAn(path, demo);
     } catch (const Fehler &fehler) {

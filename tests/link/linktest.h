@@ -111,6 +111,7 @@ class ScriptedLine {
     }
     std::function<void(const QByteArray &)> onWrite;
     QByteArray written;
+    bool gone = false; // while open
 
   private:
     struct Device : platform::SerialDevice {
@@ -124,7 +125,7 @@ class ScriptedLine {
         QByteArray readAll() override { return std::exchange(line.arrived(), {}); }
         void discard() override { line.arrived().clear(); }
         qsizetype waiting() override { return line.arrived().size(); }
-        bool lost() const override { return false; }
+        bool lost() const override { return line.gone; }
         ScriptedLine &line;
     };
 

@@ -228,8 +228,9 @@ TEST_F(Bewertung, FailuresLeaveTheVerdictsOfTheStepBefore) {
     };
     Urteil urteil{true, "nein", old};
     SchrittTexte texte{"60", "0", "60,00", "0,00", "61"};
-    raises(platform::fehlernummer::DivisionByZero,
-           [&] { leistungBewerten(urteil, texte, {5, 5, 0}, powerRows); });
+    raises(platform::fehlernummer::DivisionByZero, [&] {
+        leistungBewerten(urteil, texte, {5, 5, 0}, powerRows);
+    });
     EXPECT_TRUE(urteil.ohne);
     EXPECT_EQ(urteil.mit, "nein");
     EXPECT_EQ(urteil.muProz, 1) << "as the row says";
@@ -237,11 +238,13 @@ TEST_F(Bewertung, FailuresLeaveTheVerdictsOfTheStepBefore) {
 
     for (const char *text : {"", "12.5", "abc", "1,2,3"}) {
         texte.ist_P_torvena = text;
-        raises(platform::fehlernummer::TypeMismatch,
-               [&] { leistungBewerten(urteil, texte, {5, 5, 0}, none); });
+        raises(platform::fehlernummer::TypeMismatch, [&] {
+            leistungBewerten(urteil, texte, {5, 5, 0}, none);
+        });
         texte.ist_n_torvena = text;
-        raises(platform::fehlernummer::TypeMismatch,
-               [&] { drehzahlBewerten(urteil, texte, {5, 5, 0}, none); });
+        raises(platform::fehlernummer::TypeMismatch, [&] {
+            drehzahlBewerten(urteil, texte, {5, 5, 0}, none);
+        });
         EXPECT_EQ(urteil.mit, "nein");
     }
 }
@@ -279,7 +282,7 @@ TEST_F(Bewertung, PermittedDeviationOfPower) {
         double prozent, watt;
         const char *soll;
         double watts;
-    } cases[] = {{5, 5, "50", 5},   {5, 5, "100", 5}, {5, 5, "200", 10}, {0, 3, "200", 3},
+    } cases[] = {{5, 5, "50", 5},    {5, 5, "100", 5}, {5, 5, "200", 10}, {0, 3, "200", 3},
                  {10, 0, "150", 15}, {5, 0, "0", 0},   {5, 1, "", 1},     {5, 0, "120,5", 6}};
     for (const auto &c : cases)
         EXPECT_DOUBLE_EQ(fnc_LeistungsToleranz(c.prozent, c.watt, c.soll), c.watts) << c.soll;
@@ -289,7 +292,7 @@ TEST_F(Bewertung, TorqueOfASetPoint) {
     const struct {
         double speed, power;
         bool permitted;
-    } cases[] = {{50, 314, true}, {50, 315, false}, {0, 0, true},   {0, 800, true},
+    } cases[] = {{50, 314, true}, {50, 315, false}, {0, 0, true},     {0, 800, true},
                  {60, 376, true}, {60, 377, false}, {130, 800, true}, {10, 63, false}};
     for (const auto &c : cases)
         EXPECT_EQ(drehmoment(c.speed, c.power) <= grenzDrehmoment, c.permitted)
