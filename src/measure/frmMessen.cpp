@@ -232,6 +232,7 @@ void frmMessen::fnc_MesswertSpeichern() try {
         ui.DBGrid1->selectRow(dataMesswerte.position());
         ui.DBGrid1->scrollTo(mRaster.index(dataMesswerte.position(), 0));
     }
+    ui.DBGrid1->setFocus(); // before the button that has it is disabled
     ui.pbAusführen->setEnabled(false);
     ui.pbSpeichern->setEnabled(false);
     setWaiting(ui.pbSpeichern, false);

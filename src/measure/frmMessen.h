@@ -53,6 +53,7 @@ class frmMessen : public Screen, private Messanzeige {
     void verteilen();
     void motorAbschalten();
     bool fnc_SollwertSenden();
+    void fokusSetzen();
     void fnc_NavigationFreigeben();
     void zeigeDrehzahl(double drehzahl) override;
     void zeigeDrehmoment(double drehmoment) override;

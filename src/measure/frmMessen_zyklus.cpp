@@ -44,6 +44,7 @@ void frmMessen::durchgang() {
             fnc_GraphGrenzenSetzen();
         }
         fnc_EingabeSperren();
+        fokusSetzen();
         if (fnc_SollwertSenden()) {
             countedDelay(sehrKurzeVerzögerung);
             fnc_SechsRundenStarten();
@@ -113,6 +114,15 @@ bool frmMessen::fnc_SollwertSenden() {
     ui.pbFreieEing->setEnabled(false);
     gMessStatus = messstatus::Verweigert;
     return false;
+}
+
+// The keyboard waits where the step wants something: the reading of the ergometer, or nothing until
+// pbSpeichern takes it. Left to the toolkit it would fall on a button that moves to another step.
+void frmMessen::fokusSetzen() {
+    if (istDrehzahlmessung() && messablauf().bedient())
+        ui.txtIST_n_ergom->setFocus();
+    else
+        ui.DBGrid1->setFocus();
 }
 
 void frmMessen::fnc_NavigationFreigeben() {

@@ -5,6 +5,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QScreen>
 #include <QWindow>
 
 #include "desk.h"
@@ -44,20 +45,35 @@ Screen::~Screen() = default;
 void Screen::show() {
     if (mUnloaded)
         return;
-    const bool first = !isVisible();
-    if (first) {
-        if (Screen *front = frontScreen(); front && front != this && front->isVisible()) {
-            adjustSize();
-            const QPoint centre = front->geometry().center() - rect().center();
-            move(std::max(centre.x(), 0), std::max(centre.y(), 0));
-            winId(); // makes the window, which is to stay above the one it came from
-            if (windowHandle() && front->windowHandle())
-                windowHandle()->setTransientParent(front->windowHandle());
-        }
+    if (!isVisible()) {
+        place();
         QWidget::show();
     }
     bringForward();
     Desk::instance().moveFrontTo(*this);
+}
+
+// Over the screen that it came from and stacked above it, but whole within the display.
+void Screen::place() {
+    constexpr int frame = 40; // what a window manager may draw around
+    if (testAttribute(Qt::WA_Resized))
+        resize(size().expandedTo(sizeHint())); // the design has a size of its own
+    else
+        adjustSize();
+    const QRect display = QGuiApplication::primaryScreen()->availableGeometry().adjusted(
+        frame / 4, frame, -frame / 4, -frame / 4);
+    QRect place = rect();
+    place.moveCenter(display.center());
+    Screen *origin = frontScreen();
+    if (origin && origin != this && origin->isVisible()) {
+        place.moveCenter(origin->geometry().center());
+        winId(); // makes the window
+        if (windowHandle() && origin->windowHandle())
+            windowHandle()->setTransientParent(origin->windowHandle());
+    }
+    place.moveLeft(std::max(display.left(), std::min(place.left(), display.right() - width())));
+    place.moveTop(std::max(display.top(), std::min(place.top(), display.bottom() - height())));
+    setGeometry(place);
 }
 
 void Screen::bringForward() {

@@ -88,6 +88,7 @@ class Screen : public QWidget {
     };
     FilterHandlers &filterOf(QWidget *control);
     void run(const Handler &handler);
+    void place();
     void bringForward();
     void leaveDesk();
 

@@ -6,20 +6,8 @@
 namespace {
 
 using namespace support;
-using platform::Information;
-using platform::No;
-using platform::Yes;
 
-class MainJob : public Workplace {
-  protected:
-    Journey settledStep(const char *step, double speed) {
-        co_await until(std::string("step ") + step, [step, speed] {
-            return inFront(frm::Messen) && text(frm::Messen, "laPrSchritt") == step &&
-                   std::abs(text(frm::Messen, "txtIST_n_torvena").replace(',', '.').toDouble() -
-                            speed) < 0.5;
-        });
-    }
-};
+using MainJob = Workplace;
 
 TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
     const auto journey = [this]() -> Journey {
@@ -70,8 +58,7 @@ TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
         EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
         EXPECT_FALSE(control(frm::Messen, "txtIST_n_ergom")->isVisible());
         line.stand().setLoad(100);
-        co_await settledStep("1", 60);
-        co_await pass(7'000);
+        co_await settled("1", 60);
         EXPECT_TRUE(canPress(frm::Messen, "pbSpeichern"));
         const QString power = text(frm::Messen, "txtIST_P_torvena");
         EXPECT_TRUE(power.contains(',')) << power.toStdString();
@@ -81,14 +68,12 @@ TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
                   QStringList{power});
 
         // Step 2, speed: waits for the reading of the ergometer
-        co_await settledStep("2", 80);
+        co_await settled("2", 80);
         EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
         type(frm::Messen, "txtIST_n_ergom", "80,5");
         EXPECT_TRUE(canPress(frm::Messen, "pbSpeichern"));
         enter(frm::Messen, "txtIST_n_ergom");
-        boxes.expect("Das Rezept ist abgearbeitet!\rBeenden Sie das Messen oder fahren Sie mit "
-                     "freier Eingabe fort!",
-                     "Meldung!", Information);
+        expectRecipeEnd();
         press(frm::Messen, "pbSpeichern");
         co_await pass(3'000);
         EXPECT_EQ(gMessStatus, 6);

@@ -78,6 +78,10 @@ TEST_F(Bewertung, OfAPower) {
         {"180", "180.11", 0, 0.1, false, false, "nein", old},
         {"180", "179.90", 0, 0.1, false, true, "ja", old},
         {"180", "179.89", 0, 0.1, false, false, "nein", old},
+        {"60", "64.40", 0, 4.4, false, true, "ja",
+         old}, // 64.40 times 100 is a trace more in binary
+        {"60", "64.41", 0, 4.4, false, false, "nein", old},
+        {"60", "65.54", 0, 5.54, false, true, "ja", old},
         {"150", "165.00", 10, 0, false, true, "ja", old},
         {"150", "165.01", 10, 0, false, false, "nein", old},
         {"25", "28.00", 0, 3, false, true, "ja", old},

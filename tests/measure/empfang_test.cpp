@@ -74,7 +74,7 @@ TEST_F(Reception, AFrameThatDoesNotEndIsReportedAndTheReceptionGoesOn) {
     line.arrive({frame.left(3), "\x01", "\x02"}, 5000);
     boxes.expect("Keine Daten bei ca. 3 x 6 Runden!", OK, [this] {
         EXPECT_NEAR(clock.elapsed(), 23'000, 10);
-        line.arrive({frame.mid(5, 2), frame}, 1000); // ends the spoilt one
+        line.arrive({frame.mid(5), frame}, 1000); // ends the spoilt one
     });
     endsAt = "";
     clock.after(40'000, [] { gMessStatus = 4; });

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 
 namespace support {
 
@@ -15,6 +17,17 @@ void sendKeys(QWidget &target, const QString &keys) {
         }
     }
 }
+
+namespace {
+
+QStringList headings(const QHeaderView &header) {
+    QStringList texts;
+    for (int section = 0; header.model() && section < header.count(); ++section)
+        texts += header.model()->headerData(section, header.orientation()).toString();
+    return texts;
+}
+
+} // namespace
 
 QStringList visibleTexts(frm name) {
     QStringList texts;
@@ -29,7 +42,16 @@ QStringList visibleTexts(frm name) {
             texts += label->text();
         else if (const auto *group = qobject_cast<const QGroupBox *>(widget))
             texts += group->title();
+        else if (const auto *edit = qobject_cast<const QLineEdit *>(widget))
+            texts += edit->placeholderText();
+        else if (const auto *header = qobject_cast<const QHeaderView *>(widget))
+            texts += headings(*header);
+        texts += widget->toolTip();
     }
+    for (const QAction *action : screen->findChildren<QAction *>())
+        texts += action->text();
+    for (const QMenu *menu : screen->findChildren<QMenu *>())
+        texts += menu->title();
     texts.removeAll(QString());
     return texts;
 }

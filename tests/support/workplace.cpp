@@ -2,16 +2,39 @@
 
 #include <QDir>
 
+#include "auswahl.h"
 #include "controller.h"
 #include "einlauf.h"
 #include "runtime.h"
 #include "scripts.h"
 #include "session.h"
+#include "sprache.h"
 #include "start.h"
 
 namespace support {
 
 using namespace platform;
+
+namespace {
+
+/// As in a process that has just begun.
+void forgetSession() {
+    gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
+    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = false;
+    gEinlaufzeit = gEinlaufLeistung = 0;
+    gPrüfer.clear();
+    gProduktTitel.clear();
+    gSeriennummer.clear();
+    gNKGerätetyp.clear();
+    gHebelarmDatum = gHebelarmFällig = gKalibrierdatum = {};
+    kundeWählen({});
+    gerätWählen({}, {});
+    rezeptWählen({});
+    normalZeigen({});
+    datumZeigen({});
+}
+
+} // namespace
 
 Workshop::Workshop()
     : previousDirectory(QDir::currentPath())
@@ -20,14 +43,16 @@ Workshop::Workshop()
     QDir::setCurrent(directory.path());
     setNumberLocale(QLocale(QLocale::German, QLocale::Germany));
     legeDatenbankAn(datenbankName, true);
+    forgetSession();
     gSprache = 1;
     gDesktopAktiv = true;
     controllerVorbereiten();
     einlaufVorbereiten();
-    setBeeper([] {});
+    setBeeper([this] { ++beeps; });
 }
 
 Workshop::~Workshop() {
+    setBeeper({});
     programmAufräumen();
     QDir::setCurrent(previousDirectory);
 }
@@ -40,12 +65,28 @@ QStringList Workshop::column(const QString &sql, const Datenbank::Params &params
     return values;
 }
 
-Workplace::Workplace() = default;
-Workplace::~Workplace() = default;
+void Workshop::change(const QString &sql, const Datenbank::Params &params) {
+    Datenbank other;
+    other.openFile(datenbankName);
+    other.execute(sql, params);
+}
 
-bool Workplace::english() const {
+void Workshop::setLanguage(int language) {
+    change("UPDATE System SET Sprache = ?", {language});
+    setNumberLocale(language == 1 ? QLocale(QLocale::German, QLocale::Germany)
+                                  : QLocale(QLocale::English, QLocale::UnitedStates));
+}
+
+bool Workshop::english() {
     return gSprache == 2;
 }
+
+void Workshop::expectBox(const Text &text, int flags, const Text &title, int answer) {
+    boxes.expect(inSprache(text), inSprache(title), flags, answer);
+}
+
+Workplace::Workplace() = default;
+Workplace::~Workplace() = default;
 
 void Workplace::start() {
     gSprache = 0;
@@ -72,18 +113,18 @@ Journey Workplace::logIn() {
 }
 
 Journey Workplace::choose(const QString &customer, const QString &ident, const QString &recipe) {
+    const Text title{"Stammdaten auswählen", "Select Master Data"};
     press(frm::Desktop, "pbKunde");
     co_await arrive(frm::Kunden);
     type(frm::Kunden, "cmbKundenname", customer);
-    boxes.expect(english() ? "Do you want to select a unit for this customer now?"
-                           : "Wollen Sie jetzt ein Gerät zu diesem Kunden auswählen?",
-                 Yes);
+    expectBox({"Wollen Sie jetzt ein Gerät zu diesem Kunden auswählen?",
+               "Do you want to select a unit for this customer now?"},
+              YesNo + Question, title, Yes);
     press(frm::Kunden, "pbexit");
     co_await arrive(frm::Gerät);
     type(frm::Gerät, "cmbIdent", ident);
-    boxes.expect(english() ? "Do you want to select a recipe now?"
-                           : "Wollen Sie jetzt ein Rezept auswählen?",
-                 Yes);
+    expectBox({"Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
+              YesNo + Question, title, Yes);
     enter(frm::Gerät, "cmbIdent");
     co_await arrive(frm::Rezepte);
     type(frm::Rezepte, "cmbRezeptname", recipe);
@@ -91,19 +132,43 @@ Journey Workplace::choose(const QString &customer, const QString &ident, const Q
     co_await arrive(frm::Desktop);
 }
 
-Journey Workplace::correctZeroPoint() {
+Journey Workplace::select() {
+    const DemoNames names = demoNames();
+    co_await logIn();
+    co_await choose(names.customer, names.ident, names.recipe);
+}
+
+Journey Workplace::chooseDirection() {
     press(frm::Desktop, "pbDrehR");
     co_await arrive(frm::MotorDrehR);
     press(frm::MotorDrehR, "obRechts");
     press(frm::MotorDrehR, "pbok");
     co_await arrive(frm::Desktop);
-    boxes.expect(english() ? "The unit under test has not completed the run-up yet!\rDo you still "
-                             "want to start the measurement?"
-                           : "Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die "
-                             "Messung beginnen ?",
-                 Yes);
+}
+
+Journey Workplace::startMeasuring() {
+    if (gDrehrichtung == 0)
+        co_await chooseDirection();
+    if (!canPress(frm::Desktop, "pbMessen")) {
+        press(frm::Desktop, "pbRezept");
+        co_await arrive(frm::Rezepte);
+        type(frm::Rezepte, "cmbRezeptname", auswahl().rezept);
+        press(frm::Rezepte, "pbok");
+        co_await arrive(frm::Desktop);
+    }
+    if (!gEingelaufen)
+        expectBox({"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
+                   "beginnen ?",
+                   "The unit under test has not completed the run-up yet!\rDo you still want to "
+                   "start the measurement?"},
+                  YesNo + Exclamation + SecondButtonDefault,
+                  {"Messen starten", "Start The Measurement"}, Yes);
     press(frm::Desktop, "pbMessen");
     co_await arrive(frm::VorStatNPK);
+}
+
+Journey Workplace::correctZeroPoint() {
+    co_await startMeasuring();
     press(frm::VorStatNPK, "pbok");
     co_await until("the correction", [] { return canPress(frm::StatMessen, "pbWeiter"); });
     press(frm::StatMessen, "pbWeiter");
@@ -123,11 +188,71 @@ Journey Workplace::newProtocol(const QString &name) {
 }
 
 Journey Workplace::measure() {
-    const DemoNames names = demoNames();
-    co_await logIn();
-    co_await choose(names.customer, names.ident, names.recipe);
+    co_await select();
     co_await correctZeroPoint();
     co_await newProtocol("Abnahme");
+}
+
+Journey Workplace::settled(const QString &step, double speed) {
+    const auto complete = [step, speed] {
+        return inFront(frm::Messen) && text(frm::Messen, "laPrSchritt") == step &&
+               !text(frm::Messen, "txtIST_P_torvena").isEmpty() &&
+               std::abs(CDbl(text(frm::Messen, "txtIST_n_torvena")) - speed) < 0.1;
+    };
+    const Until reached = until("step " + step.toStdString(), complete);
+    co_await reached;
+    co_await pass(20);
+}
+
+void Workplace::expectRecipeEnd() {
+    expectBox({"Das Rezept ist abgearbeitet!\r"
+               "Beenden Sie das Messen oder fahren Sie mit freier Eingabe fort!",
+               "The recipe has been run!\r"
+               "Terminate the measuring, or continue with Free Input!"},
+              Information, {"Meldung!", "Message!"});
+}
+
+void Workplace::expectEmptyProtocol() {
+    expectBox({"Protokoll enthält keine Daten und wird gelöscht!",
+               "Protocol does not contain data and is deleted!"},
+              Information, {"Beenden", "Message"});
+}
+
+Journey Workplace::leaveMeasuring() {
+    press(frm::Messen, "pbAbbrechen");
+    co_await arrive(frm::Desktop);
+}
+
+Journey Workplace::wholeMeasurement(const QString &name) {
+    co_await correctZeroPoint();
+    co_await newProtocol(name);
+    line.stand().setLoad(100);
+    co_await settled("1", 60);
+    save();
+    co_await settled("2", 80);
+    type(frm::Messen, "txtIST_n_ergom", "80");
+    expectRecipeEnd();
+    save();
+    co_await leaveMeasuring();
+    EXPECT_EQ(storedSteps(), (QStringList{"1", "2"}));
+    expectIdleDesktop();
+}
+
+void Workplace::expectIdleDesktop() {
+    EXPECT_TRUE(inFront(frm::Desktop));
+    EXPECT_TRUE(canPress(frm::Desktop, "pbKunde"));
+    for (const frm other : {frm::StatMessen, frm::VorStatNPK, frm::NachStatNPK, frm::ProtokollNr,
+                            frm::Messen, frm::Meldung, frm::MotorDrehR})
+        EXPECT_FALSE(loaded(other)) << "screen " << static_cast<int>(other);
+    EXPECT_EQ(line.stand().setSpeed(), 0);
+    EXPECT_TRUE(leitungFrei());
+    EXPECT_FALSE(Timer1.enabled());
+}
+
+QStringList Workplace::storedSteps() {
+    return column("SELECT Prüfschritt FROM Messwerte_temp WHERE ProtokollID = ? "
+                  "ORDER BY MDat, rowid",
+                  {gProtokollID});
 }
 
 } // namespace support
