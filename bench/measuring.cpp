@@ -159,8 +159,7 @@ class Road {
              }},
             {"a measured step", ready(frm::Messen, "pbSpeichern"),
              [this, seconds] {
-                 QObject::connect(control<QLineEdit>(frm::Messen, "txtIST_P_torvena"),
-                                  &QLineEdit::textChanged, [this] { ++mFrames; });
+                 countFrames();
                  rest(seconds);
              }},
             {"the end of the measurement", front(frm::Messen),
@@ -169,6 +168,17 @@ class Road {
                  beendenOhneFrage();
              }},
         };
+    }
+
+    /// A frame fills three boxes at once; one of them may show the same as before.
+    void countFrames() {
+        for (const char *box : {"txtIST_n_torvena", "txtIST_D_torvena", "txtIST_P_torvena"}) {
+            QObject::connect(control<QLineEdit>(frm::Messen, box), &QLineEdit::textChanged, [this] {
+                if (!mSinceFrame.isValid() || mSinceFrame.elapsed() > 500)
+                    ++mFrames;
+                mSinceFrame.start();
+            });
+        }
     }
 
     void tellIdle() const {
@@ -191,6 +201,7 @@ class Road {
     std::vector<Station> mStations;
     size_t mNext = 0;
     int mFrames = 0;
+    QElapsedTimer mSinceFrame;
     platform::Timer mLook{100};
     QElapsedTimer mSince;
     Span mSpan;

@@ -33,11 +33,7 @@ bool exchangeRuns = false;
 class Exchange {
   public:
     Exchange() {
-        if (exchangeRuns) {
-            throw Fehler(fehlernummer::LineBusy,
-                         {"Die Leitung zum Controller ist noch beschäftigt. Bitte warten Sie.",
-                          "The line to the controller is still busy. Please wait."});
-        }
+        leitungFreiPrüfen();
         exchangeRuns = true;
     }
     ~Exchange() { exchangeRuns = false; }
@@ -66,9 +62,15 @@ void armTimer1(int milliseconds) {
     Timer1.setEnabled(true);
 }
 
+/// An exchange that was refused leaves the time-out of the one that runs alone.
+void stopTimer1(const Fehler &fehler) {
+    if (fehler.number() != fehlernummer::LineBusy)
+        Timer1.setEnabled(false);
+}
+
 /// Boxes of this line exist in one language only.
 void errorBox(const QString &tag, const Fehler &fehler) {
-    Timer1.setEnabled(false);
+    stopTimer1(fehler);
     fehlerMerken(fehler);
     msgBox(tag + Str(fehler.number()) + ' ' + gFehlerText, Critical, "Error");
 }
@@ -151,19 +153,19 @@ bool fnc_EchoWarten(const QString &pattern) {
         QString received;
         gTimeoutTimer1 = false;
         armTimer1(echoMilliseconds);
-        for (;;) {
+        while (gDesktopAktiv) {
             pump();
             if (MSComm1.InBufferCount() > 0)
                 received += fnc_HexString(MSComm1.Input());
             if (received == pattern)
                 return true;
-            if (fnc_TimeoutAbfragen() || !gDesktopAktiv)
+            if (fnc_TimeoutAbfragen())
                 return false;
         }
     } catch (const Fehler &fehler) {
         errorBox("Error 5005-", fehler);
-        return false;
     }
+    return false;
 }
 
 bool fnc_TimeoutAbfragen() {
@@ -213,6 +215,8 @@ bool fnc_FrequenzLesen() {
         }
     } catch (const Fehler &fehler) {
         errorBox("Error 5009-", fehler);
+        if (fehler.number() == fehlernummer::LineBusy)
+            return false;
     }
     tiDrehzahl.setEnabled(false);
     return false;
@@ -276,7 +280,7 @@ std::int16_t fnc_BetriebsartLesen() {
             armTimer1(modeMilliseconds);
         }
     } catch (const Fehler &fehler) {
-        Timer1.setEnabled(false);
+        stopTimer1(fehler);
         fehlerBox("Fehler 4000 - ", "ERROR 4000 - ", fehler);
     }
     return 0;
@@ -322,7 +326,7 @@ bool fnc_Reset() {
             armTimer1(resetMilliseconds);
         }
     } catch (const Fehler &fehler) {
-        Timer1.setEnabled(false);
+        stopTimer1(fehler);
         fehlerBox("Fehler 4001 - ", "ERROR 4001 - ", fehler);
     }
     return false;
@@ -337,6 +341,14 @@ void datenstromBeenden() {
 
 bool leitungFrei() {
     return !exchangeRuns;
+}
+
+void leitungFreiPrüfen() {
+    if (exchangeRuns) {
+        throw Fehler(fehlernummer::LineBusy,
+                     {"Die Leitung zum Controller ist noch beschäftigt. Bitte warten Sie.",
+                      "The line to the controller is still busy. Please wait."});
+    }
 }
 
 void motorStillschweigendAus() {

@@ -51,6 +51,8 @@ void datenstromBeenden();
 
 /// False while an exchange is under way.
 bool leitungFrei();
+/// Raises LineBusy while an exchange is under way.
+void leitungFreiPrüfen();
 
 /// Stops the motor without asking or telling, on the way out of the process.
 void motorStillschweigendAus();

@@ -76,6 +76,7 @@ const QStringList &Schnittstelle::stoppbitzahlen() {
 
 void fnc_PortPrüfen() {
     try {
+        leitungFreiPrüfen(); // the trial would close the port under a running exchange
         if (!MSComm1.PortOpen())
             MSComm1.setPortOpen(true);
         MSComm1.setPortOpen(false);

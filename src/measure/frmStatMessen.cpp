@@ -106,7 +106,9 @@ void frmStatMessen::Form_Unload() {
 
 void frmStatMessen::fnc_StatVorbereiten() {
     tiEinlauf.setEnabled(false);
+    disable(); // left now, it would let the desktop at a line that is in use
     gErgebnis = fnc_MotorAus();
+    enable();
     beep();
     if (gMessStatus != abgebrochen && !unloaded())
         ::screen(frm::VorStatNPK).showModal();

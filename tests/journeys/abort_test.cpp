@@ -129,22 +129,24 @@ TEST_P(Abort, Direction) {
     run(journey());
 }
 
-TEST_P(Abort, CorrectionWhileTheMotorIsStopped) {
+TEST_P(Abort, CorrectionNotWhileTheMotorIsStopped) {
     const auto journey = [this]() -> Journey {
         co_await select();
         co_await chooseDirection();
-        gEingelaufen = true;
         press(frm::Desktop, "pbMotein");
         co_await pass(10'000);
+        gEingelaufen = true;
         press(frm::Desktop, "pbMessen");
         co_await until("the wait for standstill",
                        [this] { return line.stand().wire().back() == 'g'; });
-        expectCorrectionAborted();
-        press(frm::StatMessen, "pbAbbrechen");
-        co_await until("the way back", [] { return leitungFrei() && inFront(frm::Desktop); });
-        co_await correctionLeft();
+        // The line is in use: nobody may get at it, from here or from the desktop.
+        EXPECT_FALSE(canPress(frm::StatMessen, "pbAbbrechen"));
+        loaded(frm::StatMessen)->close();
+        EXPECT_FALSE(canPress(frm::Desktop, "pbMotaus"));
+        co_await arrive(frm::VorStatNPK);
         EXPECT_FALSE(line.stand().motorOn());
-        co_await again();
+        press(frm::VorStatNPK, "pbok");
+        co_await until("the correction", [] { return canPress(frm::StatMessen, "pbWeiter"); });
     };
     run(journey());
 }

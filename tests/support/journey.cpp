@@ -32,7 +32,7 @@ bool goOnIfTrue() {
 
 } // namespace
 
-void Until::await_suspend(std::coroutine_handle<> handle) {
+void Until::await_suspend(std::coroutine_handle<> handle) const {
     waiting = {handle, this, theClock->elapsed() + milliseconds, false};
     // Time must be able to reach the deadline even when nothing else is due.
     theClock->after(milliseconds + 1, [] {});

@@ -73,7 +73,7 @@ struct Until {
     std::string what;
     double milliseconds;
     bool await_ready() const { return condition(); }
-    void await_suspend(std::coroutine_handle<> handle);
+    void await_suspend(std::coroutine_handle<> handle) const;
     void await_resume() const;
 };
 

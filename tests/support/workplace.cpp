@@ -193,13 +193,13 @@ Journey Workplace::measure() {
     co_await newProtocol("Abnahme");
 }
 
-Journey Workplace::settled(const QString &step, double speed) {
+Journey Workplace::settled(const char *step, double speed) {
     const auto complete = [step, speed] {
         return inFront(frm::Messen) && text(frm::Messen, "laPrSchritt") == step &&
                !text(frm::Messen, "txtIST_P_torvena").isEmpty() &&
                std::abs(CDbl(text(frm::Messen, "txtIST_n_torvena")) - speed) < 0.1;
     };
-    const Until reached = until("step " + step.toStdString(), complete);
+    const Until reached = until(std::string("step ") + step, complete);
     co_await reached;
     co_await pass(20);
 }

@@ -65,7 +65,7 @@ class Workplace : public Workshop {
     /// All of the above with the demo customer and the short recipe.
     Journey measure();
     /// Until the step is measured at this speed and its live values are complete.
-    static Journey settled(const QString &step, double speed);
+    static Journey settled(const char *step, double speed);
     /// Saves the step at hand. The journey stays where it was: a box may have come.
     static void save() { press(frm::Messen, "pbSpeichern"); }
     void expectRecipeEnd();
