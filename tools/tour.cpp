@@ -170,7 +170,7 @@ class Tour {
 
   private:
     void look() {
-        if (mSettled || mNext == mStations.size())
+        if (mBusy || mNext == mStations.size())
             return;
         const Station &station = mStations[mNext];
         if (!station.reached()) {
@@ -181,7 +181,7 @@ class Tour {
             }
             return;
         }
-        mSettled = true; // one look lies between reaching a station and its picture
+        mBusy = true; // painting below may look again
         Screen *screen = platform::frontScreen();
         QApplication::processEvents();
         const QString file =
@@ -191,7 +191,7 @@ class Tour {
         std::printf("%2zu %s\n", mNext + 1, station.name);
         std::fflush(stdout);
         ++mNext;
-        mSettled = false;
+        mBusy = false;
         mSince.restart();
         station.goOn();
         if (mNext == mStations.size()) {
@@ -202,7 +202,7 @@ class Tour {
 
     std::vector<Station> mStations;
     size_t mNext = 0;
-    bool mSettled = false;
+    bool mBusy = false;
     platform::Timer mTimer{100};
     QElapsedTimer mSince;
 };

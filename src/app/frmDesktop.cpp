@@ -18,6 +18,7 @@
 #include "session.h"
 #include "sprache.h"
 #include "sqltext.h"
+#include "system.h"
 
 using namespace platform;
 
@@ -83,15 +84,18 @@ constexpr auto helpFile = "hilfe.html";
 
 frmDesktop::frmDesktop()
     : mSeriennummer([this](const QString &text) { showMotorInfo(text); },
-                    [this] { normalUndHebelarmZeigen(); }) {
+                    [this] {
+                        datumZeigen(datumText(now().date()));
+                        normalUndHebelarmZeigen();
+                    }) {
     ui.setupUi(this);
     verdrahten();
     enterFront(*this);
-    setAuswahlListener([this] { auswahlZeigen(); });
+    setAuswahlListener([this] { auswahlZeigen(); }, [this] { DesktopButton_Freigeben(); });
 }
 
 frmDesktop::~frmDesktop() {
-    setAuswahlListener({});
+    setAuswahlListener({}, {});
     leaveFront(*this);
 }
 
@@ -146,13 +150,19 @@ void frmDesktop::verdrahten() {
 
 void frmDesktop::Form_Load() try {
     // What kept the database from opening at the first screen may have been mended since.
-    if (!gDatenbank.isOpen() && fnc_DatenbankÖffnen() == 1) {
-        meldung({"Initialisierungsfehler!", "Initializing Error!"}, Critical,
-                {"Fehler", "Error"});
+    if (!gDatenbank.isOpen()) {
+        if (fnc_DatenbankÖffnen() == 1) {
+            meldung({"Initialisierungsfehler!", "Initializing Error!"}, Critical,
+                    {"Fehler", "Error"});
+        }
+        if (gDatenbank.isOpen())
+            systemLesen();
     }
-    const InterfaceZeile leitung = interfaceLesen();
-    MSComm1.setCommPort(leitung.port);
-    MSComm1.setSettings(leitung.parameter);
+    ohneFehlendeSpalte([] {
+        const InterfaceZeile leitung = interfaceLesen();
+        MSComm1.setCommPort(leitung.port);
+        MSComm1.setSettings(leitung.parameter);
+    });
     setCaption(gProduktTitel);
     ui.Label12->setText(gProduktTitel);
     gDesktopAktiv = true;
@@ -162,30 +172,23 @@ void frmDesktop::Form_Load() try {
     ui.txtPrüfer->setText(gPrüfer);
     gEPModus = false;
     gUpdateBeimBeenden = false;
-    systemZeigen();
     letztesNormalLesen();
     ui.txtKalDat->setText(datumText(gKalibrierdatum));
     datumZeigen(datumText(now().date()));
-    if (!fnc_HebelarmDatumLesen()) {
-        throw Fehler(fehlernummer::NoCurrentRecord,
-                     {"Es gibt noch keine Hebelarmkalibrierung.",
-                      "There is no lever arm calibration yet."});
-    }
+    ohneFehlendeSpalte([] {
+        if (!fnc_HebelarmDatumLesen()) {
+            throw Fehler(fehlernummer::NoCurrentRecord,
+                         {"Es gibt noch keine Hebelarmkalibrierung.",
+                          "There is no lever arm calibration yet."});
+        }
+    });
     normalUndHebelarmZeigen();
+    ui.pbReset->setVisible(endprüfungFreigegeben());
+    ui.pbEndprüf->setVisible(endprüfungFreigegeben());
 } catch (const Fehler &fehler) {
     gDesktopAktiv = true; // the window stays up with what it got, and its waits must end by time
     beschriften();
     fehlerBox("Fehler D_6002 - ", "ERROR D_6002 - ", fehler);
-}
-
-// An installation shows these two by a setting of its own in the database.
-void frmDesktop::systemZeigen() {
-    ohneFehlendeSpalte([this] {
-        const Recordset system = gDatenbank.open("SELECT * FROM System");
-        const bool zeigen = !system.empty() && system["Endprüfung"].whole() != 0;
-        ui.pbReset->setVisible(zeigen);
-        ui.pbEndprüf->setVisible(zeigen);
-    });
 }
 
 void frmDesktop::normalUndHebelarmZeigen() {
@@ -193,11 +196,10 @@ void frmDesktop::normalUndHebelarmZeigen() {
     const QDate heute = now().date();
     ui.ProgressBar1->setValue(hebelarmRest(gHebelarmDatum, gHebelarmFällig, heute));
     beschriften();
-    if (heute > gHebelarmFällig) {
-        QPalette palette = ui.FrHebelarm->palette();
+    QPalette palette;
+    if (heute > gHebelarmFällig)
         palette.setColor(QPalette::WindowText, QColor(255, 0, 0));
-        ui.FrHebelarm->setPalette(palette);
-    }
+    ui.FrHebelarm->setPalette(palette);
 }
 
 void frmDesktop::beschriften() {
@@ -222,7 +224,6 @@ void frmDesktop::auswahlZeigen() {
     ui.txtRezName->setText(wahl.rezept.isEmpty() ? QString() : gRezeptName);
     ui.txtNormal->setText(wahl.normal);
     ui.txtDatum->setText(wahl.datum);
-    DesktopButton_Freigeben();
 }
 
 void frmDesktop::DesktopButton_Freigeben() {
@@ -231,7 +232,8 @@ void frmDesktop::DesktopButton_Freigeben() {
     ui.pbGerät->setEnabled(regeln.gerät);
     ui.pbBlutdruck->setEnabled(regeln.gerät && exists(frm::Blutdruck));
     ui.pbSecControl->setEnabled(regeln.secControl && exists(frm::SecControl));
-    setMessenEnabled(regeln.messen);
+    if (!regeln.ohneKunde)
+        setMessenEnabled(regeln.messen);
 }
 
 void frmDesktop::setMessenEnabled(bool enabled) {
@@ -245,30 +247,31 @@ void frmDesktop::spracheSetzen(std::int16_t sprache) {
 }
 
 void frmDesktop::Form_Activate() {
-    if (gMessStatus == 4 || gMessStatus == 5)
+    if (gMessStatus == messstatus::Ende || gMessStatus == messstatus::Verweigert)
         ui.pbDrehR->setEnabled(false);
     switch (std::exchange(gDesktopFolge, std::int16_t{0})) {
-    case 2:
+    case desktopfolge::Gerät:
         mnuGerät_Click();
         break;
-    case 3:
+    case desktopfolge::Rezept:
         mnuRezept_Click();
         break;
-    case 4:
+    case desktopfolge::Korrektur:
+        gEinlaufStatus = einlaufstatus::NichtBegonnen;
         ::screen(frm::StatMessen).showModal();
         break;
-    case 5:
+    case desktopfolge::Messen:
         pbMessen_Click();
         break;
-    case 6:
+    case desktopfolge::Bericht:
         if (exists(frm::Bericht))
             ::screen(frm::Bericht).showModal();
         break;
     default:
         break;
     }
-    gFormStatus = 0;
-    gDesktopFolge = 0;
+    gFormStatus = formstatus::Keiner;
+    gDesktopFolge = desktopfolge::Nichts;
     if (gUpdateBeimBeenden)
         ui.pbBeenden->click();
 }
@@ -332,7 +335,7 @@ void frmDesktop::mnuRezepte_Click() try {
 
 void frmDesktop::mnuKalibrierung_Click() {
     if (gDrehrichtung > 0)
-        gFormStatus = 1;
+        gFormStatus = formstatus::RichtungFehlt;
     ::screen(frm::Kalibrierung).showModal();
 }
 

@@ -41,7 +41,6 @@ class frmDesktop : public Screen, public Front {
   private:
     void verdrahten();
     void öffnet(QPushButton *button, QAction *action, frm ziel, void (frmDesktop::*weg)());
-    void systemZeigen();
     void beschriften();
     void normalUndHebelarmZeigen();
     void auswahlZeigen();

@@ -11,16 +11,12 @@
 
 using namespace platform;
 
-namespace {
-constexpr std::int16_t ruhe = 6; // gMessStatus: nothing runs
-}
-
 void frmDesktop::pbMotein_Click() try {
     fnc_PortPrüfen();
     if (!gSS1Vorhanden) {
-        meldung({"Die Schnittstellenparameter gibt es nicht. \nBitte korrigieren Sie die "
+        meldung({"Die Schnittstellenparameter gibt es nicht. \rBitte korrigieren Sie die "
                  "Einstellungen!",
-                 "The interface settings do not exist . \nPlease correct it!"},
+                 "The interface settings do not exist . \rPlease correct it!"},
                 Exclamation, {"Achtung!", "Attention!"});
         ::screen(frm::Interface).showModal();
         return;
@@ -35,6 +31,7 @@ void frmDesktop::pbMotein_Click() try {
         gMotorEin = true;
         ui.pbMotein->setEnabled(false);
         ui.pbMotaus->setEnabled(true);
+        ui.pbMotaus->setFocus(); // left alone it would fall on the button that ends the program
         einlaufStarten();
         showMotorInfo(wirdEin);
     } else {
@@ -42,6 +39,7 @@ void frmDesktop::pbMotein_Click() try {
                  "It was not possible to switch the motor on."},
                 Critical, {"Motor ein", "Motor On"});
         ui.pbMotein->setEnabled(true);
+        ui.pbMotein->setFocus();
         ui.pbDrehR->setEnabled(true);
         ui.pbMotaus->setEnabled(false);
         gMotorEin = false;
@@ -63,16 +61,18 @@ void frmDesktop::pbMotaus_Click() try {
     if (fnc_BefehlSenden("E", gDrehrichtung, "00")) {
         gMotorEin = false;
         ui.pbMotein->setEnabled(true);
+        ui.pbMotein->setFocus();
         ui.pbDrehR->setEnabled(true);
         ui.pbMotaus->setEnabled(false);
         showMotorInfo(inSprache({"Motor ist ausgeschaltet", "Motor is switched off"}));
         tiEinlauf.setEnabled(false);
         motorzeitMerken();
-        gMessStatus = ruhe;
+        gMessStatus = messstatus::Ruhe;
     } else {
         meldung({"Fehler", "Error"}, Exclamation, {"Motor aus", "Motor Off"});
         ui.pbMotein->setEnabled(false);
         ui.pbMotaus->setEnabled(true);
+        ui.pbMotaus->setFocus();
     }
     enable();
 } catch (const Fehler &fehler) {
@@ -82,7 +82,7 @@ void frmDesktop::pbMotaus_Click() try {
 
 void frmDesktop::pbMessen_Click() {
     gMessenFreigabe = true;
-    gMessStatus = ruhe;
+    gMessStatus = messstatus::Ruhe;
     if (!gEingelaufen) {
         const int antwort =
             meldung({"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
@@ -100,11 +100,11 @@ void frmDesktop::pbMessen_Click() {
                      "Please select a direction of rotation for the motor first!"},
                     Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
             gMessenFreigabe = true;
-            ::screen(frm::MotorDrehR).show();
+            ::screen(frm::MotorDrehR).showModal();
             return;
         }
     }
-    gEinlaufStatus = 0;
+    gEinlaufStatus = einlaufstatus::NichtBegonnen;
     tiEinlauf.setEnabled(false);
     gRestMinuten = gEinlaufzeit;
     gEingelaufen = true;

@@ -1,6 +1,7 @@
 #include "frmLogin.h"
 
 #include <QCoreApplication>
+#include <QShortcut>
 
 #include "msgbox.h"
 #include "session.h"
@@ -18,6 +19,7 @@ frmLogin::frmLogin() {
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbCancel, [this] { pbCancel_Click(); });
     onEnter(ui.txtUserName, [this] { pbok_Click(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { pbCancel_Click(); });
 }
 
 void frmLogin::Form_Load() {

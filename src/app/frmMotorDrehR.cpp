@@ -17,8 +17,6 @@ constexpr Beschriftung english[] = {
 };
 
 enum : std::int16_t { Keine = 0, Rechtslauf = 1, Linkslauf = 2 };
-constexpr std::int16_t folgeStatMessen = 4;       // gDesktopFolge
-constexpr std::int16_t kalibrierungEinlaufen = 3; // gFormStatus
 
 } // namespace
 
@@ -35,7 +33,8 @@ void frmMotorDrehR::Form_Load() {
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
     front().disableFront();
-    // Arrow keys must not choose by merely passing over an option.
+    mVorher = gDrehrichtung;
+    // Two options of which none is chosen yet.
     ui.obRechts->setAutoExclusive(false);
     ui.obLinks->setAutoExclusive(false);
     ui.obRechts->setChecked(false);
@@ -53,6 +52,10 @@ void frmMotorDrehR::Form_Activate() {
 }
 
 void frmMotorDrehR::Form_Unload() {
+    if (!mEntschieden) { // by the close box: no measurement, and the direction as it was
+        gMessenFreigabe = false;
+        gDrehrichtung = mVorher;
+    }
     front().enableFront();
 }
 
@@ -66,24 +69,28 @@ void frmMotorDrehR::wählen(std::int16_t richtung) {
 }
 
 void frmMotorDrehR::pbok_Click() {
+    mEntschieden = true;
     const QString wort = inSprache(gDrehrichtung == Rechtslauf ? Text{"Rechtslauf", "Right"}
                                                                : Text{"Linkslauf", "Left"});
     front().showDrehrichtung(wort);
-    if (gFormStatus != 0) {
-        gFormStatus = kalibrierungEinlaufen;
+    if (gFormStatus != formstatus::Keiner) {
+        gFormStatus = formstatus::Einlaufen;
         if (Screen *kalibrierung = loaded(frm::Kalibrierung))
             kalibrierung->showInfo(wort);
     } else {
         front().setDrehREnabled(true);
         front().setMoteinEnabled(true);
         if (gMessenFreigabe)
-            gDesktopFolge = folgeStatMessen;
+            gDesktopFolge = desktopfolge::Korrektur;
     }
     unload();
 }
 
 void frmMotorDrehR::pbAbbrechen_Click() {
+    mEntschieden = true;
     gDrehrichtung = Keine;
+    front().showDrehrichtung({}); // what the box says holds: the motor cannot be switched on
+    front().setMoteinEnabled(false);
     meldung({"Sie haben keine Drehrichtung gewählt!\r\nDer Motor kann nicht eingeschaltet werden.",
              "Please select a direction of rotation for the motor!\r\n"
              "It is not possible to switch the motor on."},

@@ -20,4 +20,6 @@ class frmMotorDrehR : public Screen {
     void pbAbbrechen_Click();
 
     Ui::frmMotorDrehR ui;
+    std::int16_t mVorher = 0; ///< direction before the choice
+    bool mEntschieden = false;
 };

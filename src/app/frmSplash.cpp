@@ -4,6 +4,7 @@
 #include "msgbox.h"
 #include "session.h"
 #include "sprache.h"
+#include "system.h"
 
 frmSplash::frmSplash() {
     ui.setupUi(this);
@@ -17,32 +18,25 @@ void frmSplash::Form_Load() {
                 {"Fehler", "Error"});
     }
     try {
-        systemLesen();
+        const SystemTitel titel = systemLesen();
+        ui.lbFirmenname->setText(titel.firma);
+        ui.lblProductName->setText(titel.produkt);
     } catch (const Fehler &fehler) {
         // Silent: the login comes all the same, and later messages need a language.
         fehlerMerken(fehler);
         if (gSprache == 0)
             gSprache = 1;
     }
-    tiFormVisible.setEnabled(true);
-}
-
-void frmSplash::systemLesen() {
-    const Recordset system = gDatenbank.open("SELECT * FROM System");
-    if (system.count() != 1)
-        return;
-    ui.lbFirmenname->setText(system[0].text());
-    ui.lblProductName->setText(system[1].text());
-    gProduktTitel = system[1].text();
-    gLaufzeitMin = gEinlaufMin = static_cast<std::int16_t>(system[2].whole());
-    gEinlaufSek = 0;
-    gEinlaufzeit = system[3].isNull() ? 10 : system[3].number();
-    gEinlaufLeistung = system[8].number();
-    gSprache = static_cast<std::int16_t>(system[6].whole());
     if (spracheGewählt()) {
         ui.lbMessenMit->setText(
             inSprache({"Messen und Kalibrieren mit", "Measure And Calibrate With"}));
     }
+    tiFormVisible.setEnabled(true);
+}
+
+// Without the login behind it there would be a process without a window.
+bool frmSplash::Form_QueryUnload() {
+    return loaded(frm::Login) != nullptr;
 }
 
 void frmSplash::tiFormVisible_Timer() {

@@ -12,9 +12,9 @@ class frmSplash : public Screen {
 
   protected:
     void Form_Load() override;
+    bool Form_QueryUnload() override;
 
   private:
-    void systemLesen();
     void tiFormVisible_Timer();
 
     Ui::frmSplash ui;

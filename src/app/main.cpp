@@ -31,8 +31,8 @@ int main(int argc, char *argv[]) {
         ended.setEnabled(false);
         beendenOhneFrage();
     });
-    std::signal(SIGTERM, onSignal);
-    std::signal(SIGINT, onSignal);
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(signal, onSignal);
 
     programmStarten();
     const int result = QApplication::exec();

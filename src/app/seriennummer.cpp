@@ -23,13 +23,13 @@ void Seriennummer::Seriennummer_ermitteln() try {
     fnc_PortPrüfen();
     if (!gSS1Vorhanden) {
         if (mSeriennrVersuche > 1) {
-            meldung({"Der Motor ist noch nicht eingeschaltet oder \n"
-                     "die Schnittstellenparameter gibt es nicht!\n"
-                     "Bitte korrigieren Sie die Einstellungen!\n"
+            meldung({"Der Motor ist noch nicht eingeschaltet oder \r"
+                     "die Schnittstellenparameter gibt es nicht!\r"
+                     "Bitte korrigieren Sie die Einstellungen!\r"
                      "Bitte entfernen Sie ggf. kurzzeitig das Kabel an der USB-Schnittstelle!",
-                     "The engine is not yet switched on or \n"
-                     "the interface parameters do not exist!\n"
-                     "Please correct the settings!\n"
+                     "The engine is not yet switched on or \r"
+                     "the interface parameters do not exist!\r"
+                     "Please correct the settings!\r"
                      "Please remove the cable at the USB interface for a short time!"},
                     Exclamation, {"Achtung!", "Achtung!"});
         }
@@ -53,11 +53,11 @@ void Seriennummer::Timer2_Timer() try {
             mGefunden();
         }
     } else if (mSeriennrVersuche > 1) {
-        meldung({"Der Motor ist noch nicht eingeschaltet, \n"
-                 "die Seriennummer konnte nicht ermittelt werden!\n"
+        meldung({"Der Motor ist noch nicht eingeschaltet, \r"
+                 "die Seriennummer konnte nicht ermittelt werden!\r"
                  "Bitte korrigieren Sie die Einstellungen!",
-                 "The engine is not yet switched on, \n"
-                 "the serial number could not be determined!\n"
+                 "The engine is not yet switched on, \r"
+                 "the serial number could not be determined!\r"
                  "Please correct the settings!"},
                 Exclamation, {"Achtung!", "Achtung!"});
     }

@@ -57,12 +57,12 @@ void programmStarten() {
 
 void beendenOhneFrage() {
     static Timer nochmals(100);
-    if (!leitungFrei()) {
-        nochmals.onTick = [] { beendenOhneFrage(); };
-        nochmals.setEnabled(true);
+    nochmals.setEnabled(!leitungFrei());
+    if (nochmals.enabled()) {
+        if (!nochmals.onTick)
+            nochmals.onTick = beendenOhneFrage;
         return;
     }
-    nochmals.setEnabled(false);
     if (gDesktopAktiv && gMotorEin)
         motorStillschweigendAus();
     gDesktopAktiv = false;

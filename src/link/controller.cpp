@@ -1,5 +1,7 @@
 #include "controller.h"
 
+#include <utility>
+
 #include "fehler.h"
 #include "front.h"
 #include "msgbox.h"
@@ -68,10 +70,25 @@ void stopTimer1(const Fehler &fehler) {
         Timer1.setEnabled(false);
 }
 
+/// While a box stands the exchange does not touch the line: whoever ends the process may.
+class ExchangePaused {
+  public:
+    ExchangePaused() : mRan(std::exchange(exchangeRuns, false)) {}
+    ~ExchangePaused() { exchangeRuns = mRan; }
+    ExchangePaused(const ExchangePaused &) = delete;
+    ExchangePaused &operator=(const ExchangePaused &) = delete;
+
+  private:
+    bool mRan;
+};
+
 /// Boxes of this line exist in one language only.
 void errorBox(const QString &tag, const Fehler &fehler) {
     stopTimer1(fehler);
     fehlerMerken(fehler);
+    if (gKeineMeldung >= 1)
+        return;
+    const ExchangePaused paused;
     msgBox(tag + Str(fehler.number()) + ' ' + gFehlerText, Critical, "Error");
 }
 
@@ -99,11 +116,13 @@ void controllerVorbereiten() {
 bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QString &value) {
     try {
         const Exchange exchange;
-        fnc_PortÖffnen();
+        if (!MSComm1.PortOpen())
+            MSComm1.setPortOpen(true);
         send("-");
         longDelay();
         if (!fnc_FrameSenden(frameText(command, direction, value))) {
             if (gKeineMeldung < 1) {
+                const ExchangePaused paused;
                 meldung({"1 - Keine Kommunikation mit dem Controller möglich!",
                          "Communication with the controller is not possible!"},
                         Critical, {"Fehlermeldung", "Error Message"});
@@ -118,8 +137,7 @@ bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QStr
         send(">");
         return true;
     } catch (const Fehler &fehler) {
-        if (gKeineMeldung < 1)
-            errorBox("Error 5007-", fehler);
+        errorBox("Error 5007-", fehler);
         return false;
     }
 }
@@ -177,9 +195,12 @@ bool fnc_TimeoutAbfragen() {
 }
 
 void fnc_PortÖffnen() {
-    // What fails here belongs to the caller: it knows what the port was wanted for.
-    if (!MSComm1.PortOpen())
-        MSComm1.setPortOpen(true);
+    try {
+        if (!MSComm1.PortOpen())
+            MSComm1.setPortOpen(true);
+    } catch (const Fehler &fehler) {
+        errorBox("Error 5011-", fehler); // the caller then fails at its first byte
+    }
 }
 
 bool fnc_FrequenzLesen() {
@@ -270,6 +291,7 @@ std::int16_t fnc_BetriebsartLesen() {
             send("-");
             shortDelay();
             if (++tries == requestTries) {
+                const ExchangePaused paused;
                 meldung({"Keine Daten empfangen!", "No data received!"}, Exclamation,
                         {"Meldung", "Message"});
                 return 0;
@@ -315,6 +337,7 @@ bool fnc_Reset() {
             shortDelay();
             tellStatMessen(QString::number(tries) + " Timeout");
             if (tries == requestTries) {
+                const ExchangePaused paused;
                 meldung({"Kein Reset möglich!", "'Reset' is not possible!"}, Exclamation,
                         {"Meldung", "Message"});
                 return false;

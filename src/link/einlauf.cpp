@@ -21,7 +21,7 @@ void tick() {
         tiEinlauf.setEnabled(false);
         gEingelaufen = true;
         if (gFormStatus > 0)
-            gFormStatus = 4;
+            gFormStatus = formstatus::Korrektur;
         platform::beep();
         screen(frm::Meldung1).show();
     }

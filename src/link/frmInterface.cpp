@@ -1,5 +1,6 @@
 #include "frmInterface.h"
 
+#include <QScopeGuard>
 #include <QShortcut>
 
 #include "controller.h"
@@ -97,8 +98,16 @@ void frmInterface::SbCOM_Change() {
         ui.SbCOM->setValue(höchsterAnschluss); // comes back here
         return;
     }
+    if (mVersuchLäuft)
+        return;
     const bool tryIt = !ui.txtCOM->text().isEmpty();
     if (tryIt) {
+        // A box takes the release of the mouse away, and a pressed bar would go on by itself.
+        ui.SbCOM->setEnabled(false);
+        ui.SbCOM->setEnabled(true);
+        ui.SbCOM->setFocus();
+        mVersuchLäuft = true;
+        const auto vorbei = qScopeGuard([this] { mVersuchLäuft = false; });
         if (MSComm1.PortOpen())
             MSComm1.setPortOpen(false);
         MSComm1.setCommPort(value);

@@ -25,5 +25,6 @@ class frmInterface : public Screen {
     void pbSS2_Click();
 
     Ui::frmInterface ui;
+    bool mVersuchLäuft = false;
     bool mGespeichert = false;
 };

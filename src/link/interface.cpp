@@ -87,6 +87,8 @@ void fnc_PortPrüfen() {
             gSS1Vorhanden = false;
         else
             fehlerBox("Fehler mI 2 - ", "ERROR mSI 2 - ", fehler);
+        if (fehler.number() == fehlernummer::PortSettings)
+            gSS1Vorhanden = true; // the port is there, so its settings can be mended
     }
 }
 

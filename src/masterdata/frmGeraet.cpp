@@ -37,7 +37,6 @@ constexpr Beschriftung english[] = {
     {"pbexit", "&Cancel"},
 };
 
-constexpr std::int16_t folgeRezept = 3; // gDesktopFolge
 
 // Columns of a unit by position
 enum { GerätID = 0, Gerätetyp = 2, Hersteller = 3, SerienNr = 4, IdentNr = 5 };
@@ -233,7 +232,7 @@ void frmGerät::pbok_Click() try {
         meldung({"Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
                 YesNo | Question, {"Stammdaten auswählen", "Select Master Data"});
     if (answer == Yes)
-        gDesktopFolge = folgeRezept;
+        gDesktopFolge = desktopfolge::Rezept;
     unload();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1102 - ", "ERROR 1102 - ", fehler);

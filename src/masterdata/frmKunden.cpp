@@ -38,7 +38,6 @@ constexpr Beschriftung english[] = {
     {"pbAbbrechen", "&Cancel"},
 };
 
-constexpr std::int16_t folgeGerät = 2; // gDesktopFolge
 
 Recordset kundeSuchen(const QString &name, const QString &ort) {
     if (ort.isEmpty())
@@ -108,7 +107,7 @@ bool frmKunden::Form_QueryUnload() {
                                 "Do you want to select a unit for this customer now?"},
                                YesNo | Question, {"Stammdaten auswählen", "Select Master Data"});
     if (answer == Yes)
-        gDesktopFolge = folgeGerät;
+        gDesktopFolge = desktopfolge::Gerät;
     return true;
 }
 
@@ -223,8 +222,9 @@ void frmKunden::pbexit_Click() try {
         break;
     }
     const QString name = mSuche.name();
-    schlüsselNach(gKundenID, kundeSuchen(name, ui.cmbOrt->currentText())["KundenID"]);
-    kundeWählen(name);
+    std::int16_t kundenID = 0;
+    schlüsselNach(kundenID, kundeSuchen(name, ui.cmbOrt->currentText())["KundenID"]);
+    kundeWählen(name, kundenID);
     mGewählt = true;
     unload();
 } catch (const Fehler &fehler) {

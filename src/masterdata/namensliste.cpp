@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "sqltext.h"
+
 namespace {
 
 QString ohneAkzente(const QString &text) {
@@ -18,16 +20,8 @@ bool istMuster(const QString &text) {
 }
 
 QRegularExpression ausdruck(const QString &muster) {
-    QString expression;
-    for (const QChar c : muster) {
-        if (c == '*')
-            expression += ".*";
-        else if (c == '?')
-            expression += '.';
-        else
-            expression += QRegularExpression::escape(QString(c));
-    }
-    return QRegularExpression(expression, QRegularExpression::DotMatchesEverythingOption);
+    return QRegularExpression(musterAusdruck(muster),
+                              QRegularExpression::DotMatchesEverythingOption);
 }
 
 } // namespace

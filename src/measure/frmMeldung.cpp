@@ -9,8 +9,6 @@ namespace {
 constexpr Beschriftung english[] = {
     {"", "Message"}, {"laMeldung1", "Attention!"}, {"laMeldung2", "Next Test Step!"}};
 
-constexpr std::int16_t startenAnzeigen = 10; // gMessStatus: the starting notice is to be shown
-
 } // namespace
 
 frmMeldung::frmMeldung() {
@@ -33,7 +31,7 @@ void frmMeldung::Form_Load() {
     };
     if (gMessStatus == messstatus::Ende) {
         zeilen({"Beenden", "Terminate"}, {"des Messens", "the Measuring"});
-    } else if (gMessStatus == startenAnzeigen) {
+    } else if (gMessStatus == messstatus::Starten) {
         zeilen({"Starten", "Start"}, {"des Messens", "the Measuring"});
         gMessStatus = messstatus::Messen;
     }

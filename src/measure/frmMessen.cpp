@@ -1,6 +1,7 @@
 #include "frmMessen.h"
 
 #include <QHeaderView>
+#include <QScopeGuard>
 
 #include "controller.h"
 #include "fehler.h"
@@ -154,6 +155,8 @@ void frmMessen::ersteAktivierung() {
 bool frmMessen::Form_QueryUnload() try {
     if (fnc_BefehlSenden("E", gDrehrichtung, "00"))
         front().setDrehREnabled(true);
+    else
+        front().setMotausEnabled(true); // the motor may still run, and the operator must reach it
     gMessStatus = messstatus::Ende;
     gMessenFreigabe = false;
     messablauf().beimVerlassen();
@@ -196,13 +199,9 @@ void frmMessen::fnc_Bewerten() try {
                        ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()};
     if (istLeistungsmessung()) {
         const Unsicherheiten mu = unsicherheitLeistung();
-        try {
-            leistungBewerten(mUrteil, texte, mSpezifikation, mu);
-        } catch (const Fehler &) {
-            ui.txtIST_n_ergom->setText(texte.ist_n_ergom);
-            throw;
-        }
-        ui.txtIST_n_ergom->setText(texte.ist_n_ergom);
+        const auto zeigen =
+            qScopeGuard([&] { ui.txtIST_n_ergom->setText(texte.ist_n_ergom); });
+        leistungBewerten(mUrteil, texte, mSpezifikation, mu);
     } else {
         drehzahlBewerten(mUrteil, texte, mSpezifikation, unsicherheitDrehzahl());
     }
@@ -285,8 +284,8 @@ void frmMessen::pbAbbrechen_Click() {
     gMessenFreigabe = false;
     gMessStatus = messstatus::Ende;
     ::screen(frm::Meldung).show();
-    if (mRezeptEnde)
-        unload();
+    if (mRezeptEnde && leitungFrei())
+        unload(); // otherwise the closing of the notice does it, when the exchange has ended
 }
 
 void frmMessen::navigieren(void (frmMessen::*schritt)()) {

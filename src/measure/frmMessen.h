@@ -12,22 +12,8 @@
 #include "recordset.h"
 #include "recordsetmodel.h"
 #include "screens.h"
+#include "status.h"
 #include "ui_frmMessen.h"
-
-/// Values of gMessStatus.
-namespace messstatus {
-enum : std::int16_t {
-    Messen = 0,     ///< the loop runs, or runs at the next activation
-    Speichern = 1,  ///< save and go on
-    FreieEingabe = 2,
-    Dynamisch = 3,
-    Ende = 4,       ///< end of the session
-    Verweigert = 5, ///< the controller refused; report and end
-    Ruhe = 6,       ///< nothing runs
-    MotorAus = 7,   ///< stop the motor, then nothing
-    Neu = 8,        ///< the screen was loaded again after 4 or 5
-};
-}
 
 class frmMessen : public Screen, private Messanzeige {
   public:
@@ -82,7 +68,6 @@ class frmMessen : public Screen, private Messanzeige {
     void fnc_GraphGrenzenSetzen();
     void fnc_EingabeSperren();
     void fnc_MesswerteLeeren();
-    void istwerteLeeren();
     bool fnc_DrehmomentPrüfen();
     void fnc_DrehzahlPlus() { korrigieren(+0.1); }
     void fnc_DrehzahlMinus() { korrigieren(-0.1); }
@@ -122,7 +107,6 @@ class frmMessen : public Screen, private Messanzeige {
     QString mAltSoll_P;
     QString mTaste;
     bool mTasteNeu = false;
-    int mMessArt = 0; ///< 0 none, 1 power, 2 speed
     bool mDrehzNull = false;
     bool mRezeptEnde = false;
     bool mDurchgangLäuft = false;

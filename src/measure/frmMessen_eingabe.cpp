@@ -101,16 +101,12 @@ void frmMessen::fnc_EingabeSperren() {
     setWaiting(ui.pbAusführen, false);
 }
 
-void frmMessen::istwerteLeeren() {
+void frmMessen::fnc_MesswerteLeeren() {
     ui.txtIST_n_torvena->clear();
     ui.txtIST_D_torvena->clear();
     ui.txtIST_P_torvena->clear();
-    ui.pbDynMess->setEnabled(false);
-}
-
-void frmMessen::fnc_MesswerteLeeren() {
-    istwerteLeeren();
     ui.txtIST_n_ergom->clear();
+    ui.pbDynMess->setEnabled(false);
     ui.pbSpeichern->setEnabled(false);
     setWaiting(ui.pbSpeichern, false);
 }
@@ -168,7 +164,9 @@ void frmMessen::pbFreieEing_Click() {
     setWaiting(ui.pbSpeichern, false);
     ui.pbAusführen->setEnabled(false);
     setWaiting(ui.pbAusführen, false);
-    for (QPushButton *button : {ui.pbDynMess, ui.pbFreieEing, ui.pbPlus, ui.pbMinus})
+    setWaiting(ui.pbÜbernehmen, false);
+    for (QPushButton *button :
+         {ui.pbDynMess, ui.pbFreieEing, ui.pbPlus, ui.pbMinus, ui.pbÜbernehmen})
         button->setEnabled(false);
     if (gMessenFreigabe)
         gMessStatus = messstatus::FreieEingabe;
@@ -193,6 +191,7 @@ void frmMessen::fnc_FreieEingabe() {
     if (!mDrehzNull) {
         ui.txtSoll_n->clear();
         ui.txtSoll_P->clear();
+        mAltSoll_n = mAltSoll_P = QString();
         ui.cmbMessArt->setEditText({});
         ui.txtSoll_n->setFocus();
         return;
@@ -200,7 +199,6 @@ void frmMessen::fnc_FreieEingabe() {
     ui.txtSoll_n->setText("0");
     ui.txtSoll_P->setText("0");
     mAltSoll_n = mAltSoll_P = "0";
-    mMessArt = 1;
     ui.cmbMessArt->setEditText(leistungsmessung.german); // in both languages
     ui.txtMessArt->setText(leistungsmessung.german);
     pbAusführen_Click();
@@ -217,7 +215,9 @@ bool frmMessen::cmbMessArt_KeyPress(QKeyEvent &taste) {
     const bool enter = taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
     const bool löschen = taste.key() == Qt::Key_Backspace || taste.key() == Qt::Key_Delete;
     const bool zeichen = !taste.text().isEmpty() && taste.text().at(0).isPrint();
-    if (enter || (!zeichen && !löschen))
+    const bool befehl = taste.modifiers() & (Qt::AltModifier | Qt::ControlModifier |
+                                             Qt::MetaModifier);
+    if (enter || befehl || (!zeichen && !löschen))
         return false;
     mTaste = zeichen ? taste.text().toUpper() : QString();
     mTasteNeu = true;
@@ -236,7 +236,6 @@ void frmMessen::cmbMessArt_Change() {
             if (!mTaste.isEmpty())
                 beep();
             ui.cmbMessArt->setEditText({});
-            mMessArt = 0;
         }
         mTaste.clear();
         mTasteNeu = false;
@@ -251,7 +250,6 @@ void frmMessen::messArtZeigen(int art) {
 void frmMessen::messArtSetzen(int art) {
     messArtZeigen(art);
     ui.cmbMessArt->setEditText(ui.txtMessArt->text());
-    mMessArt = art;
 }
 
 void frmMessen::ausführenFreigeben() {

@@ -1,6 +1,8 @@
 // The pass of the measurement screen: one step from its set-point to the event that ends it.
 #include "frmMessen.h"
 
+#include <QScopeGuard>
+
 #include "controller.h"
 #include "fehler.h"
 #include "messwerte.h"
@@ -23,6 +25,7 @@ void frmMessen::fnc_Messzyklus() {
         return;
     }
     mDurchgangLäuft = true;
+    const auto vorbei = qScopeGuard([this] { mDurchgangLäuft = false; });
     do {
         mNeuerDurchgang = false;
         try {
@@ -32,17 +35,14 @@ void frmMessen::fnc_Messzyklus() {
             fehlerBox("Fehler 3014 - ", "ERROR 3014 - ", fehler);
         }
     } while (mNeuerDurchgang && !unloaded());
-    mDurchgangLäuft = false;
 }
 
 void frmMessen::durchgang() {
     if (gMessStatus == messstatus::Messen) {
         gMessenFreigabe = true;
-        istwerteLeeren(); // what stands there was measured under another set-point
-        if (ui.laPrSchritt->text() != freierSchritt) {
+        fnc_MesswerteLeeren(); // what stands there belongs to another set-point
+        if (ui.laPrSchritt->text() != freierSchritt)
             fnc_PrüfschrittAnzeigen();
-            fnc_GraphGrenzenSetzen();
-        }
         fnc_EingabeSperren();
         fokusSetzen();
         if (fnc_SollwertSenden()) {
@@ -57,7 +57,11 @@ void frmMessen::durchgang() {
             return;
         gMessenFreigabe = false;
     }
-    datenstromBeenden();
+    try {
+        datenstromBeenden();
+    } catch (const Fehler &fehler) {
+        fehlerBox("Fehler 3014 - ", "ERROR 3014 - ", fehler); // what was asked for goes on
+    }
     verteilen();
 }
 

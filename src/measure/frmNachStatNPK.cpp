@@ -15,11 +15,6 @@ const Text ankoppeln{"Vor Beginn der Messung ist die Kreuzgelenkwelle "
                      "Before beginning the measurement, the universal joint "
                      "shaft has to be coupled to the normal, and aligned"};
 
-// gFormStatus of the lever-arm sequence
-constexpr std::int16_t korrekturFertig = 5;
-constexpr std::int16_t schwereEingegeben = 6;
-constexpr std::int16_t abgebrochen = 10;
-
 } // namespace
 
 frmNachStatNPK::frmNachStatNPK() {
@@ -32,7 +27,7 @@ void frmNachStatNPK::Form_Load() {
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
     ui.laText->setText(inSprache(ankoppeln));
-    if (gFormStatus == korrekturFertig) {
+    if (gFormStatus == formstatus::KorrekturFertig) {
         anzeigen({"Vorbereitung der Hebelarmkalibrierung",
                   "Preparations For The Lever Arm Calibration"},
                  {"Montieren Sie den Hebelarm für Linkskalibrierung, wie in der "
@@ -49,8 +44,9 @@ void frmNachStatNPK::anzeigen(const Text &titel, const Text &text) {
 }
 
 void frmNachStatNPK::pbok_Click() {
-    if (gFormStatus == korrekturFertig)
-        gFormStatus = gMessStatus != messstatus::Verweigert ? schwereEingegeben : abgebrochen;
+    if (gFormStatus == formstatus::KorrekturFertig)
+        gFormStatus = gMessStatus != messstatus::Verweigert ? formstatus::SchwereEingegeben
+                                                                : formstatus::Abgebrochen;
     unload();
 }
 

@@ -13,6 +13,7 @@
 
 using namespace platform;
 
+bool gErgebnis = false;
 double gOffsetRoh = 0;
 double gGainRoh = 0;
 double gOffsetSoll = 0;
@@ -39,12 +40,9 @@ constexpr Beschriftung english[] = {
 constexpr int streamMilliseconds = 15'000;
 constexpr long weiterVerzögerung = 1'000'000; // counted rounds
 
-/// Stages of gEinlaufStatus.
-enum : std::int16_t { NichtBegonnen = 0, MotorWirdGestoppt = 1, Vorbereitet = 2, Gemessen = 3 };
-
-constexpr std::int16_t abgebrochen = 5;        // gMessStatus
-constexpr std::int16_t kalibrierungKorrektur = 4; // gFormStatus: the lever-arm sequence waits here
-constexpr std::int16_t kalibrierungAbgebrochen = 10;
+StatikSoll sollwerte() {
+    return {gOffsetSoll, gGainSoll, gMomentFaktor};
+}
 
 } // namespace
 
@@ -56,6 +54,9 @@ frmStatMessen::frmStatMessen() {
 }
 
 void frmStatMessen::Form_Load() try {
+    // The keyboard rests here: Enter must not fall on the button that aborts.
+    setFocusPolicy(Qt::StrongFocus);
+    setFocus();
     if (gSprache == 1)
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
@@ -66,22 +67,26 @@ void frmStatMessen::Form_Load() try {
     gOffsetSoll = normal["Offset"].number();
     gGainSoll = normal[rechts ? "Gain_R" : "Gain_L"].number();
     gMomentFaktor = normal[rechts ? "VK1_R" : "VK1_L"].number();
-    mSoll = {gOffsetSoll, gGainSoll, gMomentFaktor};
+    mSollGelesen = true;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 4040 - ", "ERROR 4040 - ", fehler);
 }
 
 void frmStatMessen::Form_Activate() try {
-    if (gEinlaufStatus == NichtBegonnen) {
-        gEinlaufStatus = MotorWirdGestoppt;
+    if (!mSollGelesen) {
+        pbAbbrechen_Click(); // nothing to compare with
+        return;
+    }
+    if (gEinlaufStatus == einlaufstatus::NichtBegonnen) {
+        gEinlaufStatus = einlaufstatus::MotorWirdGestoppt;
         showInfo(inSprache({"Motor wird ausgeschaltet", "Motor is switched off."}));
         fnc_StatVorbereiten();
-    } else if (gEinlaufStatus == Vorbereitet) {
-        gEinlaufStatus = Gemessen;
+    } else if (gEinlaufStatus == einlaufstatus::Vorbereitet) {
+        gEinlaufStatus = einlaufstatus::Gemessen;
         fnc_StatMessen();
         if (unloaded())
             return;
-        if (gMessStatus == abgebrochen)
+        if (gMessStatus == messstatus::Verweigert)
             pbAbbrechen_Click();
         else
             fnc_StatAbschluss();
@@ -96,11 +101,11 @@ bool frmStatMessen::Form_QueryUnload() {
 }
 
 void frmStatMessen::Form_Unload() {
-    if (gFormStatus == 0 && gMessStatus != abgebrochen && gErgebnis) {
+    if (gFormStatus == 0 && gMessStatus != messstatus::Verweigert && mKorrigiert) {
         gMessenFreigabe = true;
-        gMessStatus = 0;
+        gMessStatus = messstatus::Messen;
     }
-    if (gMessStatus == abgebrochen)
+    if (gMessStatus == messstatus::Verweigert)
         front().setMessenEnabled(false);
 }
 
@@ -110,7 +115,7 @@ void frmStatMessen::fnc_StatVorbereiten() {
     gErgebnis = fnc_MotorAus();
     enable();
     beep();
-    if (gMessStatus != abgebrochen && !unloaded())
+    if (gMessStatus != messstatus::Verweigert && !unloaded())
         ::screen(frm::VorStatNPK).showModal();
 }
 
@@ -127,7 +132,7 @@ void frmStatMessen::fnc_StatMessen() {
                       "Await the end of running-in time and repeat the static correction.\r\r"
                       "In case of deviations, please call the service!"});
     hinweis.showModal();
-    gMessStatus = abgebrochen;
+    gMessStatus = messstatus::Verweigert;
 }
 
 bool frmStatMessen::mittelwertEmpfangen(std::uint8_t code, double &mittel) {
@@ -179,14 +184,14 @@ bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
         return false;
     if (code == codeOffset) {
         gOffsetRoh = mittel;
-        const StatikErgebnis ergebnis = offsetErgebnis(gOffsetRoh, mSoll);
+        const StatikErgebnis ergebnis = offsetErgebnis(gOffsetRoh, sollwerte());
         ui.txtOffset2->setText(Format(ergebnis.drift, "0.000"));
         ui.lblOffsetDiff->setText(Format(ergebnis.drift, "0.000"));
         gOffsetDiff = ergebnis.drift * 1000;
         ui.AnzWert_O->setBalken(driftBalken(gOffsetDiff));
     } else {
         gGainRoh = mittel;
-        const StatikErgebnis ergebnis = gainErgebnis(gGainRoh, gOffsetRoh, mSoll);
+        const StatikErgebnis ergebnis = gainErgebnis(gGainRoh, gOffsetRoh, sollwerte());
         ui.txtGain1->setText(Format(ergebnis.soll, "0.000"));
         ui.txtGain2->setText(Format(ergebnis.ist, "0.000"));
         ui.lblGainDiff->setText(Format(ergebnis.drift, "0.000"));
@@ -206,6 +211,7 @@ void frmStatMessen::fnc_StatAbschluss() {
         fnc_StatSchreiben();
     beep();
     if (gErgebnis) {
+        mKorrigiert = true;
         ui.laMeldung->show();
         showInfo({});
         ui.pbWeiter->setEnabled(true);
@@ -233,8 +239,8 @@ void frmStatMessen::pbWeiter_Click() try {
     MSComm1.Output("-");
     countedDelay(weiterVerzögerung);
     MSComm1.Output("-");
-    if (gFormStatus == kalibrierungKorrektur) {
-        gFormStatus = kalibrierungKorrektur + 1;
+    if (gFormStatus == formstatus::Korrektur) {
+        gFormStatus = formstatus::KorrekturFertig;
         unload();
         return;
     }
@@ -248,7 +254,7 @@ void frmStatMessen::pbAbbrechen_Click() {
     meldung({"Die Nullpunkt-Korrektur wurde abgebrochen!",
              "The zero-point correction has been discontinued!"},
             Critical, {"Fehler", "Error"});
-    gMessStatus = abgebrochen;
-    gFormStatus = kalibrierungAbgebrochen;
+    gMessStatus = messstatus::Verweigert;
+    gFormStatus = formstatus::Abgebrochen;
     unload();
 }

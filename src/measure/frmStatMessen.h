@@ -30,6 +30,6 @@ class frmStatMessen : public Screen {
     void pbAbbrechen_Click();
 
     Ui::frmStatMessen ui;
-    StatikSoll mSoll;
-    bool gErgebnis = false; ///< outcome of the last stage
+    bool mSollGelesen = false; ///< the working standard's own values are there
+    bool mKorrigiert = false;  ///< the controller has the new values
 };

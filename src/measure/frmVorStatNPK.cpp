@@ -25,14 +25,12 @@ const Text abkoppeln{"Vor Durchführung der statischen Nullpunktkorrektur "
                      "Before carrying out the static zero-point correction, "
                      "the universal joint shaft has to be uncoupled from the normal."};
 
-constexpr std::int16_t vorbereitet = 2; // gEinlaufStatus
-
 } // namespace
 
 frmVorStatNPK::frmVorStatNPK() {
     ui.setupUi(this);
     onClick(ui.pbok, [this] {
-        gEinlaufStatus = vorbereitet;
+        gEinlaufStatus = einlaufstatus::Vorbereitet;
         unload();
     });
 }

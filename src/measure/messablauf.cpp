@@ -14,13 +14,13 @@ namespace {
 class OrdentlicherAblauf : public Messablauf {
   public:
     void beimÖffnen(frmMessen &) override {}
-    Recordset schritte() override { return rezeptSchritte(gRezeptID); }
+    Recordset schritte() override { return messSchritte(gRezeptID); }
     bool protokollErfragen() const override { return true; }
     bool bedient() const override { return true; }
     void vorSollwert() override {}
     void nachBlock() override {}
     void schrittFertig(frmMessen &screen) override { screen.fnc_MesswertSpeichern(); }
-    void rezeptEnde(frmMessen &) override { gMessStatus = 6; }
+    void rezeptEnde(frmMessen &) override { gMessStatus = messstatus::Ruhe; }
 
     void beimVerlassen() override {
         if (protokollHatMesswerte(gProtokollID)) {

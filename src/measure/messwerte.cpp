@@ -9,10 +9,10 @@
 namespace {
 
 Unsicherheiten uncertaintyTable(const QString &table) {
-    const Recordset rows = gDatenbank.open("SELECT * FROM " + table);
+    Recordset rows = gDatenbank.open("SELECT * FROM " + table);
     Unsicherheiten list;
-    for (int row = 0; row < rows.count(); ++row)
-        list.push_back({Feld(rows.at(row, 1)).number(), Feld(rows.at(row, 2)).number()});
+    for (; !rows.atEnd(); rows.moveNext())
+        list.push_back({rows[1].number(), rows[2].number()});
     return list;
 }
 
@@ -28,7 +28,7 @@ bool fnc_SchrittVorhanden(const Messwert &wert) {
 
 } // namespace
 
-Recordset rezeptSchritte(int rezeptID) {
+Recordset messSchritte(int rezeptID) {
     return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, Prüfart FROM Rezepte "
                            "WHERE RezeptID = ? ORDER BY Val(Prüfschritt)",
                            {rezeptID});

@@ -8,7 +8,7 @@
 inline const QString freierSchritt = QStringLiteral("FR");
 
 /// The steps of a recipe in the order of the list: Prüfschritt, Drehzahl, Leistung, Prüfart.
-Recordset rezeptSchritte(int rezeptID);
+Recordset messSchritte(int rezeptID);
 
 /// The stored rows of a protocol: numbered steps in their order, then the free ones by time.
 Recordset protokollMesswerte(int protokollID);

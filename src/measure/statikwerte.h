@@ -1,6 +1,8 @@
 // Session values of the static measurement: also the lever-arm calibration computes with them.
 #pragma once
 
+extern bool gErgebnis; ///< the last stage succeeded
+
 extern double gOffsetRoh;    ///< mean raw reading of the offset measurement
 extern double gGainRoh;      ///< mean raw reading of the gain measurement
 extern double gOffsetSoll;   ///< raw, of the working standard

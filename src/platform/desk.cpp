@@ -6,6 +6,7 @@
 
 #include <algorithm>
 
+#include "fehler.h"
 #include "screen.h"
 
 namespace platform {
@@ -37,7 +38,9 @@ bool isInput(QEvent::Type type) {
 }
 
 Screen *screenOf(QObject *object) {
-    if (!object->isWidgetType())
+    while (object && !object->isWidgetType())
+        object = object->parent(); // a shortcut belongs to the widget that holds it
+    if (!object)
         return nullptr;
     return dynamic_cast<Screen *>(static_cast<QWidget *>(object)->window());
 }
@@ -56,6 +59,11 @@ Desk::Desk() {
 Screen &Desk::get(int id) {
     auto &slot = mScreens[id];
     if (!slot) {
+        if (!knows(id)) {
+            throw Fehler(fehlernummer::NoSuchScreen,
+                         {QString("Das Fenster %1 gibt es nicht.").arg(id),
+                          QString("There is no window %1.").arg(id)});
+        }
         slot = mMakers.at(id)();
         slot->mId = id;
         Screen &screen = *slot;

@@ -60,11 +60,12 @@ void Screen::place() {
         resize(size().expandedTo(sizeHint())); // the design has a size of its own
     else
         adjustSize();
-    const QRect display = QGuiApplication::primaryScreen()->availableGeometry().adjusted(
+    Screen *origin = frontScreen();
+    const QScreen *on = origin ? origin->screen() : screen();
+    const QRect display = on->availableGeometry().adjusted(
         frame / 4, frame, -frame / 4, -frame / 4);
     QRect place = rect();
     place.moveCenter(display.center());
-    Screen *origin = frontScreen();
     if (origin && origin != this && origin->isVisible()) {
         place.moveCenter(origin->geometry().center());
         winId(); // makes the window
@@ -84,6 +85,8 @@ void Screen::bringForward() {
 }
 
 void Screen::showModal() {
+    if (mUnloaded)
+        return;
     for (Screen *other : Desk::instance().visible()) {
         if (other != this) {
             ++other->mModalAbove;
@@ -176,7 +179,16 @@ Screen::FilterHandlers &Screen::filterOf(QWidget *control) {
 }
 
 void Screen::onClick(QAbstractButton *button, Handler handler) {
-    on(button, &QAbstractButton::clicked, std::move(handler));
+    on(button, &QAbstractButton::clicked, [this, button, handler = std::move(handler)] {
+        if (!usable() || !button->isEnabled())
+            return;
+        if (focusWidget() != button && button->focusPolicy() != Qt::NoFocus) {
+            button->setFocus(Qt::ShortcutFocusReason);
+            if (focusWidget() != button || !button->isEnabled() || mUnloaded)
+                return;
+        }
+        handler();
+    });
 }
 
 void Screen::onEnter(QWidget *control, Handler handler) {
@@ -214,15 +226,15 @@ bool Screen::eventFilter(QObject *watched, QEvent *event) {
         return used;
     }
     case QEvent::FocusIn:
-        if (handlers.gotFocus)
-            run(handlers.gotFocus);
-        return false;
     case QEvent::FocusOut: {
-        // Leaving for a menu, a popup or another window is no leaving of the field.
+        // Leaving for a menu, a popup or another window is no leaving of the field, and coming
+        // back from there no entering.
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (handlers.lostFocus && reason != Qt::ActiveWindowFocusReason &&
-            reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason)
-            run(handlers.lostFocus);
+        const Handler &handler =
+            event->type() == QEvent::FocusIn ? handlers.gotFocus : handlers.lostFocus;
+        if (handler && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
+            reason != Qt::MenuBarFocusReason)
+            run(handler);
         return false;
     }
     default:

@@ -58,8 +58,13 @@ class Screen : public QWidget {
     using Handler = std::function<void()>;
     template <class Sender, class Signal>
     void on(Sender *sender, Signal signal, Handler handler) {
-        connect(sender, signal, this, [this, handler = std::move(handler)] { run(handler); });
+        connect(sender, signal, this, [this, handler = std::move(handler)] {
+            if (!mUnloaded)
+                run(handler);
+        });
     }
+    /// Only while button and screen are in use: an access key presses late. The button takes the
+    /// keyboard first, so that the field left is checked; if the field keeps it nothing happens.
     void onClick(QAbstractButton *button, Handler handler);
     void onEnter(QWidget *control, Handler handler);
     void onGotFocus(QWidget *control, Handler handler);

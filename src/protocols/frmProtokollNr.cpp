@@ -134,6 +134,8 @@ void frmProtokollNr::cmbVorhanden_Change() {
 }
 
 void frmProtokollNr::cmbVorhanden_KeyPress() try {
+    if (ui.obLetztes->isChecked())
+        return; // its one entry is not looked up
     protokollNachschlagen(*ui.cmbVorhanden, *ui.pbok);
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 9703- ", "ERROR 9703- ", fehler);

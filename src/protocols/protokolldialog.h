@@ -6,14 +6,15 @@
 
 #include "fehler.h"
 #include "screens.h"
+#include "status.h"
 
 class Protokolldialog : public Screen {
   protected:
     /// `vorsatz` stands before the protocol in the caption of the measurement screen.
     explicit Protokolldialog(Text vorsatz) : mVorsatz(std::move(vorsatz)) {}
 
-    static constexpr std::int16_t angenommen = 0; ///< there is a head under gProtokollID
-    static constexpr std::int16_t abgebrochen = 4;
+    static constexpr std::int16_t angenommen = messstatus::Messen; ///< there is a head under gProtokollID
+    static constexpr std::int16_t abgebrochen = messstatus::Ende;
 
     static void messfensterVerbergen();
     /// Closes the dialog with this outcome.

@@ -1,13 +1,22 @@
 #include "auswahl.h"
 
+#include "session.h"
+
 namespace {
 
 Auswahl gewählt;
-std::function<void()> listener;
+std::function<void()> showListener;
+std::function<void()> choiceListener;
 
-void changed() {
-    if (listener)
-        listener();
+void shown() {
+    if (showListener)
+        showListener();
+}
+
+void chosen() {
+    shown();
+    if (choiceListener)
+        choiceListener();
 }
 
 } // namespace
@@ -16,44 +25,46 @@ const Auswahl &auswahl() {
     return gewählt;
 }
 
-void kundeWählen(const QString &name) {
-    if (gewählt.kunde != name) {
+void kundeWählen(const QString &name, std::int16_t kundenID) {
+    if (gewählt.kunde != name || gKundenID != kundenID) {
         gewählt.gerät.clear();
         gewählt.gerätID.clear();
     }
     gewählt.kunde = name;
-    changed();
+    gKundenID = kundenID;
+    chosen();
 }
 
 void gerätWählen(const QString &typ, const QString &ident) {
     gewählt.gerät = typ;
     gewählt.gerätID = ident;
-    changed();
+    chosen();
 }
 
 void rezeptWählen(const QString &name) {
     gewählt.rezept = name;
-    changed();
+    chosen();
 }
 
 void normalZeigen(const QString &text) {
     gewählt.normal = text;
-    changed();
+    shown();
 }
 
 void datumZeigen(const QString &text) {
     gewählt.datum = text;
-    changed();
+    shown();
 }
 
-void setAuswahlListener(std::function<void()> newListener) {
-    listener = std::move(newListener);
+void setAuswahlListener(std::function<void()> zeigen, std::function<void()> wahl) {
+    showListener = std::move(zeigen);
+    choiceListener = std::move(wahl);
 }
 
 DesktopRegeln desktopRegeln(const Auswahl &wahl) {
     DesktopRegeln regeln;
-    regeln.nurGerät = wahl.kunde.isEmpty();
-    if (regeln.nurGerät)
+    regeln.ohneKunde = wahl.kunde.isEmpty();
+    if (regeln.ohneKunde)
         return regeln;
     regeln.gerät = true;
     regeln.secControl = !wahl.gerätID.isEmpty();

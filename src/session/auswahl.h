@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <functional>
 
 struct Auswahl {
@@ -17,21 +18,22 @@ struct Auswahl {
 
 const Auswahl &auswahl();
 
-/// Another customer than the chosen one takes the chosen unit away.
-void kundeWählen(const QString &name);
+/// Another customer than the chosen one takes the chosen unit away. Sets gKundenID.
+void kundeWählen(const QString &name, std::int16_t kundenID);
 void gerätWählen(const QString &typ, const QString &ident);
 void rezeptWählen(const QString &name);
 void normalZeigen(const QString &text);
 void datumZeigen(const QString &text);
 
-/// The one who shows the selection; called after every change.
-void setAuswahlListener(std::function<void()> listener);
+/// The one who shows the selection: `zeigen` is called after every change, `wahl` besides when
+/// customer, unit or recipe were chosen.
+void setAuswahlListener(std::function<void()> zeigen, std::function<void()> wahl);
 
 /// What the selection allows. Pure: the desktop applies it to its controls.
 struct DesktopRegeln {
     bool gerät = false;      ///< choose a unit, enter a blood-pressure sheet
     bool secControl = false; ///< enter an electrical safety sheet
     bool messen = false;     ///< start a measurement
-    bool nurGerät = false;   ///< no customer: the rule for measuring is not looked at
+    bool ohneKunde = false;  ///< then nothing is said about measuring
 };
 DesktopRegeln desktopRegeln(const Auswahl &wahl);

@@ -7,6 +7,8 @@
 
 #include <cstdint>
 
+#include "status.h"
+
 // Language and person
 extern std::int16_t gSprache; ///< 1 German, 2 English; 0 until start-up has read it
 extern QString gPrüfer;

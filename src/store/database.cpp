@@ -107,10 +107,13 @@ void Datenbank::openFile(const QString &path) {
                       "The file \"" + path + "\" was not found in the working directory."});
     }
     translated([&] {
-        auto database = std::make_unique<SQLite::Database>(path.toStdString(),
-                                                           SQLite::OPEN_READWRITE, busyMilliseconds);
+        auto database = std::make_unique<SQLite::Database>(
+            path.toStdString(), SQLite::OPEN_READWRITE, busyMilliseconds);
         database->exec("PRAGMA synchronous=FULL");
-        database->exec("SELECT count(*) FROM sqlite_master"); // reads: a damaged file tells now
+        // Reads, so that a damaged file tells now. One without tables was cut off to nothing.
+        if (database->execAndGet("SELECT count(*) FROM sqlite_master").getInt() == 0)
+            throw SQLite::Exception("no tables", SQLITE_CORRUPT);
+        database->exec("PRAGMA journal_mode=DELETE"); // a copy of the file holds all data
         mDatabase = std::move(database);
         registerFunctions();
     });

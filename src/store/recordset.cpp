@@ -2,16 +2,21 @@
 
 #include "fehler.h"
 #include "runtime.h"
+#include "sqltext.h"
 
 using namespace platform;
 
 double Feld::number() const {
-    return mValue.typeId() == QMetaType::QString ? Val(mValue.toString()) : mValue.toDouble();
+    if (mValue.typeId() != QMetaType::QString)
+        return mValue.toDouble();
+    QString text = mValue.toString(); // as typed, under either number format
+    fnc_KommaZuPunkt(text);
+    return Val(text);
 }
 
 Recordset::Recordset(QStringList columns, std::vector<std::vector<QVariant>> rows)
-    : mColumns(std::move(columns))
-    , mRows(std::make_shared<const std::vector<std::vector<QVariant>>>(std::move(rows))) {}
+    : mColumns(std::move(columns)),
+      mRows(std::make_shared<const std::vector<std::vector<QVariant>>>(std::move(rows))) {}
 
 void Recordset::moveNext() {
     if (mCurrent < count())
@@ -51,9 +56,10 @@ bool Recordset::findLast(const QString &column, const QString &text) {
 
 Feld Recordset::operator[](int column) const {
     if (column < 0 || column >= mColumns.size()) {
-        throw Fehler(fehlernummer::MissingColumn,
-                     {QString("Element in dieser Auflistung nicht gefunden (Spalte %1).").arg(column),
-                      QString("Item not found in this collection (column %1).").arg(column)});
+        throw Fehler(
+            fehlernummer::MissingColumn,
+            {QString("Element in dieser Auflistung nicht gefunden (Spalte %1).").arg(column),
+             QString("Item not found in this collection (column %1).").arg(column)});
     }
     if (atStart() || atEnd())
         throw Fehler(fehlernummer::NoCurrentRecord,

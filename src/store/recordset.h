@@ -9,11 +9,11 @@
 #include <memory>
 #include <vector>
 
-/// One value of a row. Null reads as 0 and as the empty text.
+/// One value of a row. Null reads as 0 and as the empty text. A text read as a number may hold a
+/// decimal comma or a decimal point.
 class Feld {
   public:
-    explicit Feld(QVariant value)
-        : mValue(std::move(value)) {}
+    explicit Feld(QVariant value) : mValue(std::move(value)) {}
 
     bool isNull() const { return mValue.isNull(); }
     QString text() const { return mValue.toString(); }

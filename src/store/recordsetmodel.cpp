@@ -21,7 +21,8 @@ int RecordsetModel::columnCount(const QModelIndex &parent) const {
 }
 
 QVariant RecordsetModel::data(const QModelIndex &index, int role) const {
-    if (!index.isValid())
+    // An index may be older than the rows and columns of now.
+    if (!index.isValid() || index.row() >= rowCount() || index.column() >= columnCount())
         return {};
     const Spalte &spalte = mSpalten[static_cast<size_t>(index.column())];
     if (role == Qt::TextAlignmentRole)
@@ -33,7 +34,8 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const {
 }
 
 QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const {
-    if (orientation != Qt::Horizontal || role != Qt::DisplayRole)
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 ||
+        section >= columnCount())
         return {};
     return mSpalten[static_cast<size_t>(section)].kopf;
 }

@@ -27,7 +27,12 @@ void legeDatenbankAn(const QString &path, bool demo) {
         scripts.push_back(sqlScript("demo.sql"));
     const QString unfinished = path + ".new";
     QFile::remove(unfinished);
-    Datenbank::createFile(unfinished, scripts);
+    try {
+        Datenbank::createFile(unfinished, scripts);
+    } catch (...) {
+        QFile::remove(unfinished);
+        throw;
+    }
     if (!QFile::rename(unfinished, path)) {
         QFile::remove(unfinished);
         throw Fehler(fehlernummer::PermissionDenied,

@@ -7,23 +7,37 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <utility>
+
 #include "fehler.h"
 
 using namespace platform;
 
+QString musterAusdruck(const QString &muster) {
+    QString expression;
+    QString letters; // escaped as one run, since a character may be a pair of them
+    const auto endRun = [&] {
+        expression += QRegularExpression::escape(std::exchange(letters, {}));
+    };
+    for (const QChar c : muster) {
+        if (c != '*' && c != '?') {
+            letters += c;
+            continue;
+        }
+        endRun();
+        if (c == '?')
+            expression += '.';
+        else if (!expression.endsWith(".*")) // one is enough, and many take very long
+            expression += ".*";
+    }
+    endRun();
+    return expression;
+}
+
 namespace {
 
 QRegularExpression expressionFor(const QString &muster) {
-    QString expression;
-    for (const QChar c : muster) {
-        if (c == '*')
-            expression += ".*";
-        else if (c == '?')
-            expression += '.';
-        else
-            expression += QRegularExpression::escape(QString(c));
-    }
-    QRegularExpression pattern(QRegularExpression::anchoredPattern(expression),
+    QRegularExpression pattern(QRegularExpression::anchoredPattern(musterAusdruck(muster)),
                                QRegularExpression::CaseInsensitiveOption |
                                    QRegularExpression::DotMatchesEverythingOption |
                                    QRegularExpression::UseUnicodePropertiesOption);
@@ -89,9 +103,8 @@ class OpenFile {
 
 bool fnc_DateiGeöffnet(const QString &path) {
     if (!QFileInfo::exists(path)) {
-        throw Fehler(fehlernummer::FileNotFound,
-                     {"Die Datei " + path + " wurde nicht gefunden.",
-                      "The file " + path + " was not found."});
+        throw Fehler(fehlernummer::FileNotFound, {"Die Datei " + path + " wurde nicht gefunden.",
+                                                  "The file " + path + " was not found."});
     }
     const OpenFile file(path);
     return !file.ok() || file.lockedByAnother();

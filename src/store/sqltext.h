@@ -8,6 +8,9 @@
 /// regard to case. Every other character stands for itself.
 bool passtZumMuster(const QString &muster, const QString &text);
 
+/// The pattern as a regular expression, not anchored.
+QString musterAusdruck(const QString &muster);
+
 /// The date of an ISO text with or without a time; invalid when there is none.
 QDate datumAus(const QString &iso);
 

@@ -63,6 +63,12 @@ TEST_P(Abort, Login) {
         co_await pass(3'000);
         for (const frm name : {frm::Splash, frm::Login, frm::Desktop})
             EXPECT_FALSE(loaded(name));
+        start();
+        co_await arrive(frm::Login);
+        loaded(frm::Login)->close();
+        co_await pass(3'000);
+        for (const frm name : {frm::Splash, frm::Login, frm::Desktop})
+            EXPECT_FALSE(loaded(name));
     };
     run(journey());
     EXPECT_EQ(line.stand().wire(), "");
@@ -104,27 +110,51 @@ TEST_P(Abort, Direction) {
         co_await pass(100);
         EXPECT_TRUE(inFront(frm::Desktop));
         EXPECT_FALSE(gMessenFreigabe);
-        for (const bool cancel : {true, false}) {
+        for (const char *way : {"pbAbbrechen", "close box", "pbok"}) {
+            SCOPED_TRACE(way);
             expectBox(question, flags, questionTitle, Yes);
             expectBox({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
                        "Please select a direction of rotation for the motor first!"},
-                      Exclamation,
-                      {"Vorbereiten der Messung", "Preparation For The Measurement"});
+                      Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
             press(frm::Desktop, "pbMessen");
             co_await arrive(frm::MotorDrehR);
             EXPECT_TRUE(gMessenFreigabe);
-            if (cancel) {
+            const QString button = way;
+            if (button == "close box") {
+                loaded(frm::MotorDrehR)->close();
+            } else if (button == "pbAbbrechen") {
                 expectNoDirection();
-                press(frm::MotorDrehR, "pbAbbrechen");
-                co_await arrive(frm::Desktop);
-                EXPECT_FALSE(gMessenFreigabe);
+                press(frm::MotorDrehR, way);
             } else {
                 press(frm::MotorDrehR, "obRechts");
-                press(frm::MotorDrehR, "pbok");
+                press(frm::MotorDrehR, way);
+                continue;
             }
+            co_await arrive(frm::Desktop);
+            EXPECT_FALSE(gMessenFreigabe);
         }
         co_await arrive(frm::VorStatNPK); // the measurement goes on by itself
         EXPECT_EQ(gDrehrichtung, 1);
+
+        // And so it does the next time that no direction is chosen.
+        press(frm::VorStatNPK, "pbok");
+        co_await until("the correction", [] { return canPress(frm::StatMessen, "pbWeiter"); });
+        loaded(frm::StatMessen)->close();
+        co_await arrive(frm::Desktop);
+        press(frm::Desktop, "pbDrehR");
+        co_await arrive(frm::MotorDrehR);
+        expectNoDirection();
+        press(frm::MotorDrehR, "pbAbbrechen");
+        co_await arrive(frm::Desktop);
+        expectBox(question, flags, questionTitle, Yes);
+        expectBox({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
+                   "Please select a direction of rotation for the motor first!"},
+                  Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
+        press(frm::Desktop, "pbMessen");
+        co_await arrive(frm::MotorDrehR);
+        press(frm::MotorDrehR, "obRechts");
+        press(frm::MotorDrehR, "pbok");
+        co_await arrive(frm::VorStatNPK);
     };
     run(journey());
 }
@@ -157,9 +187,8 @@ TEST_P(Abort, CorrectionWhileTheStreamRuns) {
         for (const char stream : {'f', 't'}) {
             co_await startMeasuring();
             press(frm::VorStatNPK, "pbok");
-            co_await until("the stream", [this, stream] {
-                return line.stand().wire().back() == stream;
-            });
+            co_await until("the stream",
+                           [this, stream] { return line.stand().wire().back() == stream; });
             co_await pass(1'000);
             expectCorrectionAborted();
             press(frm::StatMessen, "pbAbbrechen");
@@ -240,12 +269,22 @@ TEST_P(Abort, MeasuringAtOnce) {
 
 TEST_P(Abort, MeasuringByTheCloseBox) {
     const auto journey = [this]() -> Journey {
-        co_await measure();
-        co_await settled("1", 60);
-        expectEmptyProtocol();
-        loaded(frm::Messen)->close();
-        co_await leftEmpty();
-        EXPECT_EQ(line.stand().wire().substr(line.stand().wire().size() - 12), "-*E-0000+>>>");
+        co_await select();
+        for (const bool inAnExchange : {false, true}) {
+            co_await correctZeroPoint();
+            co_await newProtocol("Geschlossen");
+            co_await settled("1", 60);
+            line.stand().clearWires();
+            if (inAnExchange) { // which comes to its end first
+                press(frm::Messen, "pbMessen");
+                co_await until("the set-point", [this] { return !line.stand().wire().empty(); });
+            }
+            expectEmptyProtocol();
+            loaded(frm::Messen)->close();
+            co_await leftEmpty();
+            EXPECT_EQ(line.stand().wire(),
+                      inAnExchange ? "-*E-2100+>>>6-*E-0000+>>>" : "-*E-0000+>>>");
+        }
         co_await again();
     };
     run(journey());

@@ -64,8 +64,9 @@ class Verdicts : public Workplace {
         co_await leaveMeasuring();
     }
     QStringList rows(const QString &columns) {
-        return column("SELECT " + columns + " FROM Messwerte_temp WHERE ProtokollID = ? "
-                      "ORDER BY Prüfschritt",
+        return column("SELECT " + columns +
+                          " FROM Messwerte_temp WHERE ProtokollID = ? "
+                          "ORDER BY Prüfschritt",
                       {gProtokollID});
     }
     QStringList measured(int language) {
@@ -144,7 +145,8 @@ class English : public Verdicts {
                   "Before carrying out the static zero-point correction, the universal joint shaft "
                   "has to be uncoupled from the normal.");
         press(frm::VorStatNPK, "pbok");
-        co_await until("offset", [] { return text(frm::StatMessen, "laInfo") == "Measure Offset"; });
+        co_await until("offset",
+                       [] { return text(frm::StatMessen, "laInfo") == "Measure Offset"; });
         co_await until("the mean",
                        [] { return text(frm::StatMessen, "laInfo") == "3 Measuring Values"; });
         co_await until("gain", [] { return text(frm::StatMessen, "laInfo") == "Measure Gain"; });
@@ -227,7 +229,8 @@ TEST_F(English, VerdictsAndDecimalPointsAreStored) {
                            "80.0|0.0|80.5|yes|yes"}));
     for (const QString &value : rows("Ist_n_torvena || ' ' || Ist_D_torvena || ' ' || "
                                      "Ist_P_torvena")) {
-        EXPECT_TRUE(QRegularExpression("^(\\d+\\.\\d\\d ){2}\\d+\\.\\d\\d$").match(value).hasMatch())
+        EXPECT_TRUE(
+            QRegularExpression("^(\\d+\\.\\d\\d ){2}\\d+\\.\\d\\d$").match(value).hasMatch())
             << value.toStdString();
     }
 }

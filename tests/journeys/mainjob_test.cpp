@@ -32,7 +32,8 @@ TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
         co_await pass(61'000);
         EXPECT_EQ(text(frm::Desktop, "lbEinlauf"), "08:59");
         EXPECT_NEAR(line.stand().speed(), 60, 0.1);
-        co_await until("the end of running-in", [] { return inFront(frm::Meldung1); }, 700'000);
+        co_await until(
+            "the end of running-in", [] { return inFront(frm::Meldung1); }, 700'000);
         EXPECT_TRUE(gEingelaufen);
         co_await arrive(frm::Desktop);
 
@@ -89,9 +90,9 @@ TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
                      "WHERE ProtokollID = ? ORDER BY MDat",
                      {gProtokollID}),
               (QStringList{"1|60,0|100,0|0|ja|ja", "2|80,0|0,0|80,5|ja|ja"}));
-    EXPECT_EQ(column("SELECT Protokollname FROM Protokoll_temp WHERE ProtokollID = ?",
-                     {gProtokollID}),
-              QStringList{"Abnahme 'Süd'"});
+    EXPECT_EQ(
+        column("SELECT Protokollname FROM Protokoll_temp WHERE ProtokollID = ?", {gProtokollID}),
+        QStringList{"Abnahme 'Süd'"});
 }
 
 } // namespace

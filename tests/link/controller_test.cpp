@@ -180,7 +180,8 @@ TEST_F(OnStand, MotorOffWaitsForTheStandstill) {
 
     line.unplug();
     MSComm1.setPortOpen(false);
-    boxes.expect("Error 5010- 8002 …", "Error", Critical);
+    boxes.expect("Error 5011- 8002 …", "Error", Critical);
+    boxes.expect("Error 5007- 8002 …", "Error", Critical);
     EXPECT_FALSE(fnc_MotorAus());
     EXPECT_EQ(window.enabled, 2);
 }

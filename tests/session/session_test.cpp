@@ -23,11 +23,11 @@ class Session : public testing::Test {
   protected:
     Session() {
         gSprache = 1;
-        kundeWählen({});
+        kundeWählen({}, 0);
         gerätWählen({}, {});
         rezeptWählen({});
     }
-    ~Session() override { setAuswahlListener({}); }
+    ~Session() override { setAuswahlListener({}, {}); }
     support::Boxes boxes;
 };
 
@@ -126,7 +126,7 @@ TEST_F(Session, EnglishCaptionsGoOverTheGermanOnes) {
 TEST_F(Session, WhatTheSelectionAllows) {
     const struct {
         const char *kunde, *ident, *rezept;
-        bool gerät, secControl, messen, nurGerät;
+        bool gerät, secControl, messen, ohneKunde;
     } cases[] = {
         {"", "", "", false, false, false, true},
         {"", "4711", "Kurz", false, false, false, true},
@@ -145,25 +145,42 @@ TEST_F(Session, WhatTheSelectionAllows) {
         EXPECT_EQ(regeln.gerät, c.gerät) << which;
         EXPECT_EQ(regeln.secControl, c.secControl) << which;
         EXPECT_EQ(regeln.messen, c.messen) << which;
-        EXPECT_EQ(regeln.nurGerät, c.nurGerät) << which;
+        EXPECT_EQ(regeln.ohneKunde, c.ohneKunde) << which;
     }
 }
 
 TEST_F(Session, AnotherCustomerTakesTheUnitAway) {
     std::vector<std::string> shown;
-    setAuswahlListener([&shown] {
-        shown.push_back((auswahl().kunde + '/' + auswahl().gerät + '/' + auswahl().gerätID + '/' +
-                         auswahl().rezept)
-                            .toStdString());
-    });
-    kundeWählen("Praxis");
+    setAuswahlListener(
+        [&shown] {
+            shown.push_back((auswahl().kunde + '/' + auswahl().gerät + '/' +
+                             auswahl().gerätID + '/' + auswahl().rezept)
+                                .toStdString());
+        },
+        {});
+    kundeWählen("Praxis", 1);
     gerätWählen("ergo 900", "4711");
     rezeptWählen("Kurz");
-    kundeWählen("Praxis");
-    kundeWählen("Klinik");
+    kundeWählen("Praxis", 1);
+    kundeWählen("Klinik", 2);
+    gerätWählen("ergo 900", "4712");
+    kundeWählen("Klinik", 3); // another one of the same name
     EXPECT_EQ(shown, (std::vector<std::string>{"Praxis///", "Praxis/ergo 900/4711/",
                                                "Praxis/ergo 900/4711/Kurz",
-                                               "Praxis/ergo 900/4711/Kurz", "Klinik///Kurz"}));
+                                               "Praxis/ergo 900/4711/Kurz", "Klinik///Kurz",
+                                               "Klinik/ergo 900/4712/Kurz", "Klinik///Kurz"}));
+}
+
+TEST_F(Session, OnlyAChoiceAppliesTheRules) {
+    int shown = 0;
+    int chosen = 0;
+    setAuswahlListener([&shown] { ++shown; }, [&chosen] { ++chosen; });
+    normalZeigen("Normal");
+    datumZeigen("01.02.2026");
+    EXPECT_EQ(chosen, 0); // a failed zero point stays locked
+    rezeptWählen("Kurz");
+    EXPECT_EQ(shown, 3);
+    EXPECT_EQ(chosen, 1);
 }
 
 class NamedFront : public Front {

@@ -8,6 +8,10 @@
 
 namespace support {
 
+void turnTo(const QWidget &control) {
+    QApplication::setActiveWindow(control.window());
+}
+
 void sendKeys(QWidget &target, const QString &keys) {
     for (const QChar letter : keys) {
         const int key = letter.unicode() < 128 ? letter.toUpper().unicode() : 0;

@@ -30,6 +30,9 @@ inline bool inFront(frm name) {
     return loaded(name) && platform::frontScreen() == loaded(name);
 }
 
+/// The window takes the keyboard, as it does when a person turns to it.
+void turnTo(const QWidget &control);
+
 inline bool canPress(frm name, const char *button) {
     if (!loaded(name) || !loaded(name)->usable())
         return false;
@@ -40,7 +43,9 @@ inline bool canPress(frm name, const char *button) {
 inline void press(frm name, const char *button) {
     if (!canPress(name, button))
         throw std::runtime_error(std::string("cannot press ") + button);
-    control<QAbstractButton>(name, button)->click();
+    auto *pressed = control<QAbstractButton>(name, button);
+    turnTo(*pressed);
+    pressed->click();
 }
 
 inline void choose(frm name, const char *action) {
@@ -68,6 +73,7 @@ void sendKeys(QWidget &target, const QString &keys);
 /// Replaces what stands in the box, key by key.
 inline void type(frm name, const char *box, const QString &keys) {
     auto *edit = control<QWidget>(name, box);
+    turnTo(*edit);
     edit->setFocus();
     if (auto *line = qobject_cast<QLineEdit *>(edit))
         line->selectAll();
@@ -77,10 +83,12 @@ inline void type(frm name, const char *box, const QString &keys) {
 }
 
 inline void enter(frm name, const char *box) {
-    QTest::keyClick(control<QWidget>(name, box), Qt::Key_Return);
+    auto *edit = control<QWidget>(name, box);
+    turnTo(*edit);
+    QTest::keyClick(edit, Qt::Key_Return);
 }
 
-/// All captions that a person sees on the screen, for looking for left-over German.
+/// All captions of the screen, of menus, headings and hints too, for looking for left-over German.
 QStringList visibleTexts(frm name);
 
 } // namespace support

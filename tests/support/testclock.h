@@ -23,6 +23,8 @@ class TestClock : public platform::Clock {
     void start(platform::Timer &timer, int milliseconds) override;
     void stop(platform::Timer &timer) override;
 
+    /// The day on which it was installed, at nine; today unless said otherwise.
+    void setDay(const QDate &day) { mStart = nineOnDay(day); }
     /// Milliseconds since the clock was installed.
     double elapsed() const { return mNow; }
     /// Runs `event` so many milliseconds from now, inside whatever pumps then.
@@ -45,7 +47,9 @@ class TestClock : public platform::Clock {
     };
     void jump();
 
-    QDateTime mStart = QDate::currentDate().startOfDay().addSecs(9 * 3600);
+    static QDateTime nineOnDay(const QDate &day) { return day.startOfDay().addSecs(9 * 3600); }
+
+    QDateTime mStart = nineOnDay(QDate::currentDate());
     double mNow = 0;
     std::map<platform::Timer *, Due> mTimers;
     std::multimap<double, std::function<void()>> mEvents;

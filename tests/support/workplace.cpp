@@ -15,31 +15,8 @@ namespace support {
 
 using namespace platform;
 
-namespace {
-
-/// As in a process that has just begun.
-void forgetSession() {
-    gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
-    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = false;
-    gEinlaufzeit = gEinlaufLeistung = 0;
-    gPrüfer.clear();
-    gProduktTitel.clear();
-    gSeriennummer.clear();
-    gNKGerätetyp.clear();
-    gHebelarmDatum = gHebelarmFällig = gKalibrierdatum = {};
-    kundeWählen({});
-    gerätWählen({}, {});
-    rezeptWählen({});
-    normalZeigen({});
-    datumZeigen({});
-}
-
-} // namespace
-
 Workshop::Workshop()
-    : previousDirectory(QDir::currentPath())
-    , clock(TestClock::install())
-    , line(clock) {
+    : previousDirectory(QDir::currentPath()), clock(TestClock::install()), line(clock) {
     QDir::setCurrent(directory.path());
     setNumberLocale(QLocale(QLocale::German, QLocale::Germany));
     legeDatenbankAn(datenbankName, true);
@@ -55,6 +32,22 @@ Workshop::~Workshop() {
     setBeeper({});
     programmAufräumen();
     QDir::setCurrent(previousDirectory);
+}
+
+void Workshop::forgetSession() {
+    gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
+    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = false;
+    gEinlaufzeit = gEinlaufLeistung = 0;
+    gPrüfer.clear();
+    gProduktTitel.clear();
+    gSeriennummer.clear();
+    gNKGerätetyp.clear();
+    gHebelarmDatum = gHebelarmFällig = gKalibrierdatum = {};
+    kundeWählen({}, 0);
+    gerätWählen({}, {});
+    rezeptWählen({});
+    normalZeigen({});
+    datumZeigen({});
 }
 
 QStringList Workshop::column(const QString &sql, const Datenbank::Params &params) {

@@ -21,11 +21,14 @@ class Workshop : public testing::Test {
     Workshop();
     ~Workshop() override;
 
+    /// The session as in a process that has just begun.
+    static void forgetSession();
     /// Rows of the one column that the statement names.
     QStringList column(const QString &sql, const Datenbank::Params &params = {});
     /// Another program writes to the database.
     static void change(const QString &sql, const Datenbank::Params &params = {});
-    /// The language of the next start, and the number format that goes with it: 1 German, 2 English.
+    /// The language of the next start, and the number format that goes with it: 1 German, 2
+    /// English.
     static void setLanguage(int language);
     static bool english();
     /// The box to the letter, in the language of the session.

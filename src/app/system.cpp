@@ -1,0 +1,28 @@
+#include "system.h"
+
+#include "database.h"
+#include "session.h"
+#include "sprache.h"
+
+SystemTitel systemLesen() {
+    const Recordset system = gDatenbank.open("SELECT * FROM System");
+    if (system.count() != 1)
+        return {};
+    gProduktTitel = system[1].text();
+    gLaufzeitMin = gEinlaufMin = static_cast<std::int16_t>(system[2].whole());
+    gEinlaufSek = 0;
+    gEinlaufzeit = system[3].isNull() ? 10 : system[3].number();
+    gEinlaufLeistung = system[8].number();
+    gSprache = static_cast<std::int16_t>(system[6].whole());
+    return {system[0].text(), gProduktTitel};
+}
+
+bool endprüfungFreigegeben() {
+    try {
+        const Recordset system = gDatenbank.open("SELECT Endprüfung FROM System");
+        return !system.empty() && system[0].whole() != 0;
+    } catch (const Fehler &fehler) {
+        fehlerMerken(fehler); // an older database does not have the setting
+        return false;
+    }
+}

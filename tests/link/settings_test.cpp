@@ -1,0 +1,264 @@
+// The settings of the line to the controller and of the running-in.
+#include <QScrollBar>
+
+#include "controller.h"
+#include "interface.h"
+#include "msgbox.h"
+#include "session.h"
+#include "workplace.h"
+
+namespace {
+
+using namespace support;
+using namespace platform;
+
+class Settings : public Workplace, public testing::WithParamInterface<int> {
+  protected:
+    Settings() { setLanguage(GetParam()); }
+
+    static Journey open(const char *menu, frm name) {
+        support::choose(frm::Desktop, menu);
+        co_await arrive(name);
+    }
+    static void scrollTo(int port) { control<QScrollBar>(frm::Interface, "SbCOM")->setValue(port); }
+    static QString fields() {
+        QStringList shown;
+        for (const char *field :
+             {"txtCOM", "cmbBaud", "cmbParitaet", "cmbDatenbits", "cmbStoppbits"})
+            shown += text(frm::Interface, field);
+        return shown.join(' ');
+    }
+    static void choose(const char *box, const QString &entry) {
+        control<QComboBox>(frm::Interface, box)->setCurrentText(entry);
+    }
+    static QString state() {
+        const auto *label = control<QLabel>(frm::Interface, "Label2");
+        return label->text() + ' ' + label->palette().color(QPalette::WindowText).name();
+    }
+    QString row() { return column("SELECT PortNr || ' ' || Parameter FROM Interface").join(" / "); }
+    static QString line1() {
+        return QString::number(MSComm1.CommPort()) + ' ' + MSComm1.Settings();
+    }
+    void expectMissingPort() {
+        expectBox({"Diese Schnittstelle gibt es nicht!\rBitte ändern Sie die Einstellungen",
+                   "This interface does not exist!\rChange the settings, please!"},
+                  Exclamation, {"Achtung!", "!Attention!"});
+    }
+    void expectPortInUse() {
+        expectBox({"Fehler mI 2 -  8005 belegt", "ERROR mSI 2 -  8005 in use"}, Critical,
+                  {"!! Achtung Fehler !!", " !! Attention !!"});
+    }
+    QString missing() const {
+        return english() ? "Not existing! #ff0000" : "Nicht vorhanden! #ff0000";
+    }
+    QString existing() const { return english() ? "Existing #00ff00" : "Vorhanden. #00ff00"; }
+};
+
+INSTANTIATE_TEST_SUITE_P(Languages, Settings, testing::Values(1, 2));
+
+TEST_P(Settings, OfTheLineAreShownTriedAndStored) {
+    change("UPDATE Interface SET PortNr = 7, Parameter = '75,O,5,1.5'");
+    const auto journey = [this]() -> Journey {
+        co_await logIn();
+        EXPECT_EQ(line1(), "7 75,O,5,1.5");
+        co_await open("mnuSSParameter", frm::Interface);
+        EXPECT_EQ(fields(), "7 75 Ungerade 5 1.5");
+        EXPECT_EQ(text(frm::Interface, "Label2"), "") << "nothing was tried yet";
+        EXPECT_EQ(control<QScrollBar>(frm::Interface, "SbCOM")->value(), 7);
+        EXPECT_EQ(control<QScrollBar>(frm::Interface, "SbCOM")->minimum(), 1);
+        EXPECT_TRUE(control(frm::Interface, "SbCOM")->hasFocus());
+
+        // The port that the table names is missing: told, and nothing is stored.
+        choose("cmbBaud", "9600");
+        expectMissingPort();
+        press(frm::Interface, "pbok");
+        EXPECT_TRUE(boxes.allCame());
+        EXPECT_TRUE(inFront(frm::Interface));
+        EXPECT_EQ(row(), "7 75,O,5,1.5");
+
+        // Every movement tries a port.
+        scrollTo(6);
+        EXPECT_EQ(state(), missing());
+        EXPECT_EQ(line1(), "6 75,O,5,1.5");
+        scrollTo(1);
+        EXPECT_EQ(state(), existing());
+        EXPECT_EQ(MSComm1.CommPort(), 1);
+        EXPECT_FALSE(MSComm1.PortOpen());
+        QTest::keyClick(control(frm::Interface, "SbCOM"), Qt::Key_Right);
+        EXPECT_EQ(text(frm::Interface, "txtCOM") + ' ' + state(), "2 " + missing());
+        for (const int beyond : {17, 20, 17}) {
+            scrollTo(beyond);
+            EXPECT_EQ(text(frm::Interface, "txtCOM"), "16");
+            EXPECT_EQ(control<QScrollBar>(frm::Interface, "SbCOM")->value(), 16);
+            EXPECT_EQ(MSComm1.CommPort(), 16);
+            EXPECT_EQ(state(), missing());
+        }
+        EXPECT_EQ(row(), "7 75,O,5,1.5");
+
+        // Leaving puts the line back, by every way out.
+        for (const int way : {0, 1, 2}) {
+            if (way == 0)
+                press(frm::Interface, "pbexit");
+            else if (way == 1)
+                QTest::keyClick(loaded(frm::Interface), Qt::Key_Escape);
+            else
+                loaded(frm::Interface)->close();
+            co_await arrive(frm::Desktop);
+            EXPECT_EQ(line1(), "7 75,O,5,1.5") << way;
+            EXPECT_EQ(row(), "7 75,O,5,1.5");
+            co_await open("mnuSSParameter", frm::Interface);
+            EXPECT_EQ(fields(), "7 75 Ungerade 5 1.5");
+            scrollTo(1);
+        }
+        press(frm::Interface, "pbok");
+        co_await arrive(frm::Desktop);
+        EXPECT_EQ(row(), "1 75,O,5,1.5") << "the stop bits stay";
+        EXPECT_EQ(line1(), "1 75,O,5,1.5");
+
+        co_await open("mnuSSParameter", frm::Interface);
+        const struct {
+            const char *box, *entry;
+        } entries[] = {{"cmbBaud", "115200"},
+                       {"cmbParitaet", "Gerade"},
+                       {"cmbDatenbits", "7"},
+                       {"cmbStoppbits", "2"}};
+        for (const auto &entry : entries)
+            choose(entry.box, entry.entry);
+        EXPECT_EQ(line1(), "1 75,O,5,1.5") << "settings come with OK only";
+        QTest::keyClick(control(frm::Interface, "cmbStoppbits"), Qt::Key_Return);
+        co_await arrive(frm::Desktop);
+        EXPECT_EQ(row(), "1 115200,E,7,2");
+        EXPECT_EQ(line1(), "1 115200,E,7,2");
+    };
+    run(journey());
+}
+
+TEST_P(Settings, OfAPortThatIsInUse) {
+    const auto journey = [this]() -> Journey {
+        co_await logIn();
+        co_await open("mnuSSParameter", frm::Interface);
+        scrollTo(2);
+        line.occupy(true);
+        expectPortInUse();
+        scrollTo(1);
+        EXPECT_TRUE(boxes.allCame());
+        EXPECT_EQ(text(frm::Interface, "txtCOM") + ' ' + state(), "1 " + missing())
+            << "the result before it";
+        choose("cmbBaud", "4800");
+        expectPortInUse();
+        expectMissingPort();
+        press(frm::Interface, "pbok");
+        EXPECT_TRUE(boxes.allCame());
+        EXPECT_EQ(row(), "1 19200,N,8,1");
+        line.occupy(false);
+        press(frm::Interface, "pbok");
+        co_await arrive(frm::Desktop);
+        EXPECT_EQ(line1(), "1 4800,N,8,1");
+    };
+    run(journey());
+}
+
+TEST_P(Settings, OfTheLineAreToldWhenTheyCannotBeReadOrStored) {
+    const Text title{"!! Achtung Fehler !!", " !! Attention !!"};
+    const auto journey = [&]() -> Journey {
+        co_await logIn();
+        co_await open("mnuSSParameter", frm::Interface);
+        Datenbank other;
+        other.openFile(datenbankName);
+        other.execute("BEGIN IMMEDIATE");
+        expectBox({"Fehler I_1003 -  3045 Die Datenbank ist von einem anderen Programm gesperrt. "
+                   "Bitte schließen Sie es.",
+                   "ERROR I_1003 -  3045 The database is locked by another program. Please close "
+                   "it."},
+                  Critical, title);
+        press(frm::Interface, "pbok");
+        EXPECT_TRUE(inFront(frm::Interface));
+        other.execute("DELETE FROM Interface");
+        other.execute("COMMIT");
+        scrollTo(3);
+        expectBox({"Fehler I_1002 -  3021 Kein aktueller Datensatz.",
+                   "ERROR I_1002 -  3021 No current record."},
+                  Critical, title);
+        press(frm::Interface, "pbexit");
+        co_await arrive(frm::Desktop);
+        expectBox({"Fehler I_1001 - ( 3021) Kein aktueller Datensatz.",
+                   "ERROR I_1001 - ( 3021) No current record."},
+                  Critical, title);
+        boxes.allow((english() ? "ERROR I_1002 - …" : "Fehler I_1002 - …"));
+        co_await open("mnuSSParameter", frm::Interface);
+        EXPECT_TRUE(boxes.allCame());
+        press(frm::Interface, "pbexit");
+        co_await arrive(frm::Desktop);
+    };
+    run(journey());
+}
+
+TEST_P(Settings, OfTheRunningIn) {
+    struct Case {
+        const char *time, *power;
+        const char *stored; // Einlzeit2 and EinlW
+        const char *stays;  // the field that keeps the keyboard; null when the screen closes
+    };
+    const bool german = GetParam() == 1;
+    const Case cases[] = {
+        {"10.30", "75", "10.3 75.0", nullptr},
+        {"10,3", "75,5", "10.3 75.5", nullptr},
+        {" 0 ", "0", "0.0 0.0", nullptr},
+        {"60", "100", "0.0 100.0", "txtZeit"},
+        {"5", "800", "5.0 100.0", "txtW"},
+        {"-1", "-0.1", "5.0 100.0", "txtZeit"},
+        {"", "", "5.0 100.0", "txtZeit"},
+        {"zehn", "7 5", "5.0 100.0", "txtZeit"},
+        {"1e999", "nan", "5.0 100.0", "txtZeit"},
+        {"6", german ? "1.000" : "1,000", "6.0 100.0", "txtW"}, // a thousand
+        {"59,99", "799.99", "59.99 799.99", nullptr},
+    };
+    const auto journey = [&]() -> Journey {
+        co_await logIn();
+        for (const Case &c : cases) {
+            SCOPED_TRACE(std::string(c.time) + " / " + c.power);
+            co_await open("mnuEinlaufen", frm::Einlaufen);
+            EXPECT_TRUE(control(frm::Einlaufen, "txtZeit")->hasFocus());
+            type(frm::Einlaufen, "txtZeit", c.time);
+            if (!*c.time)
+                QTest::keyClick(control(frm::Einlaufen, "txtZeit"), Qt::Key_Delete);
+            enter(frm::Einlaufen, "txtZeit");
+            EXPECT_TRUE(control(frm::Einlaufen, "txtW")->hasFocus());
+            type(frm::Einlaufen, "txtW", c.power);
+            if (!*c.power)
+                QTest::keyClick(control(frm::Einlaufen, "txtW"), Qt::Key_Delete);
+            if (c.stays)
+                expectBox({"Mindestens ein Parameter konnte nicht gespeichert werden!",
+                           "At least one parameter could not be saved!"},
+                          Critical, {"Eingabefehler", "Attention"});
+            enter(frm::Einlaufen, "txtW");
+            EXPECT_TRUE(boxes.allCame());
+            EXPECT_EQ(column("SELECT Einlzeit2 || ' ' || EinlW FROM System"),
+                      QStringList{c.stored});
+            EXPECT_EQ(QString("%1 %2").arg(gEinlaufzeit).arg(gEinlaufLeistung),
+                      QString(c.stored).remove(".0"));
+            if (c.stays) {
+                EXPECT_TRUE(control(frm::Einlaufen, c.stays)->hasFocus());
+                EXPECT_EQ(text(frm::Einlaufen, "txtZeit"), c.time) << "what was typed stays";
+                press(frm::Einlaufen, "pbAbbrechen");
+            }
+            co_await arrive(frm::Desktop);
+            EXPECT_FALSE(loaded(frm::Einlaufen));
+        }
+        expectBox({"Wollen Sie das Programm wirklich beenden?",
+                   "Do you really want to terminate the program?"},
+                  YesNo + Question, {"Programmende", "End Of Program"}, Yes);
+        press(frm::Desktop, "pbBeenden");
+    };
+    run(journey());
+    forgetSession();
+    const auto nextStart = [&]() -> Journey {
+        co_await logIn();
+        co_await open("mnuEinlaufen", frm::Einlaufen);
+        EXPECT_EQ(text(frm::Einlaufen, "txtZeit"), german ? "59,99" : "59.99");
+        EXPECT_EQ(text(frm::Einlaufen, "txtW"), german ? "799,99" : "799.99");
+    };
+    run(nextStart());
+}
+
+} // namespace

@@ -1,0 +1,516 @@
+// The database behind the program: values, rows, failures and files; and what is typed into a
+// search.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <limits>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "boxes.h"
+#include "database.h"
+#include "msgbox.h"
+#include "recordsetmodel.h"
+#include "scripts.h"
+#include "session.h"
+#include "sqltext.h"
+
+namespace {
+
+using namespace platform;
+
+/// The number of what it raises; 0 for nothing.
+template <class Body>
+int raised(Body body) {
+    try {
+        body();
+    } catch (const Fehler &fehler) {
+        return fehler.number();
+    }
+    return 0;
+}
+
+QString joined(Recordset rows, const QString &column) {
+    QStringList texts;
+    for (; !rows.atEnd(); rows.moveNext())
+        texts += rows[column].text();
+    return texts.join(' ');
+}
+
+class Store : public testing::Test {
+  protected:
+    Store() {
+        Datenbank::createFile(mPath, {"CREATE TABLE Schritte (Nr TEXT PRIMARY KEY COLLATE NOCASE, "
+                                      "Name TEXT COLLATE NOCASE, Wert)",
+                                      "INSERT INTO Schritte (Nr, Name) VALUES ('10', 'Zehn'), "
+                                      "('9', 'Ähre'), ('2', 'zwei'), ('2a', 'ZWEI')"});
+        mStore.openFile(mPath);
+    }
+    /// A file of the directory with this content.
+    QString file(const QString &name, const QByteArray &content) {
+        QFile file(mDirectory.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return file.fileName();
+    }
+    QStringList files() {
+        return QDir(mDirectory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot);
+    }
+
+    QTemporaryDir mDirectory;
+    const QString mPath = mDirectory.filePath("torvena470.mdb");
+    Datenbank mStore;
+};
+
+TEST_F(Store, ValuesComeBackAsTheyWereGiven) {
+    const struct {
+        QVariant value;
+        const char *type;
+        QString text;
+        double number;
+    } cases[] = {
+        {"O'Malley's \"Gym\"; DROP TABLE Schritte; --", "text",
+         "O'Malley's \"Gym\"; DROP TABLE Schritte; --", 0},
+        {"Straße ÄÖÜ äöü €", "text", "Straße ÄÖÜ äöü €", 0},
+        {"מכון שיקום 💪", "text", "מכון שיקום 💪", 0},
+        {" voran und hinten ", "text", " voran und hinten ", 0},
+        {QString::fromUtf16(u"a\0b", 3), "text", QString::fromUtf16(u"a\0b", 3), 0},
+        {"", "text", "", 0},
+        {QString(), "text", "", 0}, // a text that is empty, not a missing one
+        {"60,5", "text", "60,5", 60.5},
+        {"60.5 W", "text", "60.5 W", 60.5},
+        {QVariant(), "null", "", 0},
+        {7, "integer", "7", 7},
+        {true, "integer", "1", 1},
+        {std::numeric_limits<qlonglong>::max(), "integer", "9223372036854775807",
+         9223372036854775807.0},
+        {0.1, "real", "0.1", 0.1},
+        {3.0, "real", "3", 3},
+        {-1e-12, "real", "-1e-12", -1e-12},
+    };
+    for (const auto &c : cases) {
+        const std::string which = c.value.toString().toStdString();
+        EXPECT_EQ(mStore.execute("UPDATE Schritte SET Wert = ?2 WHERE Nr = ?1", {"9", c.value}), 1);
+        const Recordset row = mStore.open(
+            "SELECT Wert, typeof(Wert), Wert IS ? FROM Schritte WHERE Nr = '9'", {c.value});
+        EXPECT_EQ(row[0].text(), c.text) << which;
+        EXPECT_EQ(row[0].number(), c.number) << which;
+        EXPECT_EQ(row[0].isNull(), !c.value.isValid()) << which;
+        EXPECT_EQ(row[1].text(), c.type) << which;
+        EXPECT_EQ(row[2].whole(), 1) << which;
+    }
+    EXPECT_EQ(raised([&] {
+                  mStore.execute("DELETE FROM Schritte WHERE Nr = ?", {1, 2});
+              }),
+              fehlernummer::StatementFailed);
+    EXPECT_EQ(mStore.execute("DELETE FROM Schritte WHERE Nr = 'zwölf'"), 0);
+    EXPECT_EQ(mStore.execute("DELETE FROM Schritte WHERE Name = 'Zwei'"), 2) << "case is nothing";
+}
+
+TEST_F(Store, RowsStayAsTheyWereWhenAsked) {
+    Recordset rows = mStore.open("SELECT Nr FROM Schritte ORDER BY val(Nr), Nr");
+    rows.moveLast();
+    const Recordset copy = rows;
+    mStore.execute("DELETE FROM Schritte");
+    mStore.close();
+    EXPECT_EQ(rows.count(), 4);
+    EXPECT_EQ(rows["nr"].text(), "10");
+    rows.moveFirst();
+    EXPECT_EQ(joined(rows, "Nr"), "2 2a 9 10");
+    EXPECT_EQ(copy[0].text(), "10") << "a copy has a cursor of its own";
+}
+
+TEST_F(Store, CursorStandsOnARowBeforeOrBehind) {
+    using Move = void (*)(Recordset &);
+    const Move none = [](Recordset &) {};
+    const Move past = [](Recordset &r) {
+        for (int i = 0; i < 6; ++i)
+            r.moveNext();
+    };
+    const struct {
+        const char *what;
+        const char *where;
+        Move move;
+        const char *at; // null for no row
+        bool start, end;
+    } cases[] = {
+        {"fresh", "1", none, "10", false, false},
+        {"next", "1", [](Recordset &r) { r.moveNext(); }, "9", false, false},
+        {"last", "1", [](Recordset &r) { r.moveLast(); }, "2a", false, false},
+        {"behind", "1", past, nullptr, false, true},
+        {"back from behind", "1",
+         [](Recordset &r) {
+             r.moveLast();
+             r.moveNext();
+             r.moveNext();
+             r.movePrevious();
+         },
+         "2a", false, false},
+        {"before", "1", [](Recordset &r) { r.movePrevious(); }, nullptr, true, false},
+        {"from before", "1",
+         [](Recordset &r) {
+             r.movePrevious();
+             r.movePrevious();
+             r.moveNext();
+         },
+         "10", false, false},
+        {"found first", "1", [](Recordset &r) { EXPECT_TRUE(r.findFirst("NAME", "Zwei")); }, "2",
+         false, false},
+        {"found last", "1", [](Recordset &r) { EXPECT_TRUE(r.findLast("name", "zwei")); }, "2a",
+         false, false},
+        {"found umlaut", "1", [](Recordset &r) { EXPECT_TRUE(r.findFirst("Name", "äHRE")); }, "9",
+         false, false},
+        {"not found", "1",
+         [](Recordset &r) {
+             r.moveNext();
+             EXPECT_FALSE(r.findFirst("Name", "zwe"));
+             EXPECT_FALSE(r.findLast("Nam", "zwei"));
+         },
+         "9", false, false},
+        {"no rows", "0", none, nullptr, true, true},
+        {"no rows, next", "0", past, nullptr, true, true},
+        {"no rows, last", "0",
+         [](Recordset &r) {
+             r.moveLast();
+             r.movePrevious();
+         },
+         nullptr, true, true},
+        {"no rows, find", "0", [](Recordset &r) { EXPECT_FALSE(r.findLast("Name", "")); }, nullptr,
+         true, true},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        Recordset rows = mStore.open(
+            QString("SELECT Nr, Name FROM Schritte WHERE %1 ORDER BY rowid").arg(c.where));
+        c.move(rows);
+        EXPECT_EQ(rows.atStart(), c.start);
+        EXPECT_EQ(rows.atEnd(), c.end);
+        EXPECT_EQ(rows.empty(), QString(c.where) == "0");
+        if (c.at) {
+            EXPECT_EQ(rows[0].text(), c.at);
+            EXPECT_EQ(rows["NR"].text(), c.at);
+        } else {
+            EXPECT_EQ(raised([&] { rows[0]; }), fehlernummer::NoCurrentRecord);
+            EXPECT_EQ(raised([&] { rows["Nr"]; }), fehlernummer::NoCurrentRecord);
+        }
+        for (const int column : {-1, 2})
+            EXPECT_EQ(raised([&] { rows[column]; }), fehlernummer::MissingColumn);
+        EXPECT_EQ(raised([&] { rows["Wert"]; }), fehlernummer::MissingColumn);
+    }
+}
+
+TEST_F(Store, FailuresHaveNumbers) {
+    const struct {
+        const char *sql;
+        int number;
+        const char *german;
+    } cases[] = {
+        {"SELECT * FROM Fehlt", 3078, "Die Tabelle wurde nicht gefunden: no such table: Fehlt"},
+        {"DELETE FROM Fehlt", 3078, "Die Tabelle wurde nicht gefunden: no such table: Fehlt"},
+        {"SELECT Fehlt FROM Schritte", 3265,
+         "Die Spalte wurde nicht gefunden: no such column: Fehlt"},
+        {"UPDATE Schritte SET Fehlt = 1", 3265,
+         "Die Spalte wurde nicht gefunden: no such column: Fehlt"},
+        {"INSERT INTO Schritte (Fehlt) VALUES (1)", 3265,
+         "Die Spalte wurde nicht gefunden: table Schritte has no column named Fehlt"},
+        {"INSERT INTO Schritte (Nr) VALUES ('2A')", 3022,
+         "Der Datensatz verletzt einen Schlüssel: UNIQUE constraint failed: Schritte.Nr"},
+        {"SELEC 1", 3075, "Die Anweisung ist fehlgeschlagen: near \"SELEC\": syntax error"},
+    };
+    for (const auto &c : cases) {
+        for (const bool read : {true, false}) {
+            try {
+                read ? void(mStore.open(c.sql)) : void(mStore.execute(c.sql));
+                ADD_FAILURE() << c.sql;
+            } catch (const Fehler &fehler) {
+                EXPECT_EQ(fehler.number(), c.number) << c.sql;
+                EXPECT_EQ(fehler.text().german.toStdString(), c.german);
+                EXPECT_FALSE(fehler.text().english.isEmpty());
+            }
+        }
+    }
+    EXPECT_EQ(joined(mStore.open("SELECT Nr FROM Schritte ORDER BY rowid"), "Nr"), "10 9 2 2a");
+    mStore.close();
+    EXPECT_FALSE(mStore.isOpen());
+    EXPECT_EQ(raised([&] { mStore.open("SELECT 1"); }), 3420);
+    EXPECT_EQ(raised([&] { mStore.execute("DELETE FROM Schritte"); }), 3420);
+}
+
+TEST_F(Store, AWriteWaitsForNobodyForLong) {
+    Datenbank other;
+    other.openFile(mPath);
+    other.execute("BEGIN IMMEDIATE");
+    EXPECT_EQ(raised([&] { mStore.execute("DELETE FROM Schritte"); }), 3045);
+    EXPECT_EQ(mStore.open("SELECT * FROM Schritte").count(), 4) << "reading goes on";
+    other.execute("COMMIT");
+    EXPECT_EQ(mStore.execute("DELETE FROM Schritte"), 4);
+}
+
+TEST_F(Store, OnlyASoundFileIsOpened) {
+    const QString whole = mDirectory.filePath("whole");
+    legeDatenbankAn(whole, true);
+    QFile source(whole);
+    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
+    const QByteArray content = source.readAll();
+    ASSERT_GT(content.size(), 100'000);
+    const QString locked = mDirectory.filePath("locked");
+    ASSERT_TRUE(QFile::copy(whole, locked));
+    Datenbank other;
+    other.openFile(locked);
+    other.execute("BEGIN EXCLUSIVE");
+
+    const QByteArray text = QByteArray("Kunden, von Hand aufgeschrieben.\n").repeated(400);
+    const std::pair<QString, int> cases[] = {
+        {mDirectory.filePath("missing"), 3024},
+        {mDirectory.filePath("missing/torvena470.mdb"), 3024},
+        {mDirectory.path(), 3024},
+        {file("text", text), 3343},
+        {file("note", text.left(20)), 3343},
+        {file("nothing", {}), 3343},
+        {file("head", content.left(50)), 3343},
+        {file("page", content.left(4096)), 3343},
+        {file("half", content.left(content.size() / 2)), 3343},
+        {file("nearly", content.chopped(4096)), 3343},
+        {locked, 3045},
+    };
+    const QStringList before = files();
+    for (const auto &[path, number] : cases) {
+        mStore.openFile(whole);
+        EXPECT_EQ(raised([&] { mStore.openFile(path); }), number) << path.toStdString();
+        EXPECT_FALSE(mStore.isOpen()) << path.toStdString();
+    }
+    EXPECT_EQ(files(), before) << "nothing is created";
+    other.close();
+    mStore.openFile(locked);
+    EXPECT_TRUE(mStore.isOpen());
+}
+
+TEST_F(Store, ACopyOfTheFileIsACopyOfTheData) {
+    mStore.open("PRAGMA journal_mode=WAL"); // by a tool of somebody
+    mStore.openFile(mPath);
+    EXPECT_EQ(mStore.open("PRAGMA journal_mode")[0].text(), "delete");
+    EXPECT_EQ(mStore.open("PRAGMA synchronous")[0].whole(), 2) << "full";
+    mStore.execute("INSERT INTO Schritte (Nr) VALUES ('neu')");
+    EXPECT_EQ(files(), QStringList{"torvena470.mdb"});
+    ASSERT_TRUE(QFile::copy(mPath, mPath + ".copy"));
+    Datenbank copy;
+    copy.openFile(mPath + ".copy");
+    EXPECT_EQ(copy.open("SELECT 1 FROM Schritte WHERE Nr = 'NEU'").count(), 1);
+}
+
+TEST_F(Store, NewFilesAreWholeOrNotThere) {
+    const QString fresh = mDirectory.filePath("fresh.mdb");
+    const QStringList before = files();
+    EXPECT_NE(raised([&] { legeDatenbankAn(mDirectory.filePath("no/such/dir.mdb"), false); }), 0);
+    EXPECT_EQ(raised([&] { legeDatenbankAn(mPath, false); }), fehlernummer::PermissionDenied);
+    EXPECT_EQ(mStore.open("SELECT * FROM Schritte").count(), 4) << "what is there stays";
+
+    // The disk is full half-way.
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{30'000, usual.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    EXPECT_EQ(raised([&] { legeDatenbankAn(fresh, true); }), fehlernummer::StatementFailed);
+    setrlimit(RLIMIT_FSIZE, &usual);
+    std::signal(SIGXFSZ, previous);
+    EXPECT_EQ(files(), before);
+
+    // What an interrupted try has left over is no obstacle.
+    file("fresh.mdb.new", "rest");
+    legeDatenbankAn(fresh, false);
+    mStore.openFile(fresh);
+    EXPECT_EQ(mStore.open("SELECT * FROM System").count(), 1);
+    EXPECT_EQ(files(), (QStringList{"fresh.mdb", "torvena470.mdb"}));
+}
+
+TEST_F(Store, HeldByAnotherProgram) {
+    EXPECT_FALSE(fnc_DateiGeöffnet(mPath)) << "open here, but at rest";
+    EXPECT_EQ(raised([&] { fnc_DateiGeöffnet(mPath + "x"); }), fehlernummer::FileNotFound);
+    mStore.close();
+    int ready[2], done[2];
+    ASSERT_EQ(pipe(ready) + pipe(done), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        char byte = 'x';
+        Datenbank other;
+        try {
+            other.openFile(mPath);
+            other.execute("BEGIN IMMEDIATE");
+            byte = 'l';
+        } catch (const Fehler &) {
+        }
+        [[maybe_unused]] const auto written = write(ready[1], &byte, 1);
+        close(done[1]);
+        [[maybe_unused]] const auto end = read(done[0], &byte, 1);
+        _exit(0);
+    }
+    close(ready[1]);
+    close(done[0]);
+    char byte = 0;
+    ASSERT_EQ(read(ready[0], &byte, 1), 1);
+    EXPECT_EQ(byte, 'l');
+    EXPECT_TRUE(fnc_DateiGeöffnet(mPath));
+    close(done[1]);
+    waitpid(child, nullptr, 0);
+    close(ready[0]);
+    EXPECT_FALSE(fnc_DateiGeöffnet(mPath));
+}
+
+TEST_F(Store, OpeningShowsWhatFailsAndAnswersZero) {
+    const QString previous = QDir::currentPath();
+    QDir::setCurrent(mDirectory.path());
+    support::Boxes boxes;
+    gSprache = 1;
+    EXPECT_EQ(fnc_DatenbankÖffnen(), 0);
+    EXPECT_EQ(boxes.count(), 0u);
+    EXPECT_EQ(gDatenbank.open("SELECT * FROM Schritte").count(), 4);
+    file(datenbankName, "no database");
+    for (const bool there : {true, false}) {
+        if (!there)
+            QFile::remove(mPath);
+        const QString german =
+            there ? "Fehler 1002- 3343 Die Datenbank ist beschädigt. Bitte spielen Sie eine "
+                    "Sicherungskopie ein."
+                  : "Fehler 1002- 3024 Die Datei \"torvena470.mdb\" wurde im Arbeitsverzeichnis "
+                    "nicht gefunden.";
+        const QString english =
+            there ? "Error 1002- 3343 The database is damaged. Please restore a safety copy."
+                  : "Error 1002- 3024 The file \"torvena470.mdb\" was not found in the working "
+                    "directory.";
+        boxes.expect(german, "Fehler", Critical);
+        boxes.expect(english, "Error", Critical);
+        for (gSprache = 1; gSprache <= 2; ++gSprache) {
+            gFehlerNr = 0;
+            EXPECT_EQ(fnc_DatenbankÖffnen(), 0);
+            EXPECT_EQ(gFehlerNr, there ? 3343 : 3024);
+            EXPECT_TRUE((gSprache == 1 ? german : english).endsWith(gFehlerText));
+        }
+        EXPECT_FALSE(gDatenbank.isOpen());
+    }
+    QDir::setCurrent(previous);
+}
+
+TEST_F(Store, FunctionsOfStatements) {
+    mStore.execute("INSERT INTO Schritte (Nr, Name) VALUES ('FR', NULL)");
+    EXPECT_EQ(joined(mStore.open("SELECT Nr FROM Schritte ORDER BY val(Nr), Nr"), "Nr"),
+              "FR 2 2a 9 10");
+    const Recordset values =
+        mStore.open("SELECT Val('12,5'), val(' 1 2.5 W'), VAL(NULL), val('-3'), val(7.25)");
+    const double expected[] = {12, 12.5, 0, -3, 7.25};
+    for (int i = 0; i < 5; ++i)
+        EXPECT_EQ(values[i].number(), expected[i]) << i;
+    for (const auto &[pattern, found] : {std::pair{"zwei", "2 2a"},
+                                         {"Z*", "10 2 2a"},
+                                         {"ä*", "9"},
+                                         {"Z???", "10 2 2a"},
+                                         {"*'*", ""},
+                                         {"", "FR"}}) {
+        EXPECT_EQ(joined(mStore.open("SELECT Nr FROM Schritte WHERE Muster(?, Name) ORDER BY rowid",
+                                     {pattern}),
+                         "Nr"),
+                  found)
+            << pattern;
+    }
+}
+
+TEST(Search, PatternsOfAPerson) {
+    const QString longName = QString("a").repeated(255);
+    const struct {
+        QString pattern;
+        QString text;
+        bool fits;
+    } cases[] = {
+        {"Klinik", "klinik", true},
+        {"Klinik", "Klinikum", false},
+        {"linik", "Klinik", false},
+        {"Klinik*", "Klinik", true},
+        {"*am*", "Klinik am See", true},
+        {"*am*", "Klinik", false},
+        {"Kl?nik", "Klonik", true},
+        {"Kl?nik", "Klnik", false},
+        {"?", "", false},
+        {"*", "", true},
+        {"", "", true},
+        {"", "x", false},
+        {"ÄHRE*ß", "ährenfeld-groß", true},
+        {"ahre*", "Ährenfeld", false},
+        {"O'Malley's*", "O'MALLEY'S Gym", true},
+        {"a\nb*", "A\nB\nc", true},
+        {"*💪", "Studio 💪", true},
+        {"💪*", "💪 Studio", true},
+        {"Studio ?", "Studio 💪", true},
+        {"מכון*", "מכון שיקום", true},
+        // No other character means anything.
+        {"Dr. *", "Drx y", false},
+        {"[K]linik", "Klinik", false},
+        {"[K]linik", "[k]linik", true},
+        {"(a|b)+^$\\d{1}#%_", "(A|B)+^$\\D{1}#%_", true},
+        {"%", "x", false},
+        {"\\Q*\\E", "x", false},
+        {longName + "*", longName, true},
+        {QString("*").repeated(60) + "b", longName, false},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(passtZumMuster(c.pattern, c.text), c.fits)
+            << c.pattern.toStdString() << " / " << c.text.toStdString();
+    }
+}
+
+TEST(TextsOfTheDatabase, DatesAndDecimalSigns) {
+    const struct {
+        const char *iso, *shown;
+    } cases[] = {{"2024-02-29", "29.02.2024"},
+                 {"2024-12-01 09:30:00", "01.12.2024"},
+                 {"2023-02-29", ""},
+                 {"01.12.2024", ""},
+                 {"", ""}};
+    for (const auto &c : cases)
+        EXPECT_EQ(datumText(datumAus(c.iso)), c.shown) << c.iso;
+    QString text = "1,2,3.4";
+    fnc_KommaZuPunkt(text);
+    EXPECT_EQ(text, "1.2.3.4");
+    EXPECT_EQ(fnc_OhnePunkt("1.200.5,4"), "12005,4");
+}
+
+TEST_F(Store, GridShowsChosenColumns) {
+    RecordsetModel model;
+    const auto right = Qt::AlignRight | Qt::AlignVCenter;
+    model.setSpalten({{"name", "Bezeichnung"}, {"NR", "Schritt", right}, {"fehlt", "Leer"}});
+    model.setRecordset(mStore.open("SELECT Nr, Name FROM Schritte ORDER BY rowid"));
+    EXPECT_EQ(model.rowCount(), 4);
+    EXPECT_EQ(model.columnCount(), 3);
+    QStringList heads;
+    for (int section = -1; section < 4; ++section)
+        heads += model.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+    EXPECT_EQ(heads, (QStringList{"", "Bezeichnung", "Schritt", "Leer", ""}));
+    EXPECT_FALSE(model.headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
+
+    const QModelIndex last = model.index(3, 1);
+    EXPECT_EQ(model.data(last, Qt::DisplayRole), "2a");
+    EXPECT_EQ(model.data(last, Qt::TextAlignmentRole).toInt(), int(right));
+    EXPECT_EQ(model.data(model.index(1, 0), Qt::DisplayRole), "Ähre");
+    EXPECT_EQ(model.data(model.index(1, 0), Qt::TextAlignmentRole).toInt(),
+              int(Qt::AlignLeft | Qt::AlignVCenter));
+    EXPECT_FALSE(model.data(model.index(0, 2), Qt::DisplayRole).isValid());
+    EXPECT_FALSE(model.data(last, Qt::ToolTipRole).isValid());
+    EXPECT_EQ(model.rowCount(last), 0);
+    EXPECT_FALSE(model.index(4, 0).isValid());
+
+    // An index that a view has kept.
+    model.setRecordset({});
+    EXPECT_EQ(model.rowCount(), 0);
+    EXPECT_FALSE(model.data(last, Qt::DisplayRole).isValid());
+    model.setSpalten({});
+    EXPECT_FALSE(model.data(last, Qt::TextAlignmentRole).isValid());
+    EXPECT_FALSE(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).isValid());
+}
+
+} // namespace
