@@ -13,9 +13,7 @@ using namespace support;
 
 class Gallery : public Workplace {
   public:
-    Gallery(QDir target, std::int16_t language)
-        : mTarget(std::move(target))
-        , mLanguage(language) {
+    Gallery(QDir target, std::int16_t language) : mTarget(std::move(target)), mLanguage(language) {
         gDatenbank.openFile(datenbankName);
         gDatenbank.execute("UPDATE System SET Sprache = ?", {language});
         gDatenbank.close();

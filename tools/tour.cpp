@@ -79,9 +79,8 @@ std::vector<Station> stations() {
                std::fabs(number("txtIST_n_torvena") - number("txtSoll_n")) < 0.5;
     };
     const auto step = [settled](const char *wanted) {
-        return [settled, wanted] {
-            return settled(wanted) && canPress(frm::Messen, "pbSpeichern");
-        };
+        return
+            [settled, wanted] { return settled(wanted) && canPress(frm::Messen, "pbSpeichern"); };
     };
     return {
         {"splash", front(frm::Splash), [] {}},
@@ -127,8 +126,7 @@ std::vector<Station> stations() {
          }},
         {"power step", step("1"), [] { press(frm::Messen, "pbSpeichern"); }},
         {"notice", front(frm::Meldung), [] {}},
-        {"speed step",
-         [settled] { return settled("2"); },
+        {"speed step", [settled] { return settled("2"); },
          [] { type(frm::Messen, "txtIST_n_ergom", "80"); }},
         {"speed read", step("2"), [] { press(frm::Messen, "pbSpeichern"); }},
         {"recipe done", ready(frm::Messen, "pbAbbrechen"),
@@ -155,8 +153,7 @@ void printRows() {
 
 class Tour {
   public:
-    Tour()
-        : mStations(stations()) {
+    Tour() : mStations(stations()) {
         QDir().mkpath("tour");
         platform::setBoxAnswerer([](const platform::Box &box) {
             std::printf("   box: %s\n", box.text.simplified().toUtf8().constData());

@@ -101,8 +101,7 @@ frmDesktop::~frmDesktop() {
 
 // A button and a menu entry for the same; both stay disabled while the screen they lead to does not
 // exist yet.
-void frmDesktop::öffnet(QPushButton *button, QAction *action, frm ziel,
-                        void (frmDesktop::*weg)()) {
+void frmDesktop::öffnet(QPushButton *button, QAction *action, frm ziel, void (frmDesktop::*weg)()) {
     const auto öffnen = [this, ziel, weg] {
         if (weg)
             (this->*weg)();
@@ -177,9 +176,8 @@ void frmDesktop::Form_Load() try {
     datumZeigen(datumText(now().date()));
     ohneFehlendeSpalte([] {
         if (!fnc_HebelarmDatumLesen()) {
-            throw Fehler(fehlernummer::NoCurrentRecord,
-                         {"Es gibt noch keine Hebelarmkalibrierung.",
-                          "There is no lever arm calibration yet."});
+            throw Fehler(fehlernummer::NoCurrentRecord, {"Es gibt noch keine Hebelarmkalibrierung.",
+                                                         "There is no lever arm calibration yet."});
         }
     });
     normalUndHebelarmZeigen();
@@ -359,7 +357,8 @@ void frmDesktop::keyPressEvent(QKeyEvent *event) {
 
 void frmDesktop::hilfeÖffnen() try {
     const QFileInfo file(helpFile);
-    if (!file.exists() || !QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()))) {
+    if (!file.exists() ||
+        !QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()))) {
         throw Fehler(fehlernummer::FileNotFound,
                      {QString("Die Hilfe (%1) lässt sich nicht öffnen.").arg(helpFile),
                       QString("The help (%1) cannot be opened.").arg(helpFile)});

@@ -84,13 +84,12 @@ void frmDesktop::pbMessen_Click() {
     gMessenFreigabe = true;
     gMessStatus = messstatus::Ruhe;
     if (!gEingelaufen) {
-        const int antwort =
-            meldung({"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
-                     "beginnen ?",
-                     "The unit under test has not completed the run-up yet!\rDo you still want to "
-                     "start the measurement?"},
-                    YesNo + Exclamation + SecondButtonDefault,
-                    {"Messen starten", "Start The Measurement"});
+        const int antwort = meldung(
+            {"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
+             "beginnen ?",
+             "The unit under test has not completed the run-up yet!\rDo you still want to "
+             "start the measurement?"},
+            YesNo + Exclamation + SecondButtonDefault, {"Messen starten", "Start The Measurement"});
         if (antwort == No) {
             gMessenFreigabe = false;
             return;

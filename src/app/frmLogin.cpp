@@ -9,8 +9,9 @@
 
 namespace {
 constexpr Beschriftung english[] = {
-    {"", "Registration"}, {"laText", "Please enter your name."}, {"lblUserName", "&Inspector:"},
-    {"pbok", "&OK"},      {"pbCancel", "&Cancel"},
+    {"", "Registration"},           {"laText", "Please enter your name."},
+    {"lblUserName", "&Inspector:"}, {"pbok", "&OK"},
+    {"pbCancel", "&Cancel"},
 };
 }
 

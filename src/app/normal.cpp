@@ -27,8 +27,7 @@ void normalÜbernehmen(const Recordset &zeile) {
     ohneFehlendeSpalte([&] { gNormalGainR = zeile[7].number(); });
     ohneFehlendeSpalte([&] { gNormalGainL = zeile[8].number(); });
     ohneFehlendeSpalte([&] { gNormalGrenzwert = zeile[12].number(); });
-    ohneFehlendeSpalte(
-        [&] { gNormalAnzahl = static_cast<std::int16_t>(zeile[13].whole()); });
+    ohneFehlendeSpalte([&] { gNormalAnzahl = static_cast<std::int16_t>(zeile[13].whole()); });
 }
 
 void letztesNormalLesen() {

@@ -13,8 +13,7 @@ using namespace platform;
 
 Seriennummer::Seriennummer(std::function<void(const QString &)> info,
                            std::function<void()> gefunden)
-    : mInfo(std::move(info))
-    , mGefunden(std::move(gefunden)) {
+    : mInfo(std::move(info)), mGefunden(std::move(gefunden)) {
     mTimer2.onTick = [this] { guarded([this] { Timer2_Timer(); }); };
 }
 

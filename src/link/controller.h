@@ -21,8 +21,8 @@ extern bool gTimeoutDrehzahl;
 extern std::int16_t gKeineMeldung; ///< 1 or more keeps fnc_BefehlSenden silent
 
 /// The places of the fixed waits between operations on the line, in counted rounds.
-inline constexpr long kurzeVerzögerung = 20'000;     // 1 ms
-inline constexpr long langeVerzögerung = 1'000'000;  // 50 ms
+inline constexpr long kurzeVerzögerung = 20'000;    // 1 ms
+inline constexpr long langeVerzögerung = 1'000'000; // 50 ms
 
 /// Connects the timers; called once before the first use, and again after the clock was replaced.
 void controllerVorbereiten();

@@ -37,7 +37,6 @@ constexpr Beschriftung english[] = {
     {"pbexit", "&Cancel"},
 };
 
-
 // Columns of a unit by position
 enum { GerätID = 0, Gerätetyp = 2, Hersteller = 3, SerienNr = 4, IdentNr = 5 };
 

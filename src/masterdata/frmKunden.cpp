@@ -38,7 +38,6 @@ constexpr Beschriftung english[] = {
     {"pbAbbrechen", "&Cancel"},
 };
 
-
 Recordset kundeSuchen(const QString &name, const QString &ort) {
     if (ort.isEmpty())
         return gDatenbank.open("select * from Kunden where Name = ?", {name});
@@ -185,7 +184,8 @@ void frmKunden::pbSearch_Click() try {
                 Exclamation, {"Suchen", "Search"});
         return;
     }
-    const Recordset rows = gDatenbank.open("select * from Kunden where Muster(?, Name)", {text});
+    const Recordset rows =
+        gDatenbank.open("select * from Kunden where Muster(?, trim(Name))", {text});
     if (rows.empty()) {
         nichtsGefunden();
         return;

@@ -101,9 +101,10 @@ void frmRezepte::Form_Activate() try {
         mSuche.leeren();
         mSuche.übernehmen(mSuche.namen().first());
         ui.pbok->setFocus();
+    } else { // otherwise the change of the text does it
+        aktualisieren();
+        cmbRezeptname_Click();
     }
-    aktualisieren();
-    cmbRezeptname_Click();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1013 - ", "ERROR 1013 - ", fehler);
 }

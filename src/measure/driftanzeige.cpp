@@ -2,8 +2,7 @@
 
 #include <QPainter>
 
-DriftAnzeige::DriftAnzeige(QWidget *parent)
-    : QWidget(parent) {}
+DriftAnzeige::DriftAnzeige(QWidget *parent) : QWidget(parent) {}
 
 void DriftAnzeige::setBalken(const DriftBalken &balken) {
     mBalken = balken;
@@ -16,8 +15,9 @@ void DriftAnzeige::paintEvent(QPaintEvent *) {
     const QFontMetrics metrics = painter.fontMetrics();
     const int margin = metrics.horizontalAdvance("-300 ");
     const double perUnit = (width() - 2.0 * margin) / (2.0 * scaleEnd * balkenJeMNm);
-    const auto x = [&](double units) { return margin + (units - balkenMitte) * perUnit +
-                                              scaleEnd * balkenJeMNm * perUnit; };
+    const auto x = [&](double units) {
+        return margin + (units - balkenMitte) * perUnit + scaleEnd * balkenJeMNm * perUnit;
+    };
     const QRectF lane(x(balkenMitte - scaleEnd * balkenJeMNm), 4,
                       2.0 * scaleEnd * balkenJeMNm * perUnit, height() - metrics.height() - 16.0);
     painter.fillRect(lane, palette().base());
@@ -32,7 +32,8 @@ void DriftAnzeige::paintEvent(QPaintEvent *) {
     for (int mark = -scaleEnd; mark <= scaleEnd; mark += 150) {
         const double at = x(balkenMitte + mark * balkenJeMNm);
         painter.drawLine(QPointF(at, lane.top()), QPointF(at, lane.bottom() + 4));
-        const QString text = mark == scaleEnd ? QString("%1 mN m").arg(mark) : QString::number(mark);
+        const QString text =
+            mark == scaleEnd ? QString("%1 mN m").arg(mark) : QString::number(mark);
         const QRectF box(at - margin, lane.bottom() + 6, 2.0 * margin, metrics.height());
         painter.drawText(box, Qt::AlignHCenter | Qt::TextDontClip, text);
     }

@@ -40,7 +40,8 @@ SechsRundenEmpfang::SechsRundenEmpfang() {
         warn(Timer1_6R, {"Keine Daten bei ca. 3 x 6 Runden!", "No data at ca. 3 x 6 rounds!"});
     };
     Timer2_6R.onTick = [this] {
-        warn(Timer2_6R, {"Dauer der Übertragung nach C0 zu lang!", "Transmission to C0 takes too long!"});
+        warn(Timer2_6R,
+             {"Dauer der Übertragung nach C0 zu lang!", "Transmission to C0 takes too long!"});
     };
 }
 

@@ -8,9 +8,9 @@
 class Messanzeige {
   public:
     virtual ~Messanzeige() = default;
-    virtual void zeigeDrehzahl(double drehzahl) = 0;       // 1/min
-    virtual void zeigeDrehmoment(double drehmoment) = 0;   // N m
-    virtual void zeigeLeistung(double leistung) = 0;       // W
+    virtual void zeigeDrehzahl(double drehzahl) = 0;     // 1/min
+    virtual void zeigeDrehmoment(double drehmoment) = 0; // N m
+    virtual void zeigeLeistung(double leistung) = 0;     // W
     /// A frame is complete.
     virtual void rahmenFertig() = 0;
     /// A newer pass wants the line: leave without touching anything.

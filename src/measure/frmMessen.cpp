@@ -3,10 +3,10 @@
 #include <QHeaderView>
 #include <QScopeGuard>
 
+#include "auswahl.h"
 #include "controller.h"
 #include "fehler.h"
 #include "front.h"
-#include "auswahl.h"
 #include "messwerte.h"
 #include "msgbox.h"
 #include "runtime.h"
@@ -78,9 +78,8 @@ void frmMessen::Form_Load() try {
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
     const bool deutsch = gSprache != 2;
-    ui.cmbMessArt->addItems(deutsch
-                                ? QStringList{"Leistungsmessung", "Drehzahlmessung"}
-                                : QStringList{"Power Measurement", "Speed Measurement"});
+    ui.cmbMessArt->addItems(deutsch ? QStringList{"Leistungsmessung", "Drehzahlmessung"}
+                                    : QStringList{"Power Measurement", "Speed Measurement"});
     ui.cmbMessArt->setEditText({});
     constexpr auto rechts = Qt::AlignRight | Qt::AlignVCenter;
     constexpr auto mitte = Qt::AlignCenter;
@@ -199,8 +198,7 @@ void frmMessen::fnc_Bewerten() try {
                        ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()};
     if (istLeistungsmessung()) {
         const Unsicherheiten mu = unsicherheitLeistung();
-        const auto zeigen =
-            qScopeGuard([&] { ui.txtIST_n_ergom->setText(texte.ist_n_ergom); });
+        const auto zeigen = qScopeGuard([&] { ui.txtIST_n_ergom->setText(texte.ist_n_ergom); });
         leistungBewerten(mUrteil, texte, mSpezifikation, mu);
     } else {
         drehzahlBewerten(mUrteil, texte, mSpezifikation, unsicherheitDrehzahl());
@@ -220,10 +218,12 @@ void frmMessen::pbSpeichern_Click() {
 void frmMessen::fnc_MesswertSpeichern() try {
     fnc_Bewerten();
     const QString schritt = ui.laPrSchritt->text();
-    messwertSpeichern({gProtokollID, schritt,
+    messwertSpeichern({gProtokollID,
+                       schritt,
                        {ui.txtSoll_n->text(), ui.txtSoll_P->text(), ui.txtIST_n_torvena->text(),
                         ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()},
-                       ui.txtIST_D_torvena->text(), mUrteil});
+                       ui.txtIST_D_torvena->text(),
+                       mUrteil});
     dataMesswerte = protokollMesswerte(gProtokollID);
     mRaster.setRecordset(dataMesswerte);
     if (schritt == freierSchritt ? dataMesswerte.findLast("Prüfschritt", schritt)

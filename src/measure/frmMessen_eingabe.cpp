@@ -54,11 +54,11 @@ void frmMessen::eingabenVerdrahten() {
                         "The permissible number of revolutions has been exeeded!"});
     });
     onLostFocus(ui.txtSoll_P, [this] {
-        sollwertPrüfen(ui.txtSoll_P, mAltSoll_P, höchsteLeistung,
-                       {"Leistung muss ein nummerischer Wert sein!",
-                        "Power must be a numeric value!"},
-                       {"Leistung liegt außerhalb des gültigen Bereiches",
-                        "Permissible power has been exeeded!"});
+        sollwertPrüfen(
+            ui.txtSoll_P, mAltSoll_P, höchsteLeistung,
+            {"Leistung muss ein nummerischer Wert sein!", "Power must be a numeric value!"},
+            {"Leistung liegt außerhalb des gültigen Bereiches",
+             "Permissible power has been exeeded!"});
     });
     onKey(ui.txtSoll_n, [this](QKeyEvent &taste) {
         if (taste.text() == "+")
@@ -82,8 +82,8 @@ void frmMessen::eingabenVerdrahten() {
             ui.pbSpeichern->setFocus();
     });
     onLostFocus(ui.txtIST_n_ergom, [this] { txtIST_n_ergom_LostFocus(); });
-    for (QLineEdit *box : {ui.txtIST_n_torvena, ui.txtIST_D_torvena, ui.txtIST_P_torvena,
-                           ui.txtIST_n_ergom})
+    for (QLineEdit *box :
+         {ui.txtIST_n_torvena, ui.txtIST_D_torvena, ui.txtIST_P_torvena, ui.txtIST_n_ergom})
         on(box, &QLineEdit::textChanged, [this, box] { speichernFreigeben(box); });
 }
 
@@ -215,8 +215,8 @@ bool frmMessen::cmbMessArt_KeyPress(QKeyEvent &taste) {
     const bool enter = taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
     const bool löschen = taste.key() == Qt::Key_Backspace || taste.key() == Qt::Key_Delete;
     const bool zeichen = !taste.text().isEmpty() && taste.text().at(0).isPrint();
-    const bool befehl = taste.modifiers() & (Qt::AltModifier | Qt::ControlModifier |
-                                             Qt::MetaModifier);
+    const bool befehl =
+        taste.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier);
     if (enter || befehl || (!zeichen && !löschen))
         return false;
     mTaste = zeichen ? taste.text().toUpper() : QString();
@@ -325,8 +325,8 @@ void frmMessen::speichernFreigeben(const QLineEdit *geändert) {
         return;
     const bool bedient = messablauf().bedient();
     const bool ergometer = geändert == ui.txtIST_n_ergom;
-    bool voll = !ui.txtIST_n_torvena->text().isEmpty() &&
-                !ui.txtIST_D_torvena->text().isEmpty() && !ui.txtIST_P_torvena->text().isEmpty();
+    bool voll = !ui.txtIST_n_torvena->text().isEmpty() && !ui.txtIST_D_torvena->text().isEmpty() &&
+                !ui.txtIST_P_torvena->text().isEmpty();
     if (!leistung)
         voll = voll && !ui.txtIST_n_ergom->text().isEmpty();
     if (!voll) {

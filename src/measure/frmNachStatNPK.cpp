@@ -28,13 +28,13 @@ void frmNachStatNPK::Form_Load() {
     englischBeschriften(*this, english);
     ui.laText->setText(inSprache(ankoppeln));
     if (gFormStatus == formstatus::KorrekturFertig) {
-        anzeigen({"Vorbereitung der Hebelarmkalibrierung",
-                  "Preparations For The Lever Arm Calibration"},
-                 {"Montieren Sie den Hebelarm für Linkskalibrierung, wie in der "
-                  "Bedienungsanleitung beschrieben.\r"
-                  "Bitte achten Sie auf eine waagerechte Ausrichtung des Hebelarms!",
-                  "Mount the lever arm for left-handed calibration as described in the Operating "
-                  "Instructions.\rMake sure the lever arm is in horizontal position!"});
+        anzeigen(
+            {"Vorbereitung der Hebelarmkalibrierung", "Preparations For The Lever Arm Calibration"},
+            {"Montieren Sie den Hebelarm für Linkskalibrierung, wie in der "
+             "Bedienungsanleitung beschrieben.\r"
+             "Bitte achten Sie auf eine waagerechte Ausrichtung des Hebelarms!",
+             "Mount the lever arm for left-handed calibration as described in the Operating "
+             "Instructions.\rMake sure the lever arm is in horizontal position!"});
     }
 }
 
@@ -46,7 +46,7 @@ void frmNachStatNPK::anzeigen(const Text &titel, const Text &text) {
 void frmNachStatNPK::pbok_Click() {
     if (gFormStatus == formstatus::KorrekturFertig)
         gFormStatus = gMessStatus != messstatus::Verweigert ? formstatus::SchwereEingegeben
-                                                                : formstatus::Abgebrochen;
+                                                            : formstatus::Abgebrochen;
     unload();
 }
 

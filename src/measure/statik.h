@@ -12,8 +12,7 @@ inline constexpr std::uint8_t codeGain = 253;
 /// end mark arrives, which is the head of the next one.
 class StatikDecoder {
   public:
-    explicit StatikDecoder(std::uint8_t code)
-        : mCode(code) {}
+    explicit StatikDecoder(std::uint8_t code) : mCode(code) {}
 
     /// True when the byte completed a sample.
     bool feed(std::uint8_t byte);

@@ -67,8 +67,7 @@ void countedDelay(long rounds) {
     Clock::current().sleep(std::chrono::microseconds(rounds / 20));
 }
 
-Timer::Timer(int interval)
-    : mInterval(interval) {}
+Timer::Timer(int interval) : mInterval(interval) {}
 
 Timer::~Timer() {
     setEnabled(false);

@@ -59,8 +59,8 @@ class Timer {
     void setEnabled(bool enabled);
 
     std::function<void()> onTick;
-    /// For clocks: runs onTick unless an earlier tick of this timer is still running. What it throws
-    /// is reported as from a screen's handler.
+    /// For clocks: runs onTick unless an earlier tick of this timer is still running. What it
+    /// throws is reported as from a screen's handler.
     void tick();
 
   private:

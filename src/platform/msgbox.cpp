@@ -50,7 +50,7 @@ QMessageBox::Icon iconOf(int flags) {
 }
 
 QString captionOf(BoxAnswer answer) {
-    static const char *const names[] = {"",      "&OK",     "&Cancel", "&Abort",
+    static const char *const names[] = {"",       "&OK",     "&Cancel", "&Abort",
                                         "&Retry", "&Ignore", "&Yes",    "&No"};
     return boxCaptions ? boxCaptions(answer) : QString(names[answer]);
 }

@@ -13,7 +13,9 @@ QLocale &sessionLocale() {
     return locale;
 }
 
-bool isBlank(QChar c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+bool isBlank(QChar c) {
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r';
+}
 
 /// Digits of |value| as plain decimal text with a point, at most 15 significant, no exponent.
 QString decimalDigits(double value) {

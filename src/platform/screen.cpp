@@ -17,8 +17,7 @@ namespace {
 std::function<void(const std::exception &)> uncaughtReporter;
 }
 
-Running::Running(Screen *screen)
-    : mScreen(screen) {
+Running::Running(Screen *screen) : mScreen(screen) {
     ++mScreen->mRunning;
 }
 
@@ -35,8 +34,7 @@ HoldActivations::~HoldActivations() {
     Desk::instance().release();
 }
 
-Screen::Screen()
-    : QWidget(nullptr, Qt::Window) {
+Screen::Screen() : QWidget(nullptr, Qt::Window) {
     setAttribute(Qt::WA_QuitOnClose, false);
 }
 
@@ -62,8 +60,8 @@ void Screen::place() {
         adjustSize();
     Screen *origin = frontScreen();
     const QScreen *on = origin ? origin->screen() : screen();
-    const QRect display = on->availableGeometry().adjusted(
-        frame / 4, frame, -frame / 4, -frame / 4);
+    const QRect display =
+        on->availableGeometry().adjusted(frame / 4, frame, -frame / 4, -frame / 4);
     QRect place = rect();
     place.moveCenter(display.center());
     if (origin && origin != this && origin->isVisible()) {

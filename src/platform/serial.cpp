@@ -14,27 +14,26 @@ namespace {
 SerialDeviceMaker deviceMaker;
 
 Fehler badSettings(const QString &text) {
-    return {fehlernummer::PortSettings,
-            {"Die Schnittstellenparameter \"" + text + "\" sind auf diesem Anschluss nicht möglich.",
-             "The interface settings \"" + text + "\" are not possible on this port."}};
+    return {
+        fehlernummer::PortSettings,
+        {"Die Schnittstellenparameter \"" + text + "\" sind auf diesem Anschluss nicht möglich.",
+         "The interface settings \"" + text + "\" are not possible on this port."}};
 }
 
 class SystemPort : public SerialDevice {
   public:
-    explicit SystemPort(const QString &location)
-        : mLocation(location) {
+    explicit SystemPort(const QString &location) : mLocation(location) {
         mPort.setPortName(location);
-        QObject::connect(&mPort, &QSerialPort::errorOccurred,
-                         [this](QSerialPort::SerialPortError error) {
-                             if (mLost || (error != QSerialPort::ResourceError &&
-                                           error != QSerialPort::ReadError &&
-                                           error != QSerialPort::WriteError))
-                                 return;
-                             mLost = true;
-                             // A dead descriptor is readable for ever: close it once Qt is done.
-                             QMetaObject::invokeMethod(
-                                 &mPort, [this] { mPort.close(); }, Qt::QueuedConnection);
-                         });
+        QObject::connect(
+            &mPort, &QSerialPort::errorOccurred, [this](QSerialPort::SerialPortError error) {
+                if (mLost || (error != QSerialPort::ResourceError &&
+                              error != QSerialPort::ReadError && error != QSerialPort::WriteError))
+                    return;
+                mLost = true;
+                // A dead descriptor is readable for ever: close it once Qt is done.
+                QMetaObject::invokeMethod(
+                    &mPort, [this] { mPort.close(); }, Qt::QueuedConnection);
+            });
     }
 
     void open(const SerialSettings &settings) override {

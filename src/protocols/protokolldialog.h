@@ -13,7 +13,8 @@ class Protokolldialog : public Screen {
     /// `vorsatz` stands before the protocol in the caption of the measurement screen.
     explicit Protokolldialog(Text vorsatz) : mVorsatz(std::move(vorsatz)) {}
 
-    static constexpr std::int16_t angenommen = messstatus::Messen; ///< there is a head under gProtokollID
+    static constexpr std::int16_t angenommen =
+        messstatus::Messen; ///< there is a head under gProtokollID
     static constexpr std::int16_t abgebrochen = messstatus::Ende;
 
     static void messfensterVerbergen();

@@ -108,7 +108,7 @@ TEST_P(Customers, AreSearchedForByWholeNames) {
                        {"Suchen", "Search"});
             press(frm::Kunden, "pbSearch");
         }
-        for (const char *nobody : {"Klinik", "?linik*", "*x*y*z*"}) {
+        for (const char *nobody : {"Klinik", "?linik", "*x*y*z*"}) {
             type(frm::Kunden, "cmbKundenname", nobody);
             expectNothingFound();
             press(frm::Kunden, "pbSearch");
@@ -323,7 +323,7 @@ TEST_P(Names, OfAnyKindAreFoundAgainAndChosen) {
     };
     int key = 500;
     for (const QString &name : names) {
-        ++key;
+        key += 10;
         change("INSERT INTO Kunden (KundenID, Name, Ort) VALUES (?, ?, ?)", {key, name, name});
         change("INSERT INTO Ergometer (GerätID, KundenID, Gerätetyp, IdentNr) VALUES (?, ?, ?, ?)",
                {key, key, name, name});
@@ -340,7 +340,7 @@ TEST_P(Names, OfAnyKindAreFoundAgainAndChosen) {
         key = 500;
         for (const QString &name : names) {
             SCOPED_TRACE(name.left(40).toStdString());
-            ++key;
+            key += 10;
             co_await open("pbKunde", frm::Kunden);
             pick(frm::Kunden, "cmbOrt", name);
             EXPECT_EQ(listed(frm::Kunden, "lstKunden"), QStringList{name});

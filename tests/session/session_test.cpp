@@ -153,8 +153,8 @@ TEST_F(Session, AnotherCustomerTakesTheUnitAway) {
     std::vector<std::string> shown;
     setAuswahlListener(
         [&shown] {
-            shown.push_back((auswahl().kunde + '/' + auswahl().gerät + '/' +
-                             auswahl().gerätID + '/' + auswahl().rezept)
+            shown.push_back((auswahl().kunde + '/' + auswahl().gerät + '/' + auswahl().gerätID +
+                             '/' + auswahl().rezept)
                                 .toStdString());
         },
         {});

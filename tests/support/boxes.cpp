@@ -15,8 +15,8 @@ Boxes::~Boxes() {
 }
 
 bool Boxes::Expected::matches(const platform::Box &box) const {
-    const bool sameText = text.endsWith(QString("…")) ? box.text.startsWith(text.chopped(1))
-                                                      : box.text == text;
+    const bool sameText =
+        text.endsWith(QString("…")) ? box.text.startsWith(text.chopped(1)) : box.text == text;
     return sameText;
 }
 

@@ -46,8 +46,8 @@ void Until::await_resume() const {
 Until pass(double milliseconds) {
     const double end = theClock->elapsed() + milliseconds;
     theClock->after(milliseconds, [] {});
-    return until("time to pass", [end] { return theClock->elapsed() >= end; },
-                 milliseconds + 60'000);
+    return until(
+        "time to pass", [end] { return theClock->elapsed() >= end; }, milliseconds + 60'000);
 }
 
 void run(TestClock &clock, Journey journey) {

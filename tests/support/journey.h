@@ -1,6 +1,6 @@
 // A person's way through the program, written down in order. The program waits deep inside its own
-// loops, so a journey is a coroutine: co_await until(...) lets the program run, and the journey goes
-// on, inside whatever pumps then, as soon as the condition holds.
+// loops, so a journey is a coroutine: co_await until(...) lets the program run, and the journey
+// goes on, inside whatever pumps then, as soon as the condition holds.
 #pragma once
 
 #include <coroutine>
@@ -39,10 +39,8 @@ class Journey {
         void unhandled_exception() { problem = std::current_exception(); }
     };
 
-    explicit Journey(Handle handle)
-        : mHandle(handle) {}
-    Journey(Journey &&other) noexcept
-        : mHandle(std::exchange(other.mHandle, {})) {}
+    explicit Journey(Handle handle) : mHandle(handle) {}
+    Journey(Journey &&other) noexcept : mHandle(std::exchange(other.mHandle, {})) {}
     Journey(const Journey &) = delete;
     Journey &operator=(const Journey &) = delete;
     ~Journey() {

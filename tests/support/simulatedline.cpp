@@ -8,8 +8,7 @@ using namespace platform;
 
 class SimulatedLine::Device : public SerialDevice {
   public:
-    explicit Device(SimulatedLine &line)
-        : mLine(line) {}
+    explicit Device(SimulatedLine &line) : mLine(line) {}
 
     void open(const SerialSettings &) override {
         if (!mLine.mPlugged)
@@ -43,8 +42,7 @@ class SimulatedLine::Device : public SerialDevice {
     int mGeneration = 0;
 };
 
-SimulatedLine::SimulatedLine(TestClock &clock)
-    : mClock(clock) {
+SimulatedLine::SimulatedLine(TestClock &clock) : mClock(clock) {
     setSerialDeviceMaker([this](const QString &location) -> std::unique_ptr<SerialDevice> {
         if (!location.endsWith("ttyS0") && !location.endsWith("COM1"))
             throw Fehler(fehlernummer::NoSuchPort, {"fehlt", "missing"});

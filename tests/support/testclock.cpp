@@ -44,8 +44,7 @@ void TestClock::run(double milliseconds) {
 void TestClock::pump() {
     // The toolkit may always have a little more to do; time must not stand still for it.
     constexpr int patience = 300;
-    const bool worked =
-        QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
+    const bool worked = QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
     if (worked && ++mBusyRounds < patience)
         return;
     mBusyRounds = 0;

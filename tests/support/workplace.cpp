@@ -5,6 +5,7 @@
 #include "auswahl.h"
 #include "controller.h"
 #include "einlauf.h"
+#include "interface.h"
 #include "runtime.h"
 #include "scripts.h"
 #include "session.h"
@@ -36,7 +37,7 @@ Workshop::~Workshop() {
 
 void Workshop::forgetSession() {
     gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
-    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = false;
+    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
     gEinlaufzeit = gEinlaufLeistung = 0;
     gPrüfer.clear();
     gProduktTitel.clear();
