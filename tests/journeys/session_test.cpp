@@ -58,7 +58,16 @@ TEST_F(MeasuringSession, Navigation) {
         EXPECT_EQ(line.stand().wire().back(), '-');
         EXPECT_NEAR(line.stand().speed(), 80, 0.1);
 
-        // A step behind the end: stored, and again, with no message and nothing started.
+        // The last step again: overwritten without a message, and nothing is started.
+        press(frm::Messen, "pbMessen");
+        co_await settled("2", 80);
+        type(frm::Messen, "txtIST_n_ergom", "80,4");
+        save();
+        co_await pass(3'000);
+        EXPECT_EQ(rows("Ist_n_ergom"), QStringList{"80,4"});
+        EXPECT_EQ(shown("laPrSchritt"), "2");
+
+        // Another step behind the end: stored, and again.
         press(frm::Messen, "pbFirst");
         press(frm::Messen, "pbAusführen");
         co_await settled("1", 60);

@@ -50,10 +50,14 @@ Until pass(double milliseconds) {
         "time to pass", [end] { return theClock->elapsed() >= end; }, milliseconds + 60'000);
 }
 
-void run(TestClock &clock, Journey journey) {
+void run(TestClock &clock, Journey journey, const std::function<void()> &leave) {
     theClock = &clock;
-    clock.idle = goOnIfTrue;
     const auto handle = journey.handle();
+    clock.idle = [handle, &leave] {
+        if (handle.done() && leave)
+            leave();
+        return goOnIfTrue();
+    };
     handle.resume();
     while (!handle.done())
         clock.pump();

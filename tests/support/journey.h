@@ -82,7 +82,8 @@ inline Until until(std::string what, std::function<bool()> condition,
 /// Lets so much time pass.
 Until pass(double milliseconds);
 
-/// Runs the journey to its end on the clock; what it raises fails the test.
-void run(TestClock &clock, Journey journey);
+/// Runs the journey to its end on the clock; what it raises fails the test. `leave` is called when
+/// it has ended and the program still waits somewhere, and makes it leave.
+void run(TestClock &clock, Journey journey, const std::function<void()> &leave = {});
 
 } // namespace support

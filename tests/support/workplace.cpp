@@ -79,6 +79,10 @@ void Workshop::expectBox(const Text &text, int flags, const Text &title, int ans
     boxes.expect(inSprache(text), inSprache(title), flags, answer);
 }
 
+void Workshop::run(Journey journey) {
+    support::run(clock, std::move(journey), [] { gDesktopAktiv = false; });
+}
+
 Workplace::Workplace() = default;
 Workplace::~Workplace() = default;
 

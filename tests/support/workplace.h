@@ -33,7 +33,7 @@ class Workshop : public testing::Test {
     static bool english();
     /// The box to the letter, in the language of the session.
     void expectBox(const Text &text, int flags, const Text &title, int answer = platform::OK);
-    void run(Journey journey) { support::run(clock, std::move(journey)); }
+    void run(Journey journey);
 
     QTemporaryDir directory;
     QString previousDirectory;
