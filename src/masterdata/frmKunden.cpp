@@ -87,8 +87,8 @@ void frmKunden::beschriften() {
 
 void frmKunden::Form_Load() try {
     beschriften();
+    mGeladen = true; // also when the reading fails: it would fail again
     listenLesen();
-    mGeladen = true;
     ui.cmbKundenname->setFocus();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1070 - ", "ERROR 1070 - ", fehler);

@@ -236,6 +236,7 @@ void frmStatMessen::fnc_StatSchreiben() try {
 }
 
 void frmStatMessen::pbWeiter_Click() try {
+    fnc_PortÖffnen(); // the line may have been away
     MSComm1.Output("-");
     countedDelay(weiterVerzögerung);
     MSComm1.Output("-");
