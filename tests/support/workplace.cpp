@@ -169,6 +169,7 @@ Journey Workplace::correctZeroPoint() {
     co_await startMeasuring();
     press(frm::VorStatNPK, "pbok");
     co_await until("the correction", [] { return canPress(frm::StatMessen, "pbWeiter"); });
+    EXPECT_EQ(loaded(frm::StatMessen)->focusWidget(), control(frm::StatMessen, "pbWeiter"));
     press(frm::StatMessen, "pbWeiter");
     co_await arrive(frm::NachStatNPK);
     press(frm::NachStatNPK, "pbok");
