@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
@@ -44,6 +45,8 @@ void Screen::show() {
     if (mUnloaded)
         return;
     if (!isVisible()) {
+        for (QComboBox *box : findChildren<QComboBox *>())
+            filterOf(box); // for the mouse wheel
         place();
         QWidget::show();
     }
@@ -180,10 +183,12 @@ void Screen::onClick(QAbstractButton *button, Handler handler) {
     on(button, &QAbstractButton::clicked, [this, button, handler = std::move(handler)] {
         if (!usable() || !button->isEnabled())
             return;
-        if (focusWidget() != button && button->focusPolicy() != Qt::NoFocus) {
+        const QWidget *left = focusWidget();
+        if (left != button && button->focusPolicy() != Qt::NoFocus) {
             button->setFocus(Qt::ShortcutFocusReason);
-            if (focusWidget() != button || !button->isEnabled() || mUnloaded)
+            if (focusWidget() == left || !button->isEnabled() || mUnloaded)
                 return;
+            button->setFocus(Qt::ShortcutFocusReason); // a handler may have suggested another one
         }
         handler();
     });
@@ -235,6 +240,9 @@ bool Screen::eventFilter(QObject *watched, QEvent *event) {
             run(handler);
         return false;
     }
+    case QEvent::Wheel: // would pick another entry unseen, and some picks are stored at once
+        event->ignore();
+        return qobject_cast<QComboBox *>(watched) != nullptr;
     default:
         return false;
     }

@@ -64,7 +64,7 @@ class Screen : public QWidget {
         });
     }
     /// Only while button and screen are in use: an access key presses late. The button takes the
-    /// keyboard first, so that the field left is checked; if the field keeps it nothing happens.
+    /// keyboard first, so that the field left is checked; if the field takes it back nothing happens.
     void onClick(QAbstractButton *button, Handler handler);
     void onEnter(QWidget *control, Handler handler);
     void onGotFocus(QWidget *control, Handler handler);

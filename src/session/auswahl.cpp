@@ -41,6 +41,21 @@ void gerätWählen(const QString &typ, const QString &ident) {
     chosen();
 }
 
+void kundeUmbenennen(const QString &name) {
+    gewählt.kunde = name;
+    chosen();
+}
+
+void kundeAbwählen() {
+    gerätAbwählen(); // while there is a customer: without one nothing is said about measuring
+    kundeWählen({}, 0);
+}
+
+void gerätAbwählen() {
+    gGerätID = 0;
+    gerätWählen({}, {});
+}
+
 void rezeptWählen(const QString &name) {
     gewählt.rezept = name;
     chosen();

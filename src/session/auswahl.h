@@ -20,7 +20,13 @@ const Auswahl &auswahl();
 
 /// Another customer than the chosen one takes the chosen unit away. Sets gKundenID.
 void kundeWählen(const QString &name, std::int16_t kundenID);
+/// The chosen customer is called otherwise now; the unit stays.
+void kundeUmbenennen(const QString &name);
+/// The chosen customer is gone, and the unit with it. Sets gKundenID and gGerätID to 0.
+void kundeAbwählen();
 void gerätWählen(const QString &typ, const QString &ident);
+/// The chosen unit is gone. Sets gGerätID to 0.
+void gerätAbwählen();
 void rezeptWählen(const QString &name);
 void normalZeigen(const QString &text);
 void datumZeigen(const QString &text);

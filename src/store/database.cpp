@@ -144,6 +144,17 @@ void Datenbank::registerFunctions() {
     add("Muster", 2, [](sqlite3_context *context, int, sqlite3_value **values) {
         sqlite3_result_int(context, passtZumMuster(textOf(values[0]), textOf(values[1])));
     });
+    add("Gleich", 2, [](sqlite3_context *context, int, sqlite3_value **values) {
+        const bool same = textOf(values[0]).compare(textOf(values[1]), Qt::CaseInsensitive) == 0;
+        sqlite3_result_int(context, same);
+    });
+    add("CStr", 1, [](sqlite3_context *context, int, sqlite3_value **values) {
+        if (sqlite3_value_type(values[0]) == SQLITE_NULL)
+            return; // stays Null
+        const QByteArray text = CStr(sqlite3_value_double(values[0])).toUtf8();
+        sqlite3_result_text(context, text.constData(), static_cast<int>(text.size()),
+                            SQLITE_TRANSIENT);
+    });
 }
 
 SQLite::Database &Datenbank::database() {

@@ -1,5 +1,9 @@
 // The one database. Values are bound, never written into the statement, so an apostrophe is a
 // letter like any other. Each statement is whole on disk before the next one runs.
+//
+// Functions of its own in statements: Val(text), CStr(number) in the number format of the session,
+// Muster(pattern, text) for `*` and `?`, and Gleich(a, b), which tells names apart as a person
+// does: all letters without regard to case, where `=` folds A to Z only.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,7 @@
 #include "recordsetmodel.h"
 
+#include "runtime.h"
+
 void RecordsetModel::setSpalten(std::vector<Spalte> spalten) {
     beginResetModel();
     mSpalten = std::move(spalten);
@@ -30,7 +32,10 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const {
     if (role != Qt::DisplayRole)
         return {};
     const int column = mRows.columnIndex(spalte.name);
-    return column < 0 ? QVariant() : mRows.at(index.row(), column);
+    if (column < 0)
+        return {};
+    const QVariant &value = mRows.at(index.row(), column);
+    return value.typeId() == QMetaType::Double ? QVariant(CStr(value.toDouble())) : value;
 }
 
 QVariant RecordsetModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -217,6 +217,19 @@ TEST_F(Activation, OnlyLeavingAFieldForAnotherOneIsLeavingIt) {
     }
 }
 
+TEST_F(Activation, AButtonWorksUnlessTheFieldLeftTakesTheKeyboardBack) {
+    bool refused = true;
+    plans[A].lost = [&refused](Probe &left) { (refused ? left.box : left.other)->setFocus(); };
+    lay({A});
+    for (const bool takenBack : {true, false}) {
+        refused = takenBack;
+        probe(A).box->setFocus();
+        told();
+        probe(A).button->click();
+        EXPECT_EQ(told(), takenBack ? "A.lost A.lost-end" : "A.lost A.lost-end A.click");
+    }
+}
+
 TEST_F(Activation, WhatNobodyCaughtIsReportedAndTheProgramGoesOn) {
     std::vector<std::string> reports;
     setUncaughtReporter([&](const std::exception &problem) { reports.push_back(problem.what()); });

@@ -24,6 +24,7 @@ class Probe;
 struct Plan {
     std::function<void(Probe &)> load, activate, unload, click, tick;
     std::function<bool(Probe &)> queryUnload;
+    std::function<void(Probe &)> lost = {};
 };
 
 inline std::map<int, Plan> plans;
@@ -36,12 +37,14 @@ class Probe : public Screen {
         : mName(1, static_cast<char>('A' + id - A)),
           mPlan(plans[id]),
           button(new QPushButton(this)),
-          box(new QLineEdit(this)) {
+          box(new QLineEdit(this)),
+          other(new QLineEdit(this)) {
         ++living;
         box->move(0, 40);
+        other->move(0, 80);
         onClick(button, [this] { step("click", mPlan.click); });
         onEnter(box, [this] { step("enter", {}); });
-        onLostFocus(box, [this] { step("lost", {}); });
+        onLostFocus(box, [this] { step("lost", mPlan.lost); });
         timer.onTick = handler([this] { step("tick", mPlan.tick); });
     }
     ~Probe() override { --living; }
@@ -64,7 +67,7 @@ class Probe : public Screen {
 
   public:
     QPushButton *button;
-    QLineEdit *box;
+    QLineEdit *box, *other;
     Timer timer{100};
 };
 

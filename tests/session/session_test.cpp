@@ -169,6 +169,19 @@ TEST_F(Session, AnotherCustomerTakesTheUnitAway) {
                                                "Praxis/ergo 900/4711/Kurz",
                                                "Praxis/ergo 900/4711/Kurz", "Klinik///Kurz",
                                                "Klinik/ergo 900/4712/Kurz", "Klinik///Kurz"}));
+    shown.clear();
+    gerätWählen("ergo 900", "4713");
+    kundeUmbenennen("Klinik Süd");
+    gerätAbwählen();
+    gerätWählen("ergo 900", "4714");
+    gGerätID = 8;
+    kundeAbwählen(); // the unit first, so that measuring is locked while there is a customer
+    EXPECT_EQ(shown, (std::vector<std::string>{"Klinik/ergo 900/4713/Kurz",
+                                               "Klinik Süd/ergo 900/4713/Kurz", "Klinik Süd///Kurz",
+                                               "Klinik Süd/ergo 900/4714/Kurz", "Klinik Süd///Kurz",
+                                               "///Kurz"}));
+    EXPECT_EQ(gKundenID, 0);
+    EXPECT_EQ(gGerätID, 0);
 }
 
 TEST_F(Session, OnlyAChoiceAppliesTheRules) {

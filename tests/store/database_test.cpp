@@ -18,6 +18,7 @@
 #include "database.h"
 #include "msgbox.h"
 #include "recordsetmodel.h"
+#include "runtime.h"
 #include "scripts.h"
 #include "session.h"
 #include "sqltext.h"
@@ -419,6 +420,19 @@ TEST_F(Store, FunctionsOfStatements) {
                   found)
             << pattern;
     }
+    for (const auto &[a, b, same] : {std::tuple{"Öztürk", "öZTÜRK", true},
+                                     {"O'Malley", "o'malley", true},
+                                     {"Straße", "Strasse", false},
+                                     {"Ärzte", "Arzte", false},
+                                     {"Praxis*", "Praxis 1", false},
+                                     {" Praxis", "Praxis", false}})
+        EXPECT_EQ(mStore.open("SELECT Gleich(?, ?)", {a, b})[0].whole(), same) << a << '|' << b;
+    platform::setNumberLocale(QLocale(QLocale::German, QLocale::Germany));
+    const Recordset numbers = mStore.open("SELECT CStr(7.5), CStr(20), CStr(-0.5), CStr(NULL)");
+    platform::setNumberLocale(QLocale());
+    const char *shown[] = {"7,5", "20", "-0,5", ""};
+    for (int i = 0; i < 4; ++i)
+        EXPECT_EQ(numbers[i].text(), shown[i]);
 }
 
 TEST(Search, PatternsOfAPerson) {

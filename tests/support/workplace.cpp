@@ -38,6 +38,7 @@ Workshop::~Workshop() {
 void Workshop::forgetSession() {
     gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
     gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
+    gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
     gEinlaufzeit = gEinlaufLeistung = 0;
     gPrüfer.clear();
     gProduktTitel.clear();
