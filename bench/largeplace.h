@@ -36,6 +36,7 @@ class LargePlace : public support::Workplace {
     using Workplace::logIn;
     using Workplace::newProtocol;
     using Workshop::boxes;
+    using Workshop::change;
     using Workshop::column;
     using Workshop::line;
 };

@@ -1,5 +1,6 @@
 // Opening the master data screens and typing into their search boxes, with everything painted.
 #include <algorithm>
+#include <memory>
 
 #include "figures.h"
 #include "largeplace.h"
@@ -25,9 +26,21 @@ void tell(benchmark::State &state, const std::string &name, const std::vector<do
     bench::figure(name + ", max", bench::percentile(took, 100), "ms");
 }
 
+/// While one lives, the demo customer owns all the units there are.
+class Fleet {
+  public:
+    Fleet() { LargePlace::change("UPDATE Ergometer SET KundenID = 1 WHERE GerätID > 1000"); }
+    ~Fleet() {
+        LargePlace::change("UPDATE Ergometer SET KundenID = 1001 + (GerätID - 1000) % 20000 "
+                           "WHERE GerätID > 1000");
+    }
+};
+
 /// From the desktop's button until the screen has its activation and is painted.
-void opening(benchmark::State &state, const char *name, const char *button, frm opened) {
+void opening(benchmark::State &state, const char *name, const char *button, frm opened,
+             bool fleet = false) {
     LargePlace place;
+    const auto owner = fleet ? std::make_unique<Fleet>() : nullptr;
     std::vector<double> took;
     const auto journey = [&]() -> Journey {
         const DemoNames names = demoNames();
@@ -59,12 +72,15 @@ void opening(benchmark::State &state, const char *name, const char *button, frm 
         ->Unit(benchmark::kMillisecond)
 OPENING(frmKunden, "Opening frmKunden, 20 000 customers", "pbKunde", frm::Kunden);
 OPENING(frmGeraet, "Opening frmGerät, 60 000 units", "pbGerät", frm::Gerät);
+OPENING(frmGeraetFleet, "Opening frmGerät, 60 000 units of one customer", "pbGerät", frm::Gerät,
+        true);
 OPENING(frmRezepte, "Opening frmRezepte, 2 000 recipes", "pbRezept", frm::Rezepte);
 
 /// Types each word into the search box, and takes it back, key by key.
 void filtering(benchmark::State &state, const char *name, const char *button, frm opened,
-               const char *box, const QStringList &words) {
+               const char *box, const QStringList &words, bool fleet = false) {
     LargePlace place;
+    const auto owner = fleet ? std::make_unique<Fleet>() : nullptr;
     std::vector<double> took;
     const auto journey = [&]() -> Journey {
         const DemoNames names = demoNames();
@@ -108,6 +124,8 @@ void filtering(benchmark::State &state, const char *name, const char *button, fr
         ->Unit(benchmark::kMillisecond)
 FILTERING(frmKunden, "A key in the search of frmKunden", "pbKunde", frm::Kunden, "cmbKundenname",
           {"Klinikum Ähren", "übung 77", "*a?e*7", "zzz"});
+FILTERING(frmGeraet, "A key in the search of frmGerät, 60 000 units of one customer", "pbGerät",
+          frm::Gerät, "cmbIdent", {"ID-0471", "*1?3*9", "zzz"}, true);
 FILTERING(frmRezepte, "A key in the search of frmRezepte", "pbRezept", frm::Rezepte,
           "cmbRezeptname", {"Rezept 0815", "bis 400", "zzz"});
 

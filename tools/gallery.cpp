@@ -41,6 +41,76 @@ class Gallery : public Workplace {
         screen(name).unload();
     }
 
+    /// Opened from another screen by its button, and left by its own.
+    Journey visited(frm from, const char *button, frm name, const char *pictureName,
+                    const char *leave) {
+        press(from, button);
+        co_await arrive(name);
+        picture(pictureName);
+        press(name, leave);
+        co_await arrive(from);
+    }
+
+    Journey masterData() {
+        const DemoNames names = demoNames();
+        press(frm::Desktop, "pbKunde");
+        co_await arrive(frm::Kunden);
+        co_await visited(frm::Kunden, "pbNeu", frm::NeuKunde, "neukunde", "pbexit");
+        type(frm::Kunden, "cmbKundenname", names.customer);
+        co_await visited(frm::Kunden, "pbchange", frm::ÄndKund, "ändkund", "pbexit");
+        co_await visited(frm::Kunden, "pbDelete", frm::LöschKunde, "löschkunde", "pbCancel");
+        press(frm::Kunden, "pbexit");
+        co_await arrive(frm::Gerät);
+        co_await visited(frm::Gerät, "pbNeu", frm::NeuGerät, "neugerät", "pbexit");
+        type(frm::Gerät, "cmbIdent", names.ident);
+        co_await visited(frm::Gerät, "pbchange", frm::ÄndGerät, "ändgerät", "pbexit");
+        co_await visited(frm::Gerät, "pbDelete", frm::LöschGerät, "löschgerät", "pbNo");
+        press(frm::Gerät, "pbexit");
+        co_await arrive(frm::Desktop);
+
+        support::choose(frm::Desktop, "mnuToleranzen");
+        co_await arrive(frm::Toleranzen);
+        picture("toleranzen");
+        auto *picker = control<QComboBox>(frm::Toleranzen, "cmbBezTol");
+        picker->setFocus();
+        QTest::keyClick(picker, Qt::Key_Down);
+        co_await pass(50);
+        picture("toleranzen-ändern");
+        press(frm::Toleranzen, "pbexit");
+        co_await arrive(frm::Desktop);
+
+        support::choose(frm::Desktop, "mnuRezepte");
+        co_await arrive(frm::Rezepte);
+        type(frm::Rezepte, "cmbRezeptname", names.recipe);
+        picture("rezepte-pflege");
+        press(frm::Rezepte, "pbÄndRez");
+        co_await arrive(frm::ÄndRez);
+        picture("ändrez");
+        press(frm::ÄndRez, "pbexit");
+        co_await arrive(frm::Rezepte);
+        press(frm::Rezepte, "pbNeuRezept");
+        co_await arrive(frm::NeuRezept);
+        picture("neurezept-name");
+        type(frm::NeuRezept, "txtRezName", "Abnahme Station 3");
+        control<QComboBox>(frm::NeuRezept, "cmbToleranz")->setFocus();
+        QTest::keyClick(control<QComboBox>(frm::NeuRezept, "cmbToleranz"), Qt::Key_Down);
+        press(frm::NeuRezept, "pbRezSave");
+        co_await pass(50);
+        press(frm::NeuRezept, "pbKopie");
+        co_await arrive(frm::RezeptKopie);
+        type(frm::RezeptKopie, "cmbRezeptname", names.recipe);
+        co_await pass(50);
+        picture("rezeptkopie");
+        press(frm::RezeptKopie, "pbok");
+        co_await arrive(frm::NeuRezept);
+        picture("neurezept");
+        press(frm::NeuRezept, "pbexit"); // the answer is Yes: discarded
+        co_await arrive(frm::Rezepte);
+        press(frm::Rezepte, "pbexit");
+        co_await arrive(frm::Desktop);
+        gDesktopFolge = 0;
+    }
+
     Journey rounds() {
         start();
         co_await pass(100);
@@ -58,6 +128,7 @@ class Gallery : public Workplace {
         gMessStatus = 6; // that dialog was left without a protocol
         gDesktopFolge = 0;
 
+        co_await masterData();
         const DemoNames names = demoNames();
         press(frm::Desktop, "pbKunde");
         co_await arrive(frm::Kunden);

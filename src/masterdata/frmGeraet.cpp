@@ -82,6 +82,10 @@ QString frmGerät::gerätename() const {
     return mGerätID == 0 ? QString() : ui.txtTyp->text();
 }
 
+QString frmGerät::identnummer() const {
+    return ui.txtIdentNr->text();
+}
+
 void frmGerät::beschriften() {
     if (gSprache == 1)
         ui.retranslateUi(this);
@@ -92,9 +96,9 @@ void frmGerät::beschriften() {
 
 void frmGerät::Form_Load() try {
     beschriften();
+    mGeladen = true; // also when the reading fails: it would fail again
     ui.laKunde->setText(auswahl().kunde);
     listenLesen();
-    mGeladen = true;
     ui.cmbIdent->setFocus();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1091 - ", "ERROR 1091 - ", fehler);
@@ -147,10 +151,30 @@ void frmGerät::fnc_ListeLeeren() {
     typSetzen({});
     mSuche.leeren();
     fnc_ListeAktualisieren();
+    ui.cmbIdent->setFocus();
+}
+
+void frmGerät::fnc_GerätWählen(const QString &identNr) try {
+    mSuche.leeren();
+    listenLesen();
+    if (!mSuche.namen().contains(identNr)) {
+        typSetzen({});
+        listenLesen();
+    }
+    mSuche.leeren(); // the only one of its type went in by itself
+    mSuche.übernehmen(identNr);
+    ui.cmbIdent->setFocus(); // Enter chooses it
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1092 - ", "ERROR 1092 - ", fehler);
 }
 
 void frmGerät::fnc_GerätZeigen() {
-    const Recordset row = ident().isEmpty() ? Recordset() : gerätMitIdent(ident());
+    const QString typ = ui.cmbTyp->currentText();
+    Recordset row;
+    if (!ident().isEmpty())
+        row = gerätMitIdent(ident());
+    else if (const Recordset rows = geräteVomTyp(typ); !typ.isEmpty() && rows.count() == 1)
+        row = rows; // the one that OK would choose
     const bool found = !row.empty();
     const auto text = [&](int column) { return found ? row[column].text() : QString(); };
     mGerätID = found ? row[GerätID].whole() : 0;
@@ -164,9 +188,6 @@ void frmGerät::fnc_GerätZeigen() {
 void frmGerät::aktualisieren() {
     ui.Label->setText(inSprache({"Ergometeranzahl: ", "Number Of Units In The List: "}) +
                       QString::number(mSuche.anzahl()));
-    ui.pbNeu->setEnabled(exists(frm::NeuGerät));
-    ui.pbchange->setEnabled(exists(frm::ÄndGerät));
-    ui.pbDelete->setEnabled(exists(frm::LöschGerät));
 }
 
 void frmGerät::cmbTyp_Click() try {

@@ -13,12 +13,15 @@ class frmGerät : public Screen {
 
     /// The unit whose details are shown; 0 and empty for none.
     int gerätID() const { return mGerätID; }
-    QString gerätename() const;
+    QString gerätename() const; ///< its type
+    QString identnummer() const;
 
     /// Reads the lists anew; what is shown stays if it is still there.
     void fnc_ListeAktualisieren();
     /// Reads the lists anew and shows no unit.
     void fnc_ListeLeeren();
+    /// Reads the lists anew and shows this unit, also when the type is another one.
+    void fnc_GerätWählen(const QString &identNr);
 
   protected:
     void Form_Load() override;

@@ -135,6 +135,25 @@ void frmKunden::fnc_ListeAktualisieren() try { listenLesen(); } catch (const Feh
 void frmKunden::fnc_ListeLeeren() {
     mSuche.leeren();
     fnc_ListeAktualisieren();
+    ui.cmbKundenname->setFocus();
+}
+
+void frmKunden::fnc_KundeWählen(const QString &name) try {
+    mSuche.leeren();
+    listenLesen();
+    if (!mSuche.namen().contains(name)) {
+        alleOrte();
+        listenLesen();
+    }
+    mSuche.übernehmen(name);
+    ui.cmbKundenname->setFocus(); // Enter chooses it
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1077 - ", "ERROR 1077 - ", fehler);
+}
+
+void frmKunden::alleOrte() {
+    const QSignalBlocker quiet(ui.cmbOrt);
+    ui.cmbOrt->setCurrentIndex(0);
 }
 
 void frmKunden::fnc_KundeZeigen() {
@@ -156,9 +175,6 @@ void frmKunden::fnc_KundeZeigen() {
 void frmKunden::aktualisieren() {
     ui.Label->setText(inSprache({"Kundenanzahl: ", "Number Of Customers In The List: "}) +
                       QString::number(mSuche.anzahl()));
-    ui.pbNeu->setEnabled(exists(frm::NeuKunde));
-    ui.pbchange->setEnabled(exists(frm::ÄndKund));
-    ui.pbDelete->setEnabled(exists(frm::LöschKunde));
 }
 
 void frmKunden::cmbKundenname_Change() try {
@@ -191,10 +207,7 @@ void frmKunden::pbSearch_Click() try {
         return;
     }
     if (ui.cmbOrt->currentIndex() != 0) { // the search goes over all towns
-        {
-            const QSignalBlocker quiet(ui.cmbOrt);
-            ui.cmbOrt->setCurrentIndex(0);
-        }
+        alleOrte();
         listenLesen();
     }
     mSuche.zeigen(spalte(rows, 1));

@@ -18,6 +18,8 @@ class frmKunden : public Screen {
     void fnc_ListeAktualisieren();
     /// Reads the lists anew and shows no customer.
     void fnc_ListeLeeren();
+    /// Reads the lists anew and shows this customer, also when the town is another one.
+    void fnc_KundeWählen(const QString &name);
 
   protected:
     void Form_Load() override;
@@ -29,6 +31,7 @@ class frmKunden : public Screen {
     void aktualisieren();
     void fnc_KundeZeigen();
     void listenLesen();
+    void alleOrte();
     bool kundeGezeigt();
 
     void cmbKundenname_Change();

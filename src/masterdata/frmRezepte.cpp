@@ -1,6 +1,5 @@
 #include "frmRezepte.h"
 
-#include <QHeaderView>
 #include <QLineEdit>
 #include <QShortcut>
 
@@ -31,32 +30,19 @@ constexpr Beschriftung english[] = {
     {"pbexit", "&Cancel"},
 };
 
-/// Puts the recipe that the desktop shows back in force. One that is gone is no longer chosen.
-void sitzungsrezeptEinsetzen() try {
-    if (!auswahl().rezept.isEmpty())
-        rezeptEinsetzen(rezeptKopf(auswahl().rezept));
-} catch (const Fehler &fehler) {
-    if (fehler.number() == fehlernummer::NoCurrentRecord)
-        rezeptWählen({});
-    else
-        fehlerBox("Fehler 1015 - ", "ERROR 1015 - ", fehler);
-}
-
 } // namespace
 
-frmRezepte::frmRezepte() : mSchritte(new RecordsetModel) {
+frmRezepte::frmRezepte() {
     ui.setupUi(this);
     mSuche.verbinden(ui.cmbRezeptname, ui.lstRezepte);
-    mSchritte->setParent(ui.DBGridRez);
-    ui.DBGridRez->setModel(mSchritte);
-    ui.DBGridRez->verticalHeader()->hide();
+    mGitter.verbinden(ui.DBGridRez);
     on(ui.cmbRezeptname, &QComboBox::editTextChanged, [this] { cmbRezeptname_Change(); });
     onKey(ui.cmbRezeptname, [this](QKeyEvent &key) { return mSuche.taste(key); });
-    onEnter(ui.cmbRezeptname, [this] { pbok_Click(); });
+    onEnter(ui.cmbRezeptname, [this] { bestätigen(); });
     on(ui.lstRezepte->selectionModel(), &QItemSelectionModel::selectionChanged,
        [this] { mSuche.zeileGewählt(); });
     on(ui.lstRezepte, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
-    on(ui.lstRezepte, &QListView::doubleClicked, [this] { pbok_Click(); });
+    on(ui.lstRezepte, &QListView::doubleClicked, [this] { bestätigen(); });
     onClick(ui.pbNeuRezept, [this] { pbNeuRezept_Click(); });
     onClick(ui.pbÄndRez, [this] { pbÄndRez_Click(); });
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });
@@ -72,16 +58,7 @@ void frmRezepte::beschriften() {
     englischBeschriften(*this, english);
     ui.cmbRezeptname->lineEdit()->setPlaceholderText(
         inSprache({"Name oder Teil davon", "Name or part of it"}));
-    const auto right = Qt::AlignRight | Qt::AlignVCenter;
-    mSchritte->setSpalten({
-        {"Prüfschritt", inSprache({"Prüfschritt", "Test step"}), right},
-        {"Drehzahl", inSprache({"Drehzahl (1/min)", "Speed (1/min)"}), right},
-        {"Leistung", inSprache({"Leistung (W)", "Power (W)"}), right},
-        {"Messart", inSprache({"Messart", "Type"})},
-    });
-    QHeaderView *head = ui.DBGridRez->horizontalHeader();
-    head->setSectionResizeMode(QHeaderView::ResizeToContents);
-    head->setStretchLastSection(true);
+    mGitter.beschriften();
 }
 
 void frmRezepte::Form_Load() try {
@@ -94,17 +71,18 @@ void frmRezepte::Form_Load() try {
 
 void frmRezepte::Form_Activate() try {
     fnc_ListeFüllen();
-    if (!gRezeptWahl.isEmpty()) {
+    QString name = std::exchange(gRezeptWahl, {});
+    const bool only = mSuche.namen().size() == 1;
+    if (only && name.isEmpty())
+        name = mSuche.namen().first();
+    if (!name.isEmpty()) { // the change of the text does the rest
         mSuche.leeren();
-        mSuche.übernehmen(std::exchange(gRezeptWahl, {}));
-    } else if (mSuche.namen().size() == 1) {
-        mSuche.leeren();
-        mSuche.übernehmen(mSuche.namen().first());
-        ui.pbok->setFocus();
-    } else { // otherwise the change of the text does it
-        aktualisieren();
+        mSuche.übernehmen(name);
+    } else {
         cmbRezeptname_Click();
     }
+    if (only)
+        ui.pbok->setFocus();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1013 - ", "ERROR 1013 - ", fehler);
 }
@@ -152,13 +130,13 @@ void frmRezepte::cmbRezeptname_Click() try {
         return;
     mGezeigt.clear();
     ui.lbRezTol->clear();
-    mSchritte->setRecordset({});
+    mGitter.zeigen({});
     if (name.isEmpty())
         return;
     const RezeptKopf kopf = rezeptKopf(name);
     rezeptEinsetzen(kopf);
     ui.lbRezTol->setText(kopf.toleranz);
-    mSchritte->setRecordset(rezeptSchritte(kopf.rezeptID));
+    mGitter.zeigen(rezeptSchritte(kopf.rezeptID));
     mGezeigt = name;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1012 - ", "ERROR 1012 - ", fehler);
@@ -182,10 +160,23 @@ bool frmRezepte::rezeptGezeigt() {
     return !mGezeigt.isEmpty();
 }
 
-void frmRezepte::pbok_Click() try {
+/// A person has settled on a name in box or list: chosen, or next to be changed.
+void frmRezepte::bestätigen() {
     if (!ui.pbok->isEnabled() || !rezeptGezeigt())
         return;
-    if (std::exchange(gRezeptAufruf, false)) {
+    if (gRezeptAufruf)
+        pbok_Click();
+    else
+        ui.pbÄndRez->setFocus();
+}
+
+void frmRezepte::pbok_Click() try {
+    if (!ui.pbok->isEnabled())
+        return;
+    if (gRezeptAufruf) {
+        if (!rezeptGezeigt())
+            return;
+        gRezeptAufruf = false;
         mGewählt = true;
         rezeptWählen(mGezeigt);
     }
@@ -202,14 +193,15 @@ void frmRezepte::pbNeuRezept_Click() {
 void frmRezepte::pbÄndRez_Click() try {
     if (!rezeptGezeigt())
         return;
-    gDatenbank.execute("INSERT INTO ÄndRez_temp SELECT * FROM Rezepte WHERE rezeptid = ?",
+    gDatenbank.execute("INSERT INTO ÄndRez_temp SELECT * FROM Rezepte WHERE rezeptid = ? "
+                       "ORDER BY Val(Prüfschritt), rowid", // the editor takes them as they come
                        {gRezeptID});
     gRezeptWahl = mGezeigt;
     Screen &editor = ::screen(frm::ÄndRez);
     editor.setCaption(
         inSprache({"Änderung im Rezept '%1'", "Canges In Recipe '%1'"}).arg(mGezeigt));
-    hide();
-    editor.show();
+    hide(); // stays loaded; the editor keeps the screens below out of use
+    editor.showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1017 - ", "ERROR 1017 - ", fehler);
 }

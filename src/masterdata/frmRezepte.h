@@ -5,7 +5,7 @@
 // Leaving without a choice puts the recipe that the desktop shows back in force.
 #pragma once
 
-#include "recordsetmodel.h"
+#include "schrittgitter.h"
 #include "screens.h"
 #include "suchliste.h"
 #include "ui_frmRezepte.h"
@@ -31,6 +31,7 @@ class frmRezepte : public Screen {
     void beschriften();
     void aktualisieren();
     bool rezeptGezeigt();
+    void bestätigen();
 
     void cmbRezeptname_Change();
     void cmbRezeptname_Click();
@@ -40,7 +41,7 @@ class frmRezepte : public Screen {
     void pbok_Click();
 
     Ui::frmRezepte ui;
-    RecordsetModel *mSchritte; ///< of the grid
+    Schrittgitter mGitter;
     Suchliste mSuche;
     QString mGezeigt;
     bool mGewählt = false;

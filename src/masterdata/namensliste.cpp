@@ -9,10 +9,29 @@
 
 namespace {
 
-QString ohneAkzente(const QString &text) {
+QString vollständigFalten(const QString &text) {
     QString folded = text.normalized(QString::NormalizationForm_D);
     folded.removeIf([](QChar c) { return c.category() == QChar::Mark_NonSpacing; });
     return folded.toCaseFolded();
+}
+
+/// Latin letters fold one by one, which is looked up: 20 000 names are folded whenever a list opens.
+QString ohneAkzente(const QString &text) {
+    constexpr char16_t latin = 0x250; // the end of Latin Extended-B
+    static const std::vector<QString> table = [] {
+        std::vector<QString> letters;
+        for (char16_t letter = 0; letter < latin; ++letter)
+            letters.push_back(vollständigFalten(QString(QChar(letter))));
+        return letters;
+    }();
+    QString folded;
+    folded.reserve(text.size());
+    for (const QChar letter : text) {
+        if (letter.unicode() >= latin)
+            return vollständigFalten(text);
+        folded += table[letter.unicode()];
+    }
+    return folded;
 }
 
 bool istMuster(const QString &text) {

@@ -1,7 +1,9 @@
 #include "rezept.h"
 
+#include "auswahl.h"
 #include "database.h"
 #include "schluessel.h"
+#include "schrittliste.h"
 #include "session.h"
 #include "sprache.h"
 
@@ -28,11 +30,8 @@ std::int16_t rezeptSchlüssel(const QString &name) {
 }
 
 Recordset rezeptSchritte(std::int16_t rezeptID) {
-    return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
-                           "IIF(Prüfart='1', ?, ?) AS Messart "
-                           "FROM Rezepte WHERE Rezeptid = ? order by val(Prüfschritt)",
-                           {inSprache({"Leistungsmessung  ", "Power Measurement"}),
-                            inSprache({"Drehzahlmessung  ", "Speed Measurement"}), rezeptID});
+    return gespeicherteSchritte(rezeptID, {"Leistungsmessung  ", "Power Measurement"},
+                                {"Drehzahlmessung  ", "Speed Measurement"});
 }
 
 void rezeptLöschen(std::int16_t rezeptID) {
@@ -45,4 +44,16 @@ void rezeptEinsetzen(const RezeptKopf &kopf) {
     gToleranzID = kopf.toleranzID;
     gRezeptName = kopf.toleranz;
     gMessverfahren = kopf.messverfahren;
+}
+
+void sitzungsrezeptEinsetzen() try {
+    if (auswahl().rezept.isEmpty())
+        return;
+    rezeptEinsetzen(rezeptKopf(auswahl().rezept));
+    rezeptWählen(auswahl().rezept); // its specification may be called otherwise now
+} catch (const Fehler &fehler) {
+    if (fehler.number() == platform::fehlernummer::NoCurrentRecord)
+        rezeptWählen({});
+    else
+        fehlerBox("Fehler 1015 - ", "ERROR 1015 - ", fehler);
 }

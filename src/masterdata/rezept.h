@@ -30,3 +30,7 @@ void rezeptLöschen(std::int16_t rezeptID);
 
 /// Into gRezeptID, gToleranzID, gRezeptName, gMessverfahren.
 void rezeptEinsetzen(const RezeptKopf &kopf);
+
+/// Puts the recipe that the desktop shows back in force, as the database tells it now. One that is
+/// gone, or whose specification is, is no longer chosen.
+void sitzungsrezeptEinsetzen();

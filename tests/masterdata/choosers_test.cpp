@@ -88,10 +88,8 @@ TEST_P(Customers, AreFilteredWhileTyping) {
         expectCount("Label", 2);
         type(frm::Kunden, "cmbKundenname", "klinik");
         expectCount("Label", 0);
-        for (const char *button : {"pbNeu", "pbchange", "pbDelete"}) {
-            const bool there = exists(frm::NeuKunde);
-            EXPECT_EQ(enabled(frm::Kunden, button), there) << button;
-        }
+        for (const char *button : {"pbNeu", "pbchange", "pbDelete"})
+            EXPECT_TRUE(enabled(frm::Kunden, button)) << button;
         EXPECT_TRUE(boxes.allCame());
     };
     run(journey());
@@ -238,10 +236,8 @@ TEST_P(Units, AreChosenByIdentOrByTheOnlyOneOfAType) {
                   (QStringList{"", "Kardio L4", "KE 200 med", "Ohne Nummer"}));
         EXPECT_EQ(listed(frm::Gerät, "lstIdent"),
                   (QStringList{"AEH-001", "AEH-002", "AEH-003", "AEH-017"}));
-        for (const char *button : {"pbNeu", "pbchange", "pbDelete"}) {
-            const bool there = exists(frm::NeuGerät);
-            EXPECT_EQ(enabled(frm::Gerät, button), there) << button;
-        }
+        for (const char *button : {"pbNeu", "pbchange", "pbDelete"})
+            EXPECT_TRUE(enabled(frm::Gerät, button)) << button;
         const auto refused = [&](const Text &why) {
             expectTold(why, attention);
             press(frm::Gerät, "pbok");

@@ -1,0 +1,44 @@
+#include "frmAendGeraet.h"
+
+#include "auswahl.h"
+#include "frmGeraet.h"
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+
+namespace {
+
+/// gGerätID keeps the last choice when another customer takes the unit off the desktop.
+bool istSitzungsgerät(int gerätID) {
+    return gGerätID == gerätID && !(auswahl().gerät.isEmpty() && auswahl().gerätID.isEmpty());
+}
+
+} // namespace
+
+void frmÄndGerät::Form_Load() try {
+    setSpeichernEnabled(false);
+    vorbereiten();
+    const auto *geräte = loaded<frmGerät>();
+    const int shown = geräte ? geräte->gerätID() : 0;
+    if (shown == 0)
+        return;
+    eintragen(gerätLesen(shown));
+    mGerätID = shown;
+    setSpeichernEnabled(true);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1150 - ", "ERROR 1150 - ", fehler);
+}
+
+void frmÄndGerät::pbSave_Click() try {
+    if (!prüfen(mGerätID))
+        return;
+    const Gerätedaten gerät = eingabe();
+    gerätÄndern(mGerätID, gerät);
+    if (istSitzungsgerät(mGerätID))
+        gerätWählen(gerät.typ, gerät.identNr);
+    meldung({" Daten wurden geändert. ", " Data have been changed!"}, platform::Information,
+            {"Bestätigung", "MESSAGE"});
+    schließen(gerät.identNr);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1150 - ", "ERROR 1150 - ", fehler);
+}

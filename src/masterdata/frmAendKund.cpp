@@ -1,0 +1,35 @@
+#include "frmAendKund.h"
+
+#include "auswahl.h"
+#include "frmKunden.h"
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+
+void frmÄndKund::Form_Load() try {
+    setSpeichernEnabled(false);
+    vorbereiten();
+    const auto *kunden = loaded<frmKunden>();
+    const int shown = kunden ? kunden->kundenID() : 0;
+    if (shown == 0)
+        return;
+    eintragen(kundeLesen(shown));
+    mKundenID = shown;
+    setSpeichernEnabled(true);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1140 - ", "ERROR 1140 - ", fehler);
+}
+
+void frmÄndKund::pbSave_Click() try {
+    if (!prüfen(mKundenID))
+        return;
+    const Kundendaten kunde = eingabe();
+    kundeÄndern(mKundenID, kunde);
+    if (gKundenID == mKundenID)
+        kundeUmbenennen(kunde.name);
+    meldung({" Daten wurden geändert. ", " Data have been changed!"}, platform::Information,
+            {"Bestätigung", "MESSAGE"});
+    schließen(kunde.name);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1140 - ", "ERROR 1140 - ", fehler);
+}

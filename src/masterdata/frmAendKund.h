@@ -1,0 +1,17 @@
+// Changes the customer that the list of customers shows.
+#pragma once
+
+#include "kundenmaske.h"
+
+class frmÄndKund : public Kundenmaske {
+  public:
+    static constexpr frm id = frm::ÄndKund;
+    frmÄndKund() : Kundenmaske({"Kunde ändern", "Edit Customer"}) {}
+
+  protected:
+    void Form_Load() override;
+    void pbSave_Click() override;
+
+  private:
+    int mKundenID = 0; ///< 0 when nothing was loaded that could be saved
+};

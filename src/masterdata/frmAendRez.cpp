@@ -1,0 +1,330 @@
+#include "frmAendRez.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QShortcut>
+
+#include <utility>
+
+#include "database.h"
+#include "frmRezepte.h"
+#include "msgbox.h"
+#include "session.h"
+#include "spalte.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"lbRezName", "Recipe:"},
+    {"lbToleranz", "S&pecification:"},
+    {"FrSchritt", "Test Step"},
+    {"lbSchritt", "Test step:"},
+    {"lbDrehzahl", "Spee&d:"},
+    {"lbLeistung", "Po&wer:"},
+    {"lbPrArt", "&Type:"},
+    {"pbSpeichern", "&Save"},
+    {"pbNeu", "&New Step"},
+    {"pbEinfuegen", "&Insert"},
+    {"pbLoeschen", "De&lete"},
+    {"FrSchritte", "Test Steps Of The Recipe"},
+    {"pbFirst#tip", "First test step"},
+    {"pbVorheriger#tip", "Previous test step"},
+    {"pbNext#tip", "Next test step"},
+    {"pbLetzter#tip", "Last test step"},
+    {"pbok", "&OK"},
+    {"pbexit", "&Cancel"},
+};
+
+/// An entry of the list when it is one, so that the box knows its row.
+void eintragSetzen(QComboBox *box, const QString &text) {
+    box->setCurrentIndex(box->findText(text));
+    box->setEditText(text);
+    box->lineEdit()->setCursorPosition(0); // a long name shows its start
+}
+
+} // namespace
+
+frmÄndRez::frmÄndRez() {
+    ui.setupUi(this);
+    mGitter.verbinden(ui.DBGridRez, "Messwerte");
+    felderVerdrahten();
+    on(ui.DBGridRez->selectionModel(), &QItemSelectionModel::currentRowChanged, [this] {
+        if (!mGitter.selbst())
+            fnc_SchrittAnzeigen();
+    });
+    onClick(ui.pbSpeichern, [this] { pbSpeichern_Click(); });
+    onClick(ui.pbNeu, [this] { pbNeu_Click(); });
+    onClick(ui.pbEinfuegen, [this] { pbEinfuegen_Click(); });
+    onClick(ui.pbLoeschen, [this] { pbLoeschen_Click(); });
+    onClick(ui.pbFirst, [this] { schrittWählen(0); });
+    onClick(ui.pbVorheriger, [this] { schrittWählen(mGitter.zeile() - 1); });
+    onClick(ui.pbNext, [this] { schrittWählen(mGitter.zeile() + 1); });
+    onClick(ui.pbLetzter, [this] { schrittWählen(mGitter.schritte().count() - 1); });
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbexit, [this] { pbexit_Click(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { ui.pbexit->click(); });
+}
+
+void frmÄndRez::felderVerdrahten() {
+    for (QComboBox *box : {ui.cmbToleranz, ui.cmbPrArt})
+        box->setCompleter(nullptr); // it would write into the box while a person types
+    on(ui.cmbToleranz, &QComboBox::activated, [this] { cmbToleranz_Click(); });
+    on(ui.cmbToleranz->lineEdit(), &QLineEdit::textEdited, [this] { cmbToleranz_Change(); });
+    onKey(ui.cmbToleranz, [this](QKeyEvent &key) {
+        msToleranzTaste = key.text().toUpper();
+        return false;
+    });
+    onGotFocus(ui.cmbToleranz, [this] {
+        msAltToleranz = ui.cmbToleranz->currentText();
+        msToleranzTaste.clear(); // of the key that led away
+    });
+    onLostFocus(ui.cmbToleranz, [this] { cmbToleranz_LostFocus(); });
+    onEnter(ui.cmbToleranz, [this] { ui.txtDrehzahl->setFocus(Qt::TabFocusReason); });
+
+    onGotFocus(ui.txtDrehzahl, [this] { msAltDrehzahl = ui.txtDrehzahl->text(); });
+    onLostFocus(ui.txtDrehzahl, [this] { txtDrehzahl_LostFocus(); });
+    onEnter(ui.txtDrehzahl, [this] { ui.txtLeistung->setFocus(Qt::TabFocusReason); });
+
+    onGotFocus(ui.txtLeistung, [this] { msAltLeistung = ui.txtLeistung->text(); });
+    onLostFocus(ui.txtLeistung, [this] { txtLeistung_LostFocus(); });
+    onEnter(ui.txtLeistung, [this] { ui.cmbPrArt->setFocus(Qt::TabFocusReason); });
+
+    on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { cmbPrArt_Change(); });
+    onKey(ui.cmbPrArt, [this](QKeyEvent &key) {
+        msPrArtTaste = key.text().toUpper();
+        return false;
+    });
+    onGotFocus(ui.cmbPrArt, [this] {
+        msAltPrArt = ui.cmbPrArt->currentText();
+        msPrArtTaste.clear(); // of the key that led away
+    });
+    onLostFocus(ui.cmbPrArt, [this] { cmbPrArt_LostFocus(); });
+    onEnter(ui.cmbPrArt, [this] { ui.pbSpeichern->setFocus(Qt::TabFocusReason); });
+}
+
+void frmÄndRez::beschriften() {
+    const QString recipe = caption(); // names it, from whoever opened the screen
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    setCaption(recipe);
+    ui.cmbPrArt->clear();
+    ui.cmbPrArt->addItems({inSprache(prüfart::leistungText), inSprache(prüfart::drehzahlText)});
+    mGitter.beschriften();
+}
+
+void frmÄndRez::Form_Activate() try {
+    beschriften();
+    fnc_Fill_CmbToleranz();
+    if (const auto *list = loaded<frmRezepte>()) {
+        eintragSetzen(ui.cmbToleranz, list->toleranz());
+        ui.laRezName->setText(list->rezeptname());
+    }
+    mGitter.zeigen(kopierteSchritte());
+    felderLeeren();
+    mOhneSchritt = true;
+    mNeuerSchritt = false;
+    mGitter.gehen(0);
+    fnc_SchrittAnzeigen();
+    ui.cmbToleranz->setFocus();
+    msAltToleranz = ui.cmbToleranz->currentText();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1122 - ", "ERROR 1122 - ", fehler);
+}
+
+bool frmÄndRez::Form_QueryUnload() {
+    if (mnAbschluss == Abschluss::Übernehmen)
+        fnc_ÄnderungenÜbernehmen();
+    else if (mnAbschluss == Abschluss::Verwerfen)
+        fnc_ÄnderungenVerwerfen();
+    return true; // by the close box nothing is decided: the copy stays as it is
+}
+
+void frmÄndRez::Form_Unload() {
+    auto *list = loaded<frmRezepte>();
+    if (!list)
+        return;
+    hide();            // so that the list comes up over the window that it came from
+    list->showModal(); // its activation reads the recipe anew
+}
+
+void frmÄndRez::fnc_ÄnderungenÜbernehmen() try {
+    gDatenbank.execute("DELETE FROM Rezepte WHERE Rezeptid = ?", {gRezeptID});
+    gDatenbank.execute("INSERT INTO Rezepte SELECT * FROM ÄndRez_temp");
+    gDatenbank.execute("DELETE FROM ÄndRez_temp");
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1123 - ", "ERROR 1123 - ", fehler);
+}
+
+void frmÄndRez::fnc_ÄnderungenVerwerfen() try {
+    gDatenbank.execute("DELETE FROM ÄndRez_temp");
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1124 - ", "ERROR 1124 - ", fehler);
+}
+
+void frmÄndRez::aktualisieren() {
+    ui.pbNeu->setEnabled(!mNeuerSchritt);
+    ui.pbSpeichern->setEnabled(mNeuerSchritt || !mOhneSchritt);
+    ui.pbEinfuegen->setEnabled(!mOhneSchritt);
+    ui.pbLoeschen->setEnabled(!mOhneSchritt);
+}
+
+// The specification -------------------------------------------------------------------------------
+
+void frmÄndRez::fnc_Fill_CmbToleranz() try {
+    ui.cmbToleranz->clear();
+    ui.cmbToleranz->addItems(spalte(gDatenbank.open("SELECT Bezeichnung FROM Toleranzen"), 0));
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler NR01- ", "ERROR NR01- ", fehler);
+}
+
+void frmÄndRez::cmbToleranz_Change() {
+    struct Kürzel {
+        Text taste;
+        Text name;
+    };
+    static const Kürzel kürzel[] = {
+        {{"M", "M"}, {"medizinische Geräte", "Medical Devices"}},
+        {{"S", "S"}, {"stationäre Trainingsgeräte", "Stationary Devices"}},
+        {{"O", "W"}, {"ohne Toleranz", "Without Tolerance"}},
+    };
+    const QString taste = std::exchange(msToleranzTaste, {});
+    if (taste.isEmpty())
+        return;
+    for (const Kürzel &k : kürzel) {
+        if (taste == inSprache(k.taste)) {
+            eintragSetzen(ui.cmbToleranz, inSprache(k.name));
+            ui.cmbToleranz->lineEdit()->selectAll();
+            cmbToleranz_Click();
+            return;
+        }
+    }
+    beep();
+    eintragSetzen(ui.cmbPrArt, {});
+}
+
+void frmÄndRez::cmbToleranz_Click() try {
+    const Recordset row = gDatenbank.open("SELECT id FROM Toleranzen WHERE Bezeichnung = ?",
+                                          {ui.cmbToleranz->currentText()});
+    gDatenbank.execute("UPDATE Rezeptnamen SET ToleranzID = ? WHERE Rezeptid = ?",
+                       {row["id"].value(), gRezeptID});
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1120 - ", "ERROR 1120 - ", fehler);
+}
+
+void frmÄndRez::cmbToleranz_LostFocus() {
+    if (ui.cmbToleranz->currentText() != msAltToleranz)
+        mbGeändert = true;
+}
+
+// The fields of the step --------------------------------------------------------------------------
+
+Schritt frmÄndRez::eingegeben() const {
+    return {ui.laPrSchritt->text().toInt(), ui.txtDrehzahl->text(), ui.txtLeistung->text(),
+            prüfart::ausAnfang(ui.cmbPrArt->currentText())};
+}
+
+/// What is loaded into a field is no change by a person, also when the field has the keyboard.
+void frmÄndRez::altWerteMerken() {
+    msAltDrehzahl = ui.txtDrehzahl->text();
+    msAltLeistung = ui.txtLeistung->text();
+    msAltPrArt = ui.cmbPrArt->currentText();
+}
+
+void frmÄndRez::felderLeeren() {
+    ui.laPrSchritt->clear();
+    ui.txtDrehzahl->clear();
+    ui.txtLeistung->clear();
+    eintragSetzen(ui.cmbPrArt, {});
+    altWerteMerken();
+}
+
+void frmÄndRez::fnc_SchrittAnzeigen() try {
+    if (!mGitter.leer()) {
+        const Schritt step = schrittAus(mGitter.aktuell());
+        ui.laPrSchritt->setText(QString::number(step.nummer));
+        ui.txtDrehzahl->setText(step.drehzahl);
+        ui.txtLeistung->setText(step.leistung);
+        eintragSetzen(ui.cmbPrArt,
+                      inSprache(step.prüfart == prüfart::Leistung ? prüfart::leistungText
+                                                                  : prüfart::drehzahlText));
+        altWerteMerken();
+        mOhneSchritt = mNeuerSchritt = false;
+    }
+    aktualisieren();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1121 - ", "ERROR 1121 - ", fehler);
+}
+
+/// Takes the new text of a field that is left, or tells what is wrong with it and sets it back.
+void frmÄndRez::feldÜbernehmen(QLineEdit *feld, const QString &altWert, const Text *mangel,
+                               const Text &titel) {
+    if (!mangel) {
+        mbGeändert = true;
+        return;
+    }
+    const QString good = altWert; // taking the keyboard back notes the text anew
+    meldung(*mangel, Exclamation, titel);
+    feld->setText(good);
+    feld->setFocus();
+    feld->selectAll();
+}
+
+void frmÄndRez::txtDrehzahl_LostFocus() try {
+    static const Text keineZahl{"Drehzahl muss ein nummerischer Wert sein!",
+                                "Number of revolutions must be a numerical value!"};
+    static const Text außerhalb{"Drehzahl liegt außerhalb des gültigen Bereiches!",
+                                "Number of revolutions is outside the valid range!"};
+    const QString text = ui.txtDrehzahl->text();
+    if (text == msAltDrehzahl || text.isEmpty())
+        return;
+    const Wertprüfung result = drehzahlPrüfen(text, grenzenÄndRez);
+    feldÜbernehmen(ui.txtDrehzahl, msAltDrehzahl,
+                   result == Wertprüfung::Gültig           ? nullptr
+                   : result == Wertprüfung::NichtNumerisch ? &keineZahl
+                                                           : &außerhalb,
+                   {"Eingabefehler", "Input Error"});
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1135 - ", "ERROR 1135 - ", fehler);
+}
+
+void frmÄndRez::txtLeistung_LostFocus() try {
+    static const Text keineZahl{"Leistung muss ein nummerischer Wert sein!",
+                                "Power must be a numerical value!"};
+    static const Text außerhalb{"Leistung liegt außerhalb des gültigen Bereiches!",
+                                "Power is outside the valid range!"};
+    const QString text = ui.txtLeistung->text();
+    if (text == msAltLeistung || text.isEmpty())
+        return;
+    const Wertprüfung result = leistungPrüfen(text, grenzenÄndRez);
+    feldÜbernehmen(ui.txtLeistung, msAltLeistung,
+                   result == Wertprüfung::Gültig           ? nullptr
+                   : result == Wertprüfung::NichtNumerisch ? &keineZahl
+                                                           : &außerhalb,
+                   {"Eingabefehler!", "Input Error!"});
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1136 - ", "ERROR 1136 - ", fehler);
+}
+
+void frmÄndRez::cmbPrArt_Change() {
+    const QString taste = std::exchange(msPrArtTaste, {});
+    if (taste.isEmpty())
+        return;
+    const std::optional<QString> text = prüfart::ausTaste(taste);
+    if (!text)
+        beep();
+    eintragSetzen(ui.cmbPrArt, text.value_or(QString()));
+    ui.cmbPrArt->lineEdit()->selectAll();
+}
+
+void frmÄndRez::cmbPrArt_LostFocus() {
+    if (ui.cmbPrArt->currentText() != msAltPrArt)
+        mbGeändert = true;
+    if (mnAbschluss == Abschluss::NeuerSchritt) {
+        mnAbschluss = Abschluss::Offen;
+        ui.pbSpeichern->setFocus();
+    }
+}

@@ -1,0 +1,78 @@
+// Changes the steps of a recipe on their working copy in ÄndRez_temp, which whoever opens this
+// screen has filled. Leaving decides whether the copy goes back. The specification is no part of
+// the copy: a new one is written at once and stays.
+#pragma once
+
+#include "pruefschritt.h"
+#include "schrittgitter.h"
+#include "schrittliste.h"
+#include "screens.h"
+#include "ui_frmAendRez.h"
+
+#include <optional>
+
+class frmÄndRez : public Screen {
+  public:
+    static constexpr frm id = frm::ÄndRez;
+    frmÄndRez();
+
+  protected:
+    void Form_Activate() override;
+    bool Form_QueryUnload() override;
+    void Form_Unload() override;
+
+  private:
+    enum class Abschluss { Offen, Übernehmen, Verwerfen, NeuerSchritt };
+
+    void felderVerdrahten();
+    void beschriften();
+    void aktualisieren();
+    Schritt eingegeben() const;
+    void altWerteMerken();
+    void felderLeeren();
+
+    void fnc_Fill_CmbToleranz();
+    void fnc_SchrittAnzeigen();
+    bool fnc_SchrittPrüfen();
+    bool fnc_DrehmomentPrüfen();
+    std::optional<bool> fnc_SchrittVorhanden(const Schritt &schritt);
+    void fnc_SchrittÄndern(const Schritt &schritt);
+    void fnc_ÄnderungenÜbernehmen();
+    void fnc_ÄnderungenVerwerfen();
+
+    void cmbToleranz_Change();
+    void cmbToleranz_Click();
+    void cmbToleranz_LostFocus();
+    void cmbPrArt_Change();
+    void cmbPrArt_LostFocus();
+    void txtDrehzahl_LostFocus();
+    void txtLeistung_LostFocus();
+    void feldÜbernehmen(QLineEdit *feld, const QString &altWert, const platform::Text *mangel,
+                        const platform::Text &titel);
+
+    void pbSpeichern_Click();
+    void pbNeu_Click();
+    void pbEinfuegen_Click();
+    void pbLoeschen_Click();
+    void schrittWählen(int zeile);
+    void pbok_Click();
+    void pbexit_Click();
+
+    Ui::frmÄndRez ui;
+    Schrittliste mListe{"ÄndRez_temp"};
+    Schrittgitter mGitter;
+
+    bool mbGeändert = false; ///< by a field or the specification; steps put in or taken out don't
+    Abschluss mnAbschluss = Abschluss::Offen;
+    bool mOhneSchritt = true;   ///< no step is shown that could be saved, moved or deleted
+    bool mNeuerSchritt = false; ///< the step shown is not stored yet
+
+    // Text at focus
+    QString msAltDrehzahl;
+    QString msAltLeistung;
+    QString msAltPrArt;
+    QString msAltToleranz;
+    // Last key, upper-cased, until the change of the text has used it up
+    QString msToleranzTaste;
+    QString msPrArtTaste;
+};

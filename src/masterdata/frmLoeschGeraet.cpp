@@ -1,0 +1,69 @@
+#include "frmLoeschGeraet.h"
+
+#include <QShortcut>
+
+#include "auswahl.h"
+#include "frmGeraet.h"
+#include "loeschung.h"
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+#include "umbruch.h"
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Delete Unit"},
+    {"lbIdentNr", "ID number:"},
+    {"pbYes", "&Yes"},
+    {"pbNo", "&No"},
+};
+
+} // namespace
+
+frmLöschGerät::frmLöschGerät() {
+    ui.setupUi(this);
+    onClick(ui.pbYes, [this] { pbYes_Click(); });
+    onClick(ui.pbNo, [this] { unload(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+void frmLöschGerät::beschriften() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+}
+
+void frmLöschGerät::Form_Load() try {
+    beschriften();
+    ui.pbYes->setEnabled(false); // until it is known what Yes would delete
+    ui.pbNo->setFocus();
+    fnc_FrageZeigen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 31002 - ", "ERROR 31002 - ", fehler);
+}
+
+void frmLöschGerät::fnc_FrageZeigen() {
+    const auto *geräte = loaded<frmGerät>();
+    const int shown = geräte ? geräte->gerätID() : 0;
+    if (shown == 0)
+        return;
+    const Text frage = gerätefrage(protokolleZählen(geräteplan, shown), geräte->gerätename());
+    ui.lbProtocollCount->setText(umbrechbar(inSprache(frage)));
+    ui.laIdent->setText(geräte->identnummer());
+    mGerätID = shown;
+    ui.pbYes->setEnabled(true);
+}
+
+void frmLöschGerät::pbYes_Click() try {
+    datensatzLöschen(geräteplan, mGerätID);
+    meldung({"Daten wurden gelöscht!", "Data have been deleted!"}, platform::Information,
+            {"Bestätigung", "Confirmation"});
+    if (auto *geräte = loaded<frmGerät>())
+        geräte->fnc_ListeLeeren();
+    if (gGerätID == mGerätID)
+        gerätAbwählen();
+    unload();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 31001 - ", "ERROR 31001 - ", fehler);
+}

@@ -1,0 +1,68 @@
+#include "frmLoeschKunde.h"
+
+#include <QShortcut>
+
+#include "auswahl.h"
+#include "frmKunden.h"
+#include "loeschung.h"
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+#include "umbruch.h"
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Delete Customer"},
+    {"pbok", "&Yes"},
+    {"pbCancel", "&No"},
+};
+
+} // namespace
+
+frmLöschKunde::frmLöschKunde() {
+    ui.setupUi(this);
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbCancel, [this] { unload(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+void frmLöschKunde::beschriften() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+}
+
+void frmLöschKunde::Form_Load() try {
+    ui.pbok->setEnabled(false); // until it is known what Yes would delete
+    ui.pbCancel->setFocus();
+    fnc_FrageZeigen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler LK 1 - ", "ERROR LK 1 - ", fehler);
+}
+
+void frmLöschKunde::fnc_FrageZeigen() {
+    beschriften();
+    const auto *kunden = loaded<frmKunden>();
+    const int shown = kunden ? kunden->kundenID() : 0;
+    if (shown == 0)
+        return;
+    const Text frage =
+        kundenfrage(geräteZählen(shown), protokolleZählen(kundenplan, shown), kunden->kundenname());
+    ui.lbProtocollCount->setText(umbrechbar(inSprache(frage)));
+    mKundenID = shown;
+    ui.pbok->setEnabled(true);
+}
+
+void frmLöschKunde::pbok_Click() try {
+    datensatzLöschen(kundenplan, mKundenID);
+    meldung({"Die Daten wurden gelöscht!", "Data have been deleted!"}, platform::Information,
+            {"Bestätigung", "Confirmation"});
+    if (auto *kunden = loaded<frmKunden>())
+        kunden->fnc_ListeLeeren();
+    if (gKundenID == mKundenID)
+        kundeAbwählen();
+    unload();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 31001 - ", "ERROR 31001 - ", fehler);
+}

@@ -1,0 +1,27 @@
+#include "frmNeuGeraet.h"
+
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+
+void frmNeuGerät::Form_Load() try { vorbereiten(); } catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1061 - ", "ERROR 1061 - ", fehler);
+}
+
+void frmNeuGerät::Form_Unload() {
+    gNeuModus = false;
+}
+
+void frmNeuGerät::pbSave_Click() try {
+    if (!prüfen(0))
+        return;
+    const Gerätedaten gerät = eingabe();
+    gerätEinfügen(gKundenID, gerät);
+    if (gNeuModus) // the customer's first: the list of units was skipped, and comes now
+        gDesktopFolge = desktopfolge::Gerät;
+    meldung({"Daten wurden gespeichert!", "Data have been saved!"}, platform::Information,
+            {"Bestätigung", "MESSAGE"});
+    schließen(gerät.identNr);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1060 - ", "ERROR 1060 - ", fehler);
+}

@@ -1,0 +1,17 @@
+// Enters a new unit of the chosen customer.
+#pragma once
+
+#include "geraetemaske.h"
+
+class frmNeuGerät : public Gerätemaske {
+  public:
+    static constexpr frm id = frm::NeuGerät;
+    frmNeuGerät() : Gerätemaske({"Neues Gerät", "New Unit"}) {}
+
+    void showInfo(const QString &text) override { bemerken(text); }
+
+  protected:
+    void Form_Load() override;
+    void Form_Unload() override;
+    void pbSave_Click() override;
+};

@@ -1,0 +1,20 @@
+#include "frmNeuKunde.h"
+
+#include "msgbox.h"
+#include "sprache.h"
+
+void frmNeuKunde::Form_Load() try { vorbereiten(); } catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1051 - ", "ERROR 1051 - ", fehler);
+}
+
+void frmNeuKunde::pbSave_Click() try {
+    if (!prüfen(0))
+        return;
+    const Kundendaten kunde = eingabe();
+    kundeEinfügen(kunde);
+    meldung({"Daten wurden gespeichert!", "Data have been saved!"}, platform::Information,
+            {"Bestätigung", "MESSAGE"});
+    schließen(kunde.name);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1050 - ", "ERROR 1050 - ", fehler);
+}

@@ -1,0 +1,236 @@
+#include "frmNeuRezept.h"
+
+#include <QShortcut>
+
+#include "database.h"
+#include "frmRezepte.h"
+#include "msgbox.h"
+#include "rezept.h"
+#include "schluessel.h"
+#include "session.h"
+#include "spalte.h"
+#include "sprache.h"
+#include "umbruch.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "New Recipe"},
+    {"lbRezName", "&Recipe name:"},
+    {"lbToleranz", "S&pecification:"},
+    {"pbRezSave", "Sa&ve Recipe Name"},
+    {"FrSchritt", "Test Step"},
+    {"lbSchritt", "Test step:"},
+    {"lbDrehzahl", "Spee&d:"},
+    {"lbLeistung", "Po&wer:"},
+    {"lbPrArt", "&Type:"},
+    {"pbSave", "&Save"},
+    {"pbAddNew", "&New Step"},
+    {"pbEinfuegen", "&Insert"},
+    {"pbLoeschen", "De&lete"},
+    {"pbKopie", "Cop&y Recipe ..."},
+    {"FrSchritte", "Test Steps Of The Recipe"},
+    {"pbFirst#tip", "First test step"},
+    {"pbPrevious#tip", "Previous test step"},
+    {"pbNext#tip", "Next test step"},
+    {"pbLast#tip", "Last test step"},
+    {"pbok", "&OK"},
+    {"pbexit", "&Cancel"},
+};
+
+std::int16_t toleranzSchlüssel(const QString &name) {
+    const Recordset rows =
+        gDatenbank.open("SELECT ID FROM Toleranzen WHERE Bezeichnung = ?", {name});
+    if (rows.count() > 1) {
+        throw Fehler(fehlernummer::NoCurrentRecord,
+                     {"Diese Spezifikation gibt es mehrmals.",
+                      "There are several specifications of this name."});
+    }
+    std::int16_t key = 0;
+    schlüsselNach(key, rows["ID"]);
+    return key;
+}
+
+} // namespace
+
+frmNeuRezept::frmNeuRezept() {
+    ui.setupUi(this);
+    ui.lbRezSaved->hide();
+    ui.lbToleranzSave->hide();
+    mGitter.verbinden(ui.DBGridRez);
+    on(ui.txtRezName, &QLineEdit::textChanged, [this] { txtRezName_Change(); });
+    onEnter(ui.txtRezName, [this] {
+        if (ui.pbRezSave->isEnabled())
+            fnc_RezeptnameSpeichern();
+        else
+            ui.cmbToleranz->setFocus();
+    });
+    on(ui.cmbToleranz, &QComboBox::currentIndexChanged, [this] { txtRezName_Change(); });
+    onEnter(ui.cmbToleranz, [this] {
+        if (ui.pbRezSave->isEnabled())
+            fnc_RezeptnameSpeichern();
+    });
+    onClick(ui.pbRezSave, [this] { fnc_RezeptnameSpeichern(); });
+    schritteVerdrahten();
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+void frmNeuRezept::beschriften() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    for (QPushButton *symbol : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
+        symbol->setAccessibleName(symbol->toolTip());
+    ui.cmbPrArt->addItems({inSprache(prüfart::leistungText), inSprache(prüfart::drehzahlText)});
+    ui.cmbPrArt->setCurrentIndex(-1);
+    mGitter.beschriften();
+}
+
+void frmNeuRezept::Form_Load() {
+    beschriften();
+    fnc_Fill_CmbToleranz();
+    ui.laInfo->setText(
+        inSprache({"Bitte geben Sie einen Rezeptnamen ein und wählen Sie eine Spezifikation.",
+                   "Please enter a recipe name and choose a specification."}));
+    ui.txtRezName->setFocus();
+}
+
+void frmNeuRezept::Form_Activate() try {
+    if (ui.txtRezName->isHidden()) { // back from the copy
+        fnc_NavigationFreigeben();
+        pbFirst_Click();
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 3039 - ", "ERROR 3039 - ", fehler);
+}
+
+bool frmNeuRezept::Form_QueryUnload() {
+    return mbFertig || (feldGeprüft() && verlassen());
+}
+
+void frmNeuRezept::Form_Unload() {
+    if (Screen *list = loaded(frm::Rezepte))
+        list->show();
+    else
+        ::screen(frm::Rezepte).showModal();
+}
+
+void frmNeuRezept::fnc_Fill_CmbToleranz() try {
+    ui.cmbToleranz->clear();
+    ui.cmbToleranz->addItems(spalte(gDatenbank.open("SELECT Bezeichnung FROM Toleranzen"), 0));
+    ui.cmbToleranz->setCurrentIndex(-1);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler NR01- ", "ERROR NR01- ", fehler);
+}
+
+void frmNeuRezept::txtRezName_Change() {
+    ui.pbRezSave->setEnabled(!ui.txtRezName->text().trimmed().isEmpty() &&
+                             !ui.cmbToleranz->currentText().isEmpty());
+}
+
+void frmNeuRezept::fnc_RezeptnameSpeichern() try {
+    if (fnc_RezeptnameVorhanden())
+        return;
+    const int answer = meldung(
+        {"Wollen sie diesen Rezeptnamen speichern?", "Do you want to save this recipe name?"},
+        YesNo | Question, {"Message!", "MESSAGE!"});
+    if (answer == No) {
+        ui.txtRezName->setFocus();
+        ui.txtRezName->clear();
+        ui.cmbToleranz->setCurrentIndex(-1);
+        return;
+    }
+    const QString name = ui.txtRezName->text();
+    gDatenbank.execute("INSERT INTO Rezeptnamen (RezName, ToleranzID) VALUES (?, ?)",
+                       {name, toleranzSchlüssel(ui.cmbToleranz->currentText())});
+    gRezeptID = rezeptSchlüssel(name);
+    schritteFreigeben();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1030 - ", "ERROR 1030 - ", fehler);
+}
+
+/// Also true when it cannot be found out.
+bool frmNeuRezept::fnc_RezeptnameVorhanden() try {
+    if (gDatenbank
+            .open("SELECT RezeptID FROM Rezeptnamen WHERE Gleich(RezName, ?)",
+                  {ui.txtRezName->text()})
+            .empty())
+        return false;
+    meldung({" Diesen Rezeptnamen gibt es bereits!\rWählen Sie einen anderen!",
+             "This recipe name is already existent!\rChoose another name!"},
+            Critical, {"Message", "MESSAGE"});
+    ui.txtRezName->setFocus();
+    ui.txtRezName->clear();
+    return true;
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1041 - ", "ERROR 1041 - ", fehler);
+    return true;
+}
+
+void frmNeuRezept::schritteFreigeben() {
+    ui.lbRezSaved->setText(umbrechbar(ui.txtRezName->text()));
+    ui.lbToleranzSave->setText(umbrechbar(ui.cmbToleranz->currentText()));
+    gitterZeigen(0);
+    schrittnummerZeigen(1);
+    for (QWidget *field :
+         std::initializer_list<QWidget *>{ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.pbKopie})
+        field->setEnabled(true);
+    ui.laInfo->setText(inSprache({"Geben Sie bitte die Daten für den neuen Prüfschritt ein!",
+                                  "Please enter data for the actual test step!"}));
+    ui.txtDrehzahl->setFocus();
+    ui.txtRezName->hide();
+    ui.cmbToleranz->hide();
+    ui.pbRezSave->hide();
+    ui.lbRezSaved->show();
+    ui.lbToleranzSave->show();
+}
+
+void frmNeuRezept::pbok_Click() {
+    gRezeptWahl = ui.txtRezName->text();
+    mbFertig = true;
+    unload();
+}
+
+/// Decides about the recipe when the screen is left other than by pbok. False when it stays.
+bool frmNeuRezept::verlassen() try {
+    if (!ui.txtRezName->isHidden()) // no name saved
+        return true;
+    const bool input = !fnc_EingabeLeer();
+    if ((mGitter.leer() && !input) || fnc_FrageVerwerfen()) {
+        rezeptLöschen(gRezeptID);
+        return true;
+    }
+    if (!input)
+        return true;
+    if (!fnc_SchrittPrüfen() || !fnc_SchrittAnlegen())
+        return false;
+    gRezeptWahl = ui.txtRezName->text();
+    fnc_RezeptlisteAktualisieren();
+    return true;
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1023 - ", "ERROR 1023 - ", fehler);
+    return false;
+}
+
+bool frmNeuRezept::fnc_EingabeLeer() const {
+    return ui.txtDrehzahl->text().isEmpty() && ui.txtLeistung->text().isEmpty() &&
+           ui.cmbPrArt->currentText().isEmpty();
+}
+
+bool frmNeuRezept::fnc_FrageVerwerfen() {
+    return meldung({"Rezept wurde nicht gespeichert!\rSollen die Daten verworfen werden? ",
+                    "Recipe has not been saved! \rShall data be discarded?"},
+                   YesNo | Question, {"Message", "MESSAGE"}) == Yes;
+}
+
+/// The name goes into the list when that is activated.
+void frmNeuRezept::fnc_RezeptlisteAktualisieren() try {
+    if (auto *list = loaded<frmRezepte>())
+        list->fnc_ListeFüllen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1037 - ", "ERROR 1037 - ", fehler);
+}

@@ -1,0 +1,137 @@
+#include "frmRezeptKopie.h"
+
+#include <QLineEdit>
+#include <QShortcut>
+
+#include "database.h"
+#include "frmNeuRezept.h"
+#include "msgbox.h"
+#include "rezept.h"
+#include "schrittliste.h"
+#include "session.h"
+#include "spalte.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Copy Recipe"},
+    {"lbRezeptname", "&Recipe:"},
+    {"FrRezept", "Recipe Whose Test Steps Are Copied"},
+    {"lbSpezifikation", "Specification:"},
+    {"pbok", "&OK"},
+    {"pbexit", "&Cancel"},
+};
+
+} // namespace
+
+frmRezeptKopie::frmRezeptKopie() {
+    ui.setupUi(this);
+    mSuche.verbinden(ui.cmbRezeptname, ui.lstRezepte);
+    mGitter.verbinden(ui.DBGridRez);
+    on(ui.cmbRezeptname, &QComboBox::editTextChanged, [this] { cmbRezeptname_Change(); });
+    onKey(ui.cmbRezeptname, [this](QKeyEvent &key) { return mSuche.taste(key); });
+    onEnter(ui.cmbRezeptname, [this] { cmbRezeptname_Enter(); });
+    on(ui.lstRezepte->selectionModel(), &QItemSelectionModel::selectionChanged,
+       [this] { mSuche.zeileGewählt(); });
+    on(ui.lstRezepte, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
+    on(ui.lstRezepte, &QListView::doubleClicked, [this] { pbok_Click(); });
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+void frmRezeptKopie::Form_Load() {
+    englischBeschriften(*this, english);
+    ui.cmbRezeptname->lineEdit()->setPlaceholderText(
+        inSprache({"Name oder Teil davon", "Name or part of it"}));
+    mGitter.beschriften();
+    ui.cmbRezeptname->setFocus();
+}
+
+void frmRezeptKopie::Form_Activate() try { fnc_ListeFüllen(); } catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1013 - ", "ERROR 1013 - ", fehler);
+}
+
+void frmRezeptKopie::Form_Unload() try {
+    if (auto *neu = loaded<frmNeuRezept>()) {
+        neu->show();
+        neu->fnc_GitterAktualisieren();
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1018 - ", "ERROR 1018 - ", fehler);
+}
+
+void frmRezeptKopie::fnc_ListeFüllen() try {
+    mSuche.füllen(spalte(gDatenbank.open("select Rezname from Rezeptnamen"), 0));
+    ui.laInfo->setText(inSprache({"Rezeptanzahl: ", "Number Of Recipes: "}) +
+                       QString::number(mSuche.namen().size()));
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1016 - ", "ERROR 1016 - ", fehler);
+}
+
+void frmRezeptKopie::cmbRezeptname_Change() {
+    mSuche.textGeändert();
+    cmbRezeptname_Click();
+}
+
+void frmRezeptKopie::cmbRezeptname_Click() try {
+    ui.pbok->setEnabled(false);
+    ui.lbRezTol->clear();
+    mGitter.zeigen({});
+    const QString name = mSuche.name();
+    if (name.isEmpty())
+        return;
+    const RezeptKopf kopf = rezeptKopf(name);
+    ui.lbRezTol->setText(kopf.toleranz);
+    mGitter.zeigen(rezeptSchritte(kopf.rezeptID));
+    ui.pbok->setEnabled(true);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1012 - ", "ERROR 1012 - ", fehler);
+}
+
+void frmRezeptKopie::cmbRezeptname_Enter() {
+    switch (mSuche.abschließen()) { // a completed name shows its steps by the change of the text
+    case Suchliste::Eingabe::Leer:
+    case Suchliste::Eingabe::Unbekannt:
+        meldung({"Es wurden keine Daten gefunden! ", "No data found! "}, Information,
+                {"Rezepte", "Recipes"});
+        break;
+    case Suchliste::Eingabe::Ergänzt:
+        break;
+    case Suchliste::Eingabe::Vollständig:
+        pbok_Click();
+        break;
+    }
+}
+
+/// By the first letter of the type as it is shown, and in German only: under English every copied
+/// step becomes a speed step.
+bool frmRezeptKopie::fnc_SchrittAnlegen(const Recordset &schritt) try {
+    Schritt copy = schrittAus(schritt);
+    copy.prüfart =
+        schritt["Messart"].text().startsWith('L') ? prüfart::Leistung : prüfart::Drehzahl;
+    Schrittliste("Rezepte").anlegen(gRezeptID, copy);
+    return true;
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1036 - ", "ERROR 1036 - ", fehler);
+    return false;
+}
+
+/// A step that fails ends the copy; those before it stay.
+void frmRezeptKopie::pbok_Click() try {
+    if (!ui.pbok->isEnabled())
+        return;
+    Recordset rows = mGitter.schritte();
+    for (rows.moveFirst(); !rows.atEnd(); rows.moveNext()) {
+        if (!fnc_SchrittAnlegen(rows))
+            break;
+    }
+    if (auto *neu = loaded<frmNeuRezept>())
+        neu->neuenSchrittFreigeben();
+    unload();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 12008 - ", "ERROR 12008 - ", fehler);
+}

@@ -1,0 +1,31 @@
+// Fills a new recipe, which has no steps yet, with the steps of another one. The recipe of the
+// session stays the new one whatever is looked at here.
+#pragma once
+
+#include "schrittgitter.h"
+#include "screens.h"
+#include "suchliste.h"
+#include "ui_frmRezeptKopie.h"
+
+class frmRezeptKopie : public Screen {
+  public:
+    static constexpr frm id = frm::RezeptKopie;
+    frmRezeptKopie();
+
+  protected:
+    void Form_Load() override;
+    void Form_Activate() override;
+    void Form_Unload() override;
+
+  private:
+    void fnc_ListeFüllen();
+    void cmbRezeptname_Change();
+    void cmbRezeptname_Click();
+    void cmbRezeptname_Enter();
+    bool fnc_SchrittAnlegen(const Recordset &schritt);
+    void pbok_Click();
+
+    Ui::frmRezeptKopie ui;
+    Schrittgitter mGitter;
+    Suchliste mSuche;
+};

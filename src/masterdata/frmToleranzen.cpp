@@ -1,0 +1,373 @@
+#include "frmToleranzen.h"
+
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QShortcut>
+
+#include "msgbox.h"
+#include "rezept.h"
+#include "schluessel.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "Spezifikation KE"},
+    {"lbBezTol", "Description"},
+    {"lbName", "Name"},
+    {"Label1", "MPE"},
+    {"frLMess", "Power Measurement"},
+    {"lbTolProz", "relative in %:"},
+    {"lbWatt", "absolute in W:"},
+    {"frDMess", "Speed Measurement"},
+    {"laAbw", "absolute in rpm:"},
+    {"laGKlasse", "Type Of Device"},
+    {"laMessverfahren", "Measuring Method"},
+    {"pbNew", "&New"},
+    {"pbEdit", "&Edit"},
+    {"pbDelete", "&Delete"},
+    {"pbSave", "&Save"},
+    {"pbok", "&OK"},
+    {"pbexit", "&Cancel"},
+};
+
+} // namespace
+
+frmToleranzen::frmToleranzen() {
+    ui.setupUi(this);
+    ui.cmbGKlasse->setCompleter(nullptr); // it would write into the box while a person types
+    ui.cmbGKlasse->lineEdit()->setMaxLength(255);
+    QSizePolicy policy = ui.details->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    ui.details->setSizePolicy(policy);
+    blockZeigen(false);
+    ui.pbEdit->setVisible(false);
+    for (QPushButton *button : {ui.pbEdit, ui.pbDelete, ui.pbSave})
+        button->setEnabled(false);
+    verdrahten();
+}
+
+void frmToleranzen::verdrahten() {
+    on(ui.cmbBezTol, &QComboBox::activated, [this] { cmbBezTol_Click(); });
+    QWidget *const order[] = {ui.txtTolBez, ui.txtTolProz, ui.txtTolWatt,
+                              ui.txtAbw,    ui.cmbGKlasse, ui.txtMessverfahren};
+    for (size_t i = 0; i + 1 < std::size(order); ++i) {
+        onEnter(order[i], [next = order[i + 1]] { next->setFocus(Qt::TabFocusReason); });
+        onGotFocus(order[i], [this] { altWertMerken(); });
+    }
+    onGotFocus(ui.txtMessverfahren, [this] { altWertMerken(); });
+    onEnter(ui.txtMessverfahren, [this] {
+        ui.pbSave->setEnabled(true);
+        ui.pbSave->setFocus();
+    });
+    onLostFocus(ui.txtTolBez, [this] { txtTolBez_LostFocus(); });
+    onLostFocus(ui.txtTolProz, [this] { txtTolProz_LostFocus(); });
+    onLostFocus(ui.txtTolWatt, [this] { txtTolWatt_LostFocus(); });
+    onLostFocus(ui.txtAbw, [this] { txtAbw_LostFocus(); });
+    onLostFocus(ui.txtMessverfahren, [this] { txtMessverfahren_LostFocus(); });
+    onKey(ui.cmbGKlasse, [this](QKeyEvent &key) {
+        msGKlasseTaste = key.text().toUpper();
+        return false;
+    });
+    on(ui.cmbGKlasse->lineEdit(), &QLineEdit::textEdited, [this] { cmbGKlasse_Change(); });
+    on(ui.cmbGKlasse, &QComboBox::activated, [this] {
+        if (eingabe().vollständig())
+            ui.pbSave->setEnabled(true);
+    });
+    onClick(ui.pbNew, [this] { pbNew_Click(); });
+    onClick(ui.pbEdit, [this] { pbEdit_Click(); });
+    onClick(ui.pbDelete, [this] { pbDelete_Click(); });
+    onClick(ui.pbSave, [this] { pbSave_Click(); });
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbexit, [this] { pbexit_Click(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { pbexit_Click(); });
+}
+
+void frmToleranzen::beschriften() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+}
+
+void frmToleranzen::Form_Load() {
+    beschriften();
+    fnc_Fill_CmbBezTol();
+    fnc_Fill_CmbGKlasse();
+    ui.cmbBezTol->setFocus();
+}
+
+void frmToleranzen::Form_Unload() {
+    sitzungsrezeptEinsetzen();
+}
+
+void frmToleranzen::blockZeigen(bool sichtbar) {
+    ui.details->setVisible(sichtbar);
+}
+
+/// The picker stands on the row of mnToleranzID, or on none.
+void frmToleranzen::zeileZeigen() {
+    int row = mrsToleranzen.count() - 1;
+    while (row >= 0 && mrsToleranzen.at(row, 0).toInt() != mnToleranzID)
+        --row;
+    ui.cmbBezTol->setCurrentIndex(row);
+}
+
+void frmToleranzen::felderLeeren() {
+    for (QLineEdit *field :
+         {ui.txtTolBez, ui.txtTolProz, ui.txtTolWatt, ui.txtAbw, ui.txtMessverfahren})
+        field->clear();
+    klasseSetzen({});
+}
+
+/// The row of mnToleranzID; without one the fields stay as they are.
+void frmToleranzen::felderZeigen() {
+    const std::optional<Toleranz> row = toleranzMitID(mnToleranzID);
+    if (!row)
+        return;
+    ui.txtTolBez->setText(row->bezeichnung);
+    ui.txtTolProz->setText(row->prozent);
+    ui.txtTolWatt->setText(row->watt);
+    ui.txtAbw->setText(row->grenzAbw);
+    klasseSetzen(row->gKlasse);
+    ui.txtMessverfahren->setText(row->messverfahren);
+    ui.txtTolBez->setCursorPosition(0);
+    ui.txtMessverfahren->setCursorPosition(0);
+    altWertMerken(); // a field that has the keyboard took it before it was filled
+}
+
+Toleranz frmToleranzen::eingabe() const {
+    return {ui.txtTolBez->text(), ui.txtTolProz->text(),        ui.txtTolWatt->text(),
+            ui.txtAbw->text(),    ui.cmbGKlasse->currentText(), ui.txtMessverfahren->text()};
+}
+
+void frmToleranzen::fnc_Fill_CmbBezTol() try {
+    mrsToleranzen = toleranzListe();
+    ui.cmbBezTol->clear();
+    for (int row = 0; row < mrsToleranzen.count(); ++row)
+        ui.cmbBezTol->addItem(mrsToleranzen.at(row, 1).toString());
+    ui.cmbBezTol->setCurrentIndex(-1);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol01 - ", "ERROR Tol01 - ", fehler);
+}
+
+void frmToleranzen::fnc_Fill_CmbGKlasse() {
+    ui.cmbGKlasse->clear();
+    ui.cmbGKlasse->addItems({inSprache(klasseMedizin), inSprache(klasseStationär)});
+    klasseSetzen({});
+}
+
+void frmToleranzen::fnc_Find_ToleranzID() {
+    const QString entry = ui.cmbBezTol->currentText();
+    if (entry.isEmpty())
+        return;
+    for (mrsToleranzen.moveFirst(); !mrsToleranzen.atEnd(); mrsToleranzen.moveNext()) {
+        if (mrsToleranzen["Toleranz"].text() == entry) {
+            schlüsselNach(mnToleranzID, mrsToleranzen["ID"]);
+            break;
+        }
+    }
+    ui.pbDelete->setEnabled(true);
+    ui.pbNew->setEnabled(true);
+    if (!mbBearbeiten)
+        ui.pbEdit->setEnabled(true);
+}
+
+void frmToleranzen::cmbBezTol_Click() try {
+    if (mbNeu) {
+        auswahlImNeuModus();
+    } else if (!mbBearbeiten) {
+        fnc_Find_ToleranzID();
+        pbEdit_Click();
+    } else if (mbGeändert) {
+        auswahlNachÄnderung();
+    } else {
+        fnc_Find_ToleranzID();
+        felderZeigen();
+    }
+} catch (const Fehler &fehler) {
+    zeileZeigen(); // the buttons speak about this one still
+    fehlerBox("Fehler Tol02 - ", "ERROR Tol02 - ", fehler);
+}
+
+void frmToleranzen::auswahlImNeuModus() {
+    int answer = No;
+    if (ui.pbSave->isEnabled()) {
+        answer = meldung({"Wollen Sie die Daten speichern?\r"
+                          "Klicken Sie auf Abbrechen, um ihre Eingabe zu beenden!",
+                          "Shall data be saved?\rPush 'Cancel' to determine your input!"},
+                         YesNoCancel | Exclamation, {"Daten speichern?", "Save data?"});
+    }
+    if (answer == Cancel) {
+        ui.cmbBezTol->setCurrentIndex(-1);
+        ui.txtTolBez->setFocus();
+        return;
+    }
+    if (answer == Yes) {
+        const int picked = ui.cmbBezTol->currentIndex();
+        pbNew_Click();
+        ui.cmbBezTol->setCurrentIndex(picked);
+    }
+    fnc_Find_ToleranzID();
+    pbEdit_Click();
+}
+
+void frmToleranzen::auswahlNachÄnderung() {
+    const int answer =
+        meldung({"Wollen Sie die Änderungen speichern?", "Do you want to save the changes?"},
+                YesNo | Question, {"Änderungen speichern?", "Save changes?"});
+    if (answer == Yes) {
+        pbEdit_Click();
+        fnc_Find_ToleranzID();
+        pbEdit_Click();
+    } else {
+        mbGeändert = false;
+        fnc_Find_ToleranzID();
+        felderZeigen();
+    }
+}
+
+void frmToleranzen::pbNew_Click() try {
+    mbNeu = true;
+    ui.cmbBezTol->setCurrentIndex(-1);
+    felderLeeren();
+    blockZeigen(true);
+    ui.txtTolBez->setFocus(); // before its button is disabled, or the keyboard goes elsewhere
+    for (QPushButton *button : {ui.pbNew, ui.pbDelete, ui.pbEdit})
+        button->setEnabled(false);
+    mbBearbeiten = false;
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol04 - ", "ERROR Tol04 - ", fehler);
+}
+
+void frmToleranzen::pbEdit_Click() try {
+    mbBearbeiten = true;
+    mbGeändert = false;
+    felderLeeren();
+    blockZeigen(true);
+    ui.txtTolBez->setFocus();
+    ui.pbEdit->setEnabled(false);
+    mbNeu = false;
+    felderZeigen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol07 - ", "ERROR Tol07 - ", fehler);
+}
+
+void frmToleranzen::pbDelete_Click() try {
+    if (mbNeu) {
+        mbNeu = false;
+        blockZeigen(false);
+    }
+    const int answer =
+        meldung({"Sollen diese Daten jetzt gelöscht werden?", "Shall data be deleted?"},
+                YesNo | Question, {"Löschen", "Delete"});
+    if (answer == Yes) {
+        toleranzLöschen(mnToleranzID);
+        fnc_Fill_CmbBezTol();
+        ui.cmbBezTol->setFocus();
+        for (QPushButton *button : {ui.pbDelete, ui.pbEdit, ui.pbSave})
+            button->setEnabled(false);
+        if (mbBearbeiten) {
+            mbBearbeiten = false;
+            blockZeigen(false);
+        }
+    } else if (mbBearbeiten) {
+        ui.txtTolBez->setFocus();
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol06 - ", "ERROR Tol06 - ", fehler);
+}
+
+void frmToleranzen::pbSave_Click() try {
+    if (mbNeu)
+        neueSpeichern();
+    else if (mbBearbeiten)
+        änderungSpeichern();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol08 - ", "ERROR Tol08 - ", fehler);
+}
+
+void frmToleranzen::neueSpeichern() {
+    mbNeu = false;
+    if (!eingabe().vollständig()) {
+        meldung({"Die Daten sind unvollständig.\rBitte vervollständigen Sie ihre Angaben!",
+                 "Data are incomplete.\rPlease complete it!"},
+                Exclamation, {"Unvollständige Angaben", "Incomlete Data"});
+        mbNeu = true;
+        return;
+    }
+    toleranzEinfügen(eingabe());
+    meldung({"Eingaben wurden gespeichert!", "Input data have been changed!"}, Information,
+            {"Meldung", "Information"});
+    blockZeigen(false);
+    fnc_Fill_CmbBezTol();
+    ui.cmbBezTol->setFocus();
+    ui.pbNew->setEnabled(true);
+}
+
+void frmToleranzen::änderungSpeichern() {
+    mbBearbeiten = false;
+    mbGeändert = false;
+    toleranzÄndern(mnToleranzID, eingabe());
+    meldung({"Eingaben wurden gespeichert!", "Data have been saved!"}, Information,
+            {"Meldung", "Information"});
+    blockZeigen(false);
+    fnc_Fill_CmbBezTol();
+    zeileZeigen();
+    ui.cmbBezTol->setFocus();
+    ui.pbEdit->setEnabled(true);
+    ui.pbSave->setEnabled(false);
+}
+
+void frmToleranzen::pbok_Click() {
+    int answer = No;
+    if (mbBearbeiten) {
+        answer = meldung({"Sollen die Änderungen gespeichert werden?", "Shall changes be saved?"},
+                         YesNo | Exclamation, {"Änderungen speichern?", "Save changes?"});
+    } else if (mbNeu) {
+        answer = meldung({"Sollen die Daten vor Verlassen den Formulars gespeichert werden?",
+                          "Shall data be saved before exit?"},
+                         YesNo | Exclamation, {"Daten speichern?", "Save data?"});
+    }
+    if (answer == Yes)
+        pbSave_Click();
+    unload();
+}
+
+void frmToleranzen::pbexit_Click() {
+    unload();
+}
+
+bool frmToleranzen::func_Test_Double() try {
+    if (bezeichnungVergeben(ui.txtTolBez->text())) {
+        meldung({"Diese Bezeichnung für eine Toleranz ist bereits vorhanden.",
+                 "That name for a tolerance already exists."},
+                Critical, {"Meldung", "Information"});
+        return true;
+    }
+    const auto other = toleranzMitWerten(ui.txtTolProz->text(), ui.txtTolWatt->text());
+    if (!other)
+        return false;
+    meldung({"Diese Kombination von Watt und Prozent ist bereits vorhanden. Sie heißt " + *other,
+             "This combination of Watt and percent already exists: " + *other},
+            Information, {"Information", "Information"});
+    return true;
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol03 - ", "ERROR Tol03 - ", fehler);
+    return false;
+}
+
+bool frmToleranzen::func_Test_Interval() try {
+    if (!beideAußerhalb(ui.txtTolProz->text(), ui.txtTolWatt->text()))
+        return false;
+    meldung({"Die Angaben befinden sich außerhalb des erlaubten Intervals!!\r"
+             "Bitte überprüfen Sie Ihre Eingabe.",
+             "Your indications are out of the permissible intervals!!\rPlease check your entry."},
+            Critical, {"Eingabefehler", "Input Error"});
+    return true;
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol04 - ", "ERROR Tol04 - ", fehler);
+    return false;
+}

@@ -1,0 +1,142 @@
+// What happens when a field takes the keyboard, is typed into, and is left.
+#include "frmToleranzen.h"
+
+#include <QLineEdit>
+#include <QScopedValueRollback>
+
+#include <limits>
+
+#include "msgbox.h"
+#include "sprache.h"
+
+using namespace platform;
+
+void frmToleranzen::altWertMerken() {
+    if (!mbBearbeiten)
+        return;
+    if (focusWidget() == ui.txtTolWatt)
+        msAltWert = ui.txtTolProz->text();
+    else if (const auto *field = qobject_cast<QLineEdit *>(focusWidget()))
+        msAltWert = field->text();
+}
+
+void frmToleranzen::änderungPrüfen(const QLineEdit *feld) {
+    if (mbBearbeiten && feld->text() != msAltWert) {
+        mbGeändert = true;
+        ui.pbSave->setEnabled(true);
+    }
+}
+
+void frmToleranzen::vollständigkeitPrüfen() {
+    if (mbNeu)
+        ui.pbSave->setEnabled(eingabe().vollständig());
+}
+
+/// Out of a handler of a field that is just left. The control that was to have the keyboard gets no
+/// chance to be left.
+void frmToleranzen::tastaturNach(QWidget *feld) {
+    const QScopedValueRollback redirected(mUmgelenkt, true);
+    feld->setFocus();
+}
+
+void frmToleranzen::zurückweisen(QLineEdit *feld, const QString &text) {
+    feld->setText(text);
+    tastaturNach(feld);
+}
+
+void frmToleranzen::zahlPrüfen(QLineEdit *feld, double größter, const Text &text, const Text &titel,
+                               const std::function<void(const QString &)> &runden) {
+    if (mUmgelenkt)
+        return;
+    if (!feld->text().trimmed().isEmpty()) {
+        if (außerhalb(feld->text(), 0, größter)) {
+            meldung(text, Critical, titel);
+            zurückweisen(feld, mbBearbeiten ? msAltWert : QString());
+        } else {
+            runden(feld->text());
+            vollständigkeitPrüfen();
+        }
+    }
+    änderungPrüfen(feld);
+}
+
+void frmToleranzen::txtTolBez_LostFocus() try {
+    if (mUmgelenkt)
+        return;
+    const QString name = ui.txtTolBez->text();
+    if (mbNeu && !name.trimmed().isEmpty() && bezeichnungVergeben(name)) {
+        meldung({"Diese Bezeichnung für eine Toleranz gibt es bereits.\r"
+                 "Bitte wählen Sie eine andere!",
+                 "This name for a tolerance already exists!\rPlease try again!"},
+                Critical, {"Doppelter Eintrag", "Input Error"});
+        zurückweisen(ui.txtTolBez, {});
+        return;
+    }
+    vollständigkeitPrüfen();
+    änderungPrüfen(ui.txtTolBez);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol05 - ", "ERROR Tol05 - ", fehler);
+}
+
+void frmToleranzen::txtTolProz_LostFocus() {
+    zahlPrüfen(ui.txtTolProz, größteLeistungstoleranz,
+               {"Der angegebene Wert liegt außerhalb des gültigen Bereichs!",
+                "Value is not within the permissible interval!"},
+               {"Eingabefehler!", "Input Error!"},
+               [this](const QString &text) { func_Round_Procent(text); });
+}
+
+void frmToleranzen::txtTolWatt_LostFocus() {
+    zahlPrüfen(ui.txtTolWatt, größteLeistungstoleranz,
+               {"Der angegebene Wert liegt außerhalb des gültigen Bereichs!",
+                "Your indications are out of the permissible intervals!"},
+               {"Eingabfehler!", "Input Error"},
+               [this](const QString &text) { func_Round_Watt(text); });
+}
+
+void frmToleranzen::txtAbw_LostFocus() try {
+    zahlPrüfen(ui.txtAbw, std::numeric_limits<double>::infinity(),
+               {"Der angegebene Wert liegt außerhalb des gültigen Bereichs!",
+                "The value is not within the permissible interval."},
+               {"Eingabfehler!", "Input Error!"},
+               [this](const QString &text) { ui.txtAbw->setText(drehzahlGerundet(text)); });
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol05 - ", "ERROR Tol05 - ", fehler);
+}
+
+void frmToleranzen::txtMessverfahren_LostFocus() {
+    if (mUmgelenkt || !eingabe().vollständig())
+        return;
+    ui.pbSave->setEnabled(true);
+    tastaturNach(ui.pbSave);
+}
+
+void frmToleranzen::func_Round_Procent(const QString &text) try {
+    if (const auto rounded = leistungGerundet(text, halbeSchritteAbProzent))
+        ui.txtTolProz->setText(*rounded);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol04 - ", "ERROR Tol04 - ", fehler);
+}
+
+void frmToleranzen::func_Round_Watt(const QString &text) try {
+    if (const auto rounded = leistungGerundet(text, halbeSchritteAbWatt))
+        ui.txtTolWatt->setText(*rounded);
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler Tol05 - ", "ERROR Tol05 - ", fehler);
+}
+
+/// Chosen in the list when it stands there, so that leaving the box chooses nothing.
+void frmToleranzen::klasseSetzen(const QString &klasse) {
+    ui.cmbGKlasse->setCurrentIndex(ui.cmbGKlasse->findText(klasse));
+    ui.cmbGKlasse->setEditText(klasse);
+    ui.cmbGKlasse->lineEdit()->setCursorPosition(0);
+}
+
+void frmToleranzen::cmbGKlasse_Change() {
+    if (const QString klasse = klasseZurTaste(msGKlasseTaste); !klasse.isEmpty()) {
+        klasseSetzen(klasse);
+        ui.cmbGKlasse->lineEdit()->selectAll();
+    }
+    if (eingabe().vollständig())
+        ui.pbSave->setEnabled(true);
+}

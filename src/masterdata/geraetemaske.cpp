@@ -1,0 +1,94 @@
+#include "geraetemaske.h"
+
+#include <QShortcut>
+
+#include "auswahl.h"
+#include "frmGeraet.h"
+#include "msgbox.h"
+#include "session.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"lbKunde", "Customer:"},
+    {"lbTyp", "Unit &type:"},
+    {"lbHersteller", "&Manufacturer:"},
+    {"lbSerienNr", "Serial &number:"},
+    {"lbIdentNr", "&ID number:"},
+    {"pbSave", "&Save"},
+    {"pbexit", "&Cancel"},
+};
+
+} // namespace
+
+Gerätemaske::Gerätemaske(const Text &titel) : mTitel(titel) {
+    ui.setupUi(this);
+    setCaption(mTitel.german);
+    ui.Label1->hide();
+    onEnter(ui.txtTyp, [this] { ui.txtHersteller->setFocus(); });
+    onEnter(ui.txtHersteller, [this] { ui.txtSerienNr->setFocus(); });
+    onEnter(ui.txtSerienNr, [this] { ui.txtIdentNr->setFocus(); });
+    onEnter(ui.txtIdentNr, [this] { ui.pbSave->click(); });
+    onClick(ui.pbSave, [this] { pbSave_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+void Gerätemaske::vorbereiten() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
+    ui.laKunde->setText(auswahl().kunde);
+    ui.txtTyp->setFocus();
+}
+
+void Gerätemaske::eintragen(const Gerätedaten &gerät) {
+    ui.txtTyp->setText(gerät.typ);
+    ui.txtHersteller->setText(gerät.hersteller);
+    ui.txtSerienNr->setText(gerät.serienNr);
+    ui.txtIdentNr->setText(gerät.identNr);
+    ui.txtTyp->setCursorPosition(0); // a long name shows its start
+}
+
+Gerätedaten Gerätemaske::eingabe() const {
+    return {ui.txtTyp->text(), ui.txtHersteller->text(), ui.txtSerienNr->text(),
+            ui.txtIdentNr->text()};
+}
+
+bool Gerätemaske::prüfen(int gerätID) {
+    const Gerätedaten gerät = eingabe();
+    if (const Text fehlt = fehlendeAngaben(gerät); !fehlt.german.isEmpty()) {
+        meldung(fehlt, Exclamation, {"Eingabefehler", "Error"});
+        for (QLineEdit *feld : {ui.txtTyp, ui.txtHersteller, ui.txtSerienNr, ui.txtIdentNr}) {
+            if (feld->text().trimmed().isEmpty()) {
+                feld->setFocus();
+                break;
+            }
+        }
+        return false;
+    }
+    if (identnummerVergeben(gerät.identNr, gerätID)) {
+        meldung({"Diese Identifikationsnummer ist bereits vergeben!",
+                 "This identification number has already been allocated!"},
+                Exclamation, {"MESSAGE!", "MESSAGE!"});
+        ui.txtIdentNr->setFocus();
+        ui.txtIdentNr->selectAll();
+        return false;
+    }
+    return true;
+}
+
+void Gerätemaske::schließen(const QString &identNr) {
+    unload();
+    if (auto *geräte = loaded<frmGerät>())
+        geräte->fnc_GerätWählen(identNr);
+}
+
+void Gerätemaske::bemerken(const QString &text) {
+    ui.Label1->setText(text);
+    ui.Label1->setVisible(!text.isEmpty());
+}

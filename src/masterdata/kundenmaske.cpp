@@ -1,0 +1,83 @@
+#include "kundenmaske.h"
+
+#include <QLineEdit>
+#include <QShortcut>
+
+#include "database.h"
+#include "frmKunden.h"
+#include "msgbox.h"
+#include "namensliste.h"
+#include "session.h"
+#include "spalte.h"
+#include "sprache.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"lbName", "&Name:"}, {"lbStraße", "St&reet:"}, {"lbPLZ", "&Postal code:"},
+    {"lbOrt", "&Town:"},  {"pbSave", "&Save"},      {"pbexit", "&Cancel"},
+};
+
+const Text eingabefehler{"Eingabefehler", "Error"};
+
+} // namespace
+
+Kundenmaske::Kundenmaske(const Text &titel) : mTitel(titel) {
+    ui.setupUi(this);
+    setCaption(mTitel.german);
+    ui.cmbOrt->setCompleter(nullptr); // it would write into the box while a person types
+    ui.cmbOrt->lineEdit()->setMaxLength(ui.txtName->maxLength());
+    onEnter(ui.txtName, [this] { ui.txtStraße->setFocus(); });
+    onEnter(ui.txtStraße, [this] { ui.txtPLZ->setFocus(); });
+    onEnter(ui.txtPLZ, [this] { ui.cmbOrt->setFocus(); });
+    onEnter(ui.cmbOrt, [this] { ui.pbSave->click(); });
+    onClick(ui.pbSave, [this] { pbSave_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+}
+
+void Kundenmaske::vorbereiten() {
+    if (gSprache == 1)
+        ui.retranslateUi(this);
+    englischBeschriften(*this, english);
+    setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
+    ui.txtName->setFocus();
+    ui.cmbOrt->addItems(
+        Namensliste(spalte(gDatenbank.open("Select distinct Ort from Kunden"), 0)).namen());
+    ui.cmbOrt->setCurrentIndex(-1);
+    ui.cmbOrt->clearEditText();
+}
+
+void Kundenmaske::eintragen(const Kundendaten &kunde) {
+    ui.txtName->setText(kunde.name);
+    ui.txtStraße->setText(kunde.straße);
+    ui.txtPLZ->setText(kunde.plz);
+    ui.cmbOrt->setEditText(kunde.ort);
+    ui.txtName->setCursorPosition(0); // a long name shows its start
+}
+
+Kundendaten Kundenmaske::eingabe() const {
+    return {ui.txtName->text(), ui.txtStraße->text(), ui.txtPLZ->text(), ui.cmbOrt->currentText()};
+}
+
+bool Kundenmaske::prüfen(int kundenID) {
+    const QString name = ui.txtName->text();
+    if (name.trimmed().isEmpty())
+        meldung({" Keine Daten zum Speichern vorhanden! ", " No data to be saved! "}, Exclamation,
+                eingabefehler);
+    else if (kundennameVergeben(name, kundenID))
+        meldung({" Dieser Kunde existiert schon!", " This customer is already existent!"},
+                Exclamation, eingabefehler);
+    else
+        return true;
+    ui.txtName->setFocus();
+    return false;
+}
+
+void Kundenmaske::schließen(const QString &name) {
+    unload();
+    if (auto *kunden = loaded<frmKunden>())
+        kunden->fnc_KundeWählen(name);
+}

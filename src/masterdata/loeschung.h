@@ -1,0 +1,25 @@
+// Deleting a customer or a unit with all that hangs on it. The database has no cascades, and there
+// is no transaction: what a failure finds deleted stays so. No widget.
+#pragma once
+
+#include "text.h"
+
+/// What is deleted together. Both run through the same steps.
+struct Löschplan;
+extern const Löschplan kundenplan; ///< protocols, units, the customer
+extern const Löschplan geräteplan; ///< protocols, the unit
+
+/// Protocols in work and archived ones.
+int protokolleZählen(const Löschplan &plan, int schlüssel);
+/// Units of the customer.
+int geräteZählen(int kundenID);
+
+/// Raises the first failure; nothing after it has run then.
+///
+/// Protocols go together with their measured values, safety and blood-pressure sheets. Heads
+/// without any of these stay with a customer and go with a unit.
+void datensatzLöschen(const Löschplan &plan, int schlüssel);
+
+/// The question before. Two sentences have a carriage return between them.
+platform::Text kundenfrage(int geräte, int protokolle, const QString &name);
+platform::Text gerätefrage(int protokolle, const QString &name);

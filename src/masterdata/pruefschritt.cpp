@@ -1,0 +1,77 @@
+#include "pruefschritt.h"
+
+#include "msgbox.h"
+#include "runtime.h"
+#include "sprache.h"
+#include "sqltext.h"
+
+using namespace platform;
+
+namespace {
+
+Wertprüfung prüfen(const QString &text, double smallest, bool smallestToo, double greatest) {
+    if (!IsNumeric(text))
+        return Wertprüfung::NichtNumerisch;
+    const double value = CDbl(text);
+    const bool low = smallestToo ? value < smallest : value <= smallest;
+    return low || value > greatest ? Wertprüfung::AußerhalbBereich : Wertprüfung::Gültig;
+}
+
+double wert(QString text) {
+    fnc_KommaZuPunkt(text);
+    return Val(text);
+}
+
+} // namespace
+
+Wertprüfung drehzahlPrüfen(const QString &text, const Schrittgrenzen &grenzen) {
+    return prüfen(text, 0, grenzen.stillstand, grenzen.drehzahl);
+}
+
+Wertprüfung leistungPrüfen(const QString &text, const Schrittgrenzen &grenzen) {
+    return prüfen(text, 0, true, grenzen.leistung);
+}
+
+bool drehmomentZulässig(QString drehzahl, QString leistung, const Schrittgrenzen &grenzen) {
+    return drehmoment(wert(std::move(drehzahl)), wert(std::move(leistung))) <= grenzen.drehmoment;
+}
+
+void drehmomentMelden(const Schrittgrenzen &grenzen) {
+    const QString limit = QString::number(grenzen.drehmoment);
+    meldung({"Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!",
+             "The permissible torque has been exeeded!\r\nPlease enter other values!"},
+            OKOnly, {"Drehmoment<=" + limit + "Nm", "Torque<=" + limit + "Nm"});
+}
+
+int prüfart::ausAnfang(const QString &text) {
+    const QChar first = text.isEmpty() ? QChar() : text[0].toUpper();
+    if (first == 'L' || first == 'P')
+        return Leistung;
+    return first == 'D' || first == 'S' ? Drehzahl : Keine;
+}
+
+int prüfart::ausText(const QString &text) {
+    if (text == inSprache(leistungText))
+        return Leistung;
+    return text == inSprache(drehzahlText) ? Drehzahl : Keine;
+}
+
+std::optional<QString> prüfart::ausTaste(const QString &taste) {
+    for (const auto &[code, text] : {std::pair{"1", &leistungText}, {"2", &drehzahlText}}) {
+        const QString &shown = inSprache(*text);
+        if (taste == code || taste.compare(shown.left(1), Qt::CaseInsensitive) == 0)
+            return shown;
+    }
+    return std::nullopt;
+}
+
+QString fehlendeAngaben(bool drehzahl, bool leistung, bool prüfart) {
+    QString missing;
+    if (drehzahl)
+        missing = " die Drehzahl";
+    if (leistung)
+        missing += missing.isEmpty() ? " die Leistung" : ", Leistung";
+    if (prüfart)
+        missing += missing.isEmpty() ? " die Prüfart" : " und Prüfart";
+    return missing;
+}

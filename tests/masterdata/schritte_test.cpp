@@ -1,0 +1,211 @@
+// Test steps of a recipe: what may be entered, and how their numbers are kept without gaps.
+#include <QLocale>
+
+#include <random>
+
+#include "pruefschritt.h"
+#include "runtime.h"
+#include "schrittliste.h"
+#include "session.h"
+#include "workplace.h"
+
+namespace {
+
+using namespace support;
+using enum Wertprüfung;
+
+const QLocale comma(QLocale::German, QLocale::Germany);
+const QLocale point(QLocale::English, QLocale::UnitedStates);
+
+class Steps : public Workshop {
+  protected:
+    ~Steps() override { platform::setNumberLocale(QLocale()); }
+};
+
+TEST_F(Steps, LimitsUnderBothNumberFormats) {
+    const struct {
+        const QLocale &format;
+        const char *text;
+        Wertprüfung neu, änd, power; // speed of a new step, of a changed one, power of both
+    } cases[] = {
+        {comma, "0", AußerhalbBereich, Gültig, Gültig},
+        {comma, "-1", AußerhalbBereich, AußerhalbBereich, AußerhalbBereich},
+        {comma, "0,1", Gültig, Gültig, Gültig},
+        {comma, "120", Gültig, Gültig, Gültig},
+        {comma, "120,5", AußerhalbBereich, AußerhalbBereich, Gültig},
+        {comma, "600", AußerhalbBereich, AußerhalbBereich, Gültig},
+        {comma, "600,1", AußerhalbBereich, AußerhalbBereich, AußerhalbBereich},
+        {comma, "60 W", NichtNumerisch, NichtNumerisch, NichtNumerisch},
+        {comma, "60.5", NichtNumerisch, NichtNumerisch, NichtNumerisch},
+        {point, "60.5", Gültig, Gültig, Gültig},
+        {point, "120.5", AußerhalbBereich, AußerhalbBereich, Gültig},
+        {point, "60,5", NichtNumerisch, NichtNumerisch, NichtNumerisch},
+    };
+    for (const auto &c : cases) {
+        platform::setNumberLocale(c.format);
+        EXPECT_EQ(drehzahlPrüfen(c.text, grenzenNeuRezept), c.neu) << c.text;
+        EXPECT_EQ(drehzahlPrüfen(c.text, grenzenÄndRez), c.änd) << c.text;
+        EXPECT_EQ(leistungPrüfen(c.text, grenzenNeuRezept), c.power) << c.text;
+        EXPECT_EQ(leistungPrüfen(c.text, grenzenÄndRez), c.power) << c.text;
+    }
+}
+
+TEST_F(Steps, TorqueIsLimited) {
+    const struct {
+        const char *speed, *power;
+        bool allowed;
+    } cases[] = {
+        {"100", "600", true},    // 57.3 N m
+        {"60", "400", false},    // 63.7
+        {"10", "62.8", true},    // 60 to the letter
+        {"10", "62,8", true},    // a comma is a decimal point under either format
+        {"10", "62,9", false},   //
+        {"0", "600", true},      // counts as 0
+        {"nichts", "600", true}, // likewise
+        {"0,5", "3,15", false},  // 60.19
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(drehmomentZulässig(c.speed, c.power, grenzenNeuRezept), c.allowed)
+            << c.speed << ' ' << c.power;
+}
+
+TEST_F(Steps, TypesAndWhatIsMissing) {
+    const struct {
+        int language;
+        const char *key;
+        const char *text; // null: the key stands for nothing
+        int code;
+    } keys[] = {
+        {1, "L", "Leistungsmessung", 1},
+        {1, "1", "Leistungsmessung", 1},
+        {1, "d", "Drehzahlmessung", 2},
+        {1, "2", "Drehzahlmessung", 2},
+        {1, "P", nullptr, 0},
+        {1, "", nullptr, 0},
+        {2, "P", "Power Measurement", 1},
+        {2, "1", "Power Measurement", 1},
+        {2, "s", "Speed Measurement", 2},
+        {2, "2", "Speed Measurement", 2},
+        {2, "L", nullptr, 0},
+        {2, "3", nullptr, 0},
+    };
+    for (const auto &k : keys) {
+        gSprache = static_cast<std::int16_t>(k.language);
+        const auto text = prüfart::ausTaste(k.key);
+        EXPECT_EQ(text.value_or(QString()), QString(k.text)) << k.language << k.key;
+        EXPECT_EQ(prüfart::ausText(text.value_or("Leistung")), k.code);
+        EXPECT_EQ(prüfart::ausAnfang(text.value_or("X")), k.code);
+    }
+    const char *missing[] = {"",
+                             " die Drehzahl",
+                             " die Leistung",
+                             " die Drehzahl, Leistung",
+                             " die Prüfart",
+                             " die Drehzahl und Prüfart",
+                             " die Leistung und Prüfart",
+                             " die Drehzahl, Leistung und Prüfart"};
+    for (int bits = 0; bits < 8; ++bits)
+        EXPECT_EQ(fehlendeAngaben(bits & 1, bits & 2, bits & 4), missing[bits]);
+}
+
+TEST_F(Steps, PlansOfRenumbering) {
+    using Plan = std::vector<Umnummerierung>;
+    EXPECT_EQ(platzSchaffen(1, 5), (Plan{{5, 6}, {4, 5}, {3, 4}, {2, 3}, {1, 2}}));
+    EXPECT_EQ(platzSchaffen(6, 5), Plan{});
+    EXPECT_EQ(lückeSchließen(3, 5), (Plan{{4, 3}, {5, 4}}));
+    EXPECT_EQ(lückeSchließen(5, 5), Plan{});
+}
+
+class StepTable : public Workshop, public testing::WithParamInterface<const char *> {
+  protected:
+    static constexpr std::int16_t own = 700, other = 701;
+    const Schrittliste steps{GetParam()};
+
+    static Schritt step(int number, int power) {
+        return {number, "60", QString::number(power), 1 + power % 2};
+    }
+    /// Power of each step of the recipe in the order of their numbers, which have to be 1, 2, 3 ...
+    std::vector<int> powers(std::int16_t recipe) {
+        std::vector<int> found;
+        const Recordset rows =
+            gDatenbank.open(QString("SELECT Prüfschritt, Leistung FROM %1 WHERE RezeptID = ? "
+                                    "ORDER BY Val(Prüfschritt)")
+                                .arg(GetParam()),
+                            {recipe});
+        for (int row = 0; row < rows.count(); ++row) {
+            EXPECT_EQ(rows.at(row, 0).toString(), QString::number(row + 1));
+            found.push_back(rows.at(row, 1).toInt());
+        }
+        return found;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Tables, StepTable, testing::Values("Rezepte", "ÄndRez_temp"));
+
+TEST_P(StepTable, NumbersStayWithoutGapOrDouble) {
+    gDatenbank.openFile(datenbankName);
+    for (int number = 1; number <= 12; ++number)
+        steps.anlegen(other, step(number, number));
+    const std::vector<int> bystander = powers(other);
+
+    std::mt19937 random(20);
+    std::vector<int> model;
+    for (int turn = 0; turn < 120; ++turn) {
+        const int size = static_cast<int>(model.size());
+        EXPECT_EQ(steps.größteNummer(own), size);
+        const int at = std::uniform_int_distribution(1, size + 1)(random);
+        EXPECT_EQ(steps.vorhanden(own, at), at <= size);
+        if (at <= size && random() % 5 < 2) {
+            steps.löschen(own, at);
+            model.erase(model.begin() + at - 1);
+        } else if (at <= size && random() % 3 == 0) {
+            steps.ändern(own, step(at, 1000 + turn));
+            model[static_cast<size_t>(at) - 1] = 1000 + turn;
+        } else {
+            steps.einfügen(own, step(at, turn));
+            model.insert(model.begin() + at - 1, turn);
+        }
+        EXPECT_EQ(powers(own), model) << "turn " << turn;
+    }
+    EXPECT_GT(model.size(), 10u) << "two digits are among them";
+    EXPECT_EQ(powers(other), bystander);
+}
+
+TEST_P(StepTable, IncompleteStepsMoveNothing) {
+    gDatenbank.openFile(datenbankName);
+    for (int number = 1; number <= 3; ++number)
+        steps.anlegen(own, step(number, number));
+    const Schritt incomplete[] = {
+        {1, "", "50", 1},   {1, "60", "", 1},   {1, "60", "viel", 1},
+        {1, "60", "50", 0}, {0, "60", "50", 1},
+    };
+    for (const Schritt &bad : incomplete) {
+        EXPECT_THROW(steps.einfügen(own, bad), Fehler);
+        EXPECT_THROW(steps.anlegen(own, bad), Fehler);
+        EXPECT_THROW(steps.ändern(own, bad), Fehler);
+        EXPECT_EQ(powers(own), (std::vector<int>{1, 2, 3}));
+    }
+}
+
+TEST_P(StepTable, NumbersAreReadUnderAnyFormat) {
+    gDatenbank.openFile(datenbankName);
+    for (const auto *format : {&comma, &point}) {
+        platform::setNumberLocale(*format);
+        const QString typed = platform::CStr(60.5);
+        steps.anlegen(own, {1, typed, platform::CStr(75.5), 2});
+        for (const auto *reader : {&comma, &point}) {
+            platform::setNumberLocale(*reader);
+            const Recordset rows = std::string(GetParam()) == "Rezepte" ? gespeicherteSchritte(own)
+                                                                        : kopierteSchritte();
+            const Schritt read = schrittAus(rows);
+            EXPECT_EQ(read.nummer, 1);
+            EXPECT_EQ(read.drehzahl, platform::CStr(60.5));
+            EXPECT_EQ(read.leistung, platform::CStr(75.5));
+            EXPECT_EQ(read.prüfart, 2);
+        }
+        steps.löschen(own, 1);
+    }
+    platform::setNumberLocale(QLocale());
+}
+
+} // namespace
