@@ -33,7 +33,7 @@ class FirstPaint : public QObject {
         // The window sends its backing store to the display when this event has been handled.
         if (watched == loaded(frm::Splash) && event->type() == QEvent::Paint)
             QMetaObject::invokeMethod(
-                this, [] { QApplication::quit(); }, Qt::QueuedConnection);
+                this, [] { QApplication::exit(); }, Qt::QueuedConnection);
         return false;
     }
 };

@@ -301,14 +301,11 @@ void frmDesktop::mnuGerät_Click() try {
         gDatenbank.open("SELECT Gerätetyp FROM Ergometer WHERE KundenID = ?", {gKundenID});
     if (!rows.empty()) {
         ::screen(frm::Gerät).showModal();
-    } else if (exists(frm::NeuGerät)) {
+    } else {
         gNeuModus = true;
         Screen &neu = ::screen(frm::NeuGerät);
         neu.showInfo(inSprache({"Noch kein Gerät vorhanden!", "No Units existent yet!"}));
         neu.showModal();
-    } else {
-        meldung({"Noch kein Gerät vorhanden!", "No Units existent yet!"}, Exclamation,
-                {"Meldung", "Message"});
     }
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 6000 - ", "ERROR 6000 - ", fehler);

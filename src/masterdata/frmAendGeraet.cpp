@@ -6,15 +6,6 @@
 #include "session.h"
 #include "sprache.h"
 
-namespace {
-
-/// gGerätID keeps the last choice when another customer takes the unit off the desktop.
-bool istSitzungsgerät(int gerätID) {
-    return gGerätID == gerätID && !(auswahl().gerät.isEmpty() && auswahl().gerätID.isEmpty());
-}
-
-} // namespace
-
 void frmÄndGerät::Form_Load() try {
     setSpeichernEnabled(false);
     vorbereiten();
@@ -34,7 +25,7 @@ void frmÄndGerät::pbSave_Click() try {
         return;
     const Gerätedaten gerät = eingabe();
     gerätÄndern(mGerätID, gerät);
-    if (istSitzungsgerät(mGerätID))
+    if (gGerätID == mGerätID)
         gerätWählen(gerät.typ, gerät.identNr);
     meldung({" Daten wurden geändert. ", " Data have been changed!"}, platform::Information,
             {"Bestätigung", "MESSAGE"});

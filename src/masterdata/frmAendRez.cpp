@@ -12,6 +12,7 @@
 #include "session.h"
 #include "spalte.h"
 #include "sprache.h"
+#include "umbruch.h"
 
 using namespace platform;
 
@@ -55,6 +56,8 @@ frmÄndRez::frmÄndRez() {
         if (!mGitter.selbst())
             fnc_SchrittAnzeigen();
     });
+    // After saving or inserting the current row is one that the fields do not show.
+    on(ui.DBGridRez, &QTableView::clicked, [this] { fnc_SchrittAnzeigen(); });
     onClick(ui.pbSpeichern, [this] { pbSpeichern_Click(); });
     onClick(ui.pbNeu, [this] { pbNeu_Click(); });
     onClick(ui.pbEinfuegen, [this] { pbEinfuegen_Click(); });
@@ -120,8 +123,9 @@ void frmÄndRez::Form_Activate() try {
     beschriften();
     fnc_Fill_CmbToleranz();
     if (const auto *list = loaded<frmRezepte>()) {
-        eintragSetzen(ui.cmbToleranz, list->toleranz());
-        ui.laRezName->setText(list->rezeptname());
+        mToleranz = list->toleranz();
+        eintragSetzen(ui.cmbToleranz, mToleranz);
+        ui.laRezName->setText(umbrechbar(list->rezeptname()));
     }
     mGitter.zeigen(kopierteSchritte());
     felderLeeren();
@@ -136,11 +140,11 @@ void frmÄndRez::Form_Activate() try {
 }
 
 bool frmÄndRez::Form_QueryUnload() {
-    if (mnAbschluss == Abschluss::Übernehmen)
-        fnc_ÄnderungenÜbernehmen();
-    else if (mnAbschluss == Abschluss::Verwerfen)
-        fnc_ÄnderungenVerwerfen();
-    return true; // by the close box nothing is decided: the copy stays as it is
+    // By the close box nothing is decided: the copy stays as it is. What failed can be tried again.
+    const Abschluss decided = std::exchange(mnAbschluss, Abschluss::Offen);
+    if (decided == Abschluss::Übernehmen)
+        return fnc_ÄnderungenÜbernehmen();
+    return decided != Abschluss::Verwerfen || fnc_ÄnderungenVerwerfen();
 }
 
 void frmÄndRez::Form_Unload() {
@@ -151,18 +155,26 @@ void frmÄndRez::Form_Unload() {
     list->showModal(); // its activation reads the recipe anew
 }
 
-void frmÄndRez::fnc_ÄnderungenÜbernehmen() try {
+bool frmÄndRez::fnc_ÄnderungenÜbernehmen() try {
     gDatenbank.execute("DELETE FROM Rezepte WHERE Rezeptid = ?", {gRezeptID});
+    mNurKopie = true;
     gDatenbank.execute("INSERT INTO Rezepte SELECT * FROM ÄndRez_temp");
+    mNurKopie = false;
     gDatenbank.execute("DELETE FROM ÄndRez_temp");
+    return true;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1123 - ", "ERROR 1123 - ", fehler);
+    return false;
 }
 
-void frmÄndRez::fnc_ÄnderungenVerwerfen() try {
+bool frmÄndRez::fnc_ÄnderungenVerwerfen() try {
+    if (mNurKopie) // what it was copied from is gone by a commit that failed
+        return fnc_ÄnderungenÜbernehmen();
     gDatenbank.execute("DELETE FROM ÄndRez_temp");
+    return true;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1124 - ", "ERROR 1124 - ", fehler);
+    return false;
 }
 
 void frmÄndRez::aktualisieren() {
@@ -207,11 +219,14 @@ void frmÄndRez::cmbToleranz_Change() {
 }
 
 void frmÄndRez::cmbToleranz_Click() try {
-    const Recordset row = gDatenbank.open("SELECT id FROM Toleranzen WHERE Bezeichnung = ?",
-                                          {ui.cmbToleranz->currentText()});
+    const QString name = ui.cmbToleranz->currentText();
+    const Recordset row =
+        gDatenbank.open("SELECT id FROM Toleranzen WHERE Bezeichnung = ?", {name});
     gDatenbank.execute("UPDATE Rezeptnamen SET ToleranzID = ? WHERE Rezeptid = ?",
                        {row["id"].value(), gRezeptID});
+    mToleranz = name;
 } catch (const Fehler &fehler) {
+    eintragSetzen(ui.cmbToleranz, mToleranz); // the one that is in force still
     fehlerBox("Fehler 1120 - ", "ERROR 1120 - ", fehler);
 }
 
@@ -260,51 +275,43 @@ void frmÄndRez::fnc_SchrittAnzeigen() try {
 }
 
 /// Takes the new text of a field that is left, or tells what is wrong with it and sets it back.
-void frmÄndRez::feldÜbernehmen(QLineEdit *feld, const QString &altWert, const Text *mangel,
-                               const Text &titel) {
-    if (!mangel) {
+void frmÄndRez::wertAnnehmen(QLineEdit *feld, const QString &altWert, Wertprüfung prüfung,
+                             const Wertmeldung &meldungen) {
+    if (prüfung == Wertprüfung::Gültig) {
         mbGeändert = true;
         return;
     }
     const QString good = altWert; // taking the keyboard back notes the text anew
-    meldung(*mangel, Exclamation, titel);
+    meldung(prüfung == Wertprüfung::NichtNumerisch ? meldungen.keineZahl : meldungen.außerhalb,
+            Exclamation, meldungen.titel);
     feld->setText(good);
     feld->setFocus();
     feld->selectAll();
 }
 
 void frmÄndRez::txtDrehzahl_LostFocus() try {
-    static const Text keineZahl{"Drehzahl muss ein nummerischer Wert sein!",
-                                "Number of revolutions must be a numerical value!"};
-    static const Text außerhalb{"Drehzahl liegt außerhalb des gültigen Bereiches!",
-                                "Number of revolutions is outside the valid range!"};
     const QString text = ui.txtDrehzahl->text();
     if (text == msAltDrehzahl || text.isEmpty())
         return;
-    const Wertprüfung result = drehzahlPrüfen(text, grenzenÄndRez);
-    feldÜbernehmen(ui.txtDrehzahl, msAltDrehzahl,
-                   result == Wertprüfung::Gültig           ? nullptr
-                   : result == Wertprüfung::NichtNumerisch ? &keineZahl
-                                                           : &außerhalb,
-                   {"Eingabefehler", "Input Error"});
+    wertAnnehmen(ui.txtDrehzahl, msAltDrehzahl, drehzahlPrüfen(text, grenzenÄndRez),
+                 {{"Drehzahl muss ein nummerischer Wert sein!",
+                   "Number of revolutions must be a numerical value!"},
+                  {"Drehzahl liegt außerhalb des gültigen Bereiches!",
+                   "Number of revolutions is outside the valid range!"},
+                  {"Eingabefehler", "Input Error"}});
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1135 - ", "ERROR 1135 - ", fehler);
 }
 
 void frmÄndRez::txtLeistung_LostFocus() try {
-    static const Text keineZahl{"Leistung muss ein nummerischer Wert sein!",
-                                "Power must be a numerical value!"};
-    static const Text außerhalb{"Leistung liegt außerhalb des gültigen Bereiches!",
-                                "Power is outside the valid range!"};
     const QString text = ui.txtLeistung->text();
     if (text == msAltLeistung || text.isEmpty())
         return;
-    const Wertprüfung result = leistungPrüfen(text, grenzenÄndRez);
-    feldÜbernehmen(ui.txtLeistung, msAltLeistung,
-                   result == Wertprüfung::Gültig           ? nullptr
-                   : result == Wertprüfung::NichtNumerisch ? &keineZahl
-                                                           : &außerhalb,
-                   {"Eingabefehler!", "Input Error!"});
+    wertAnnehmen(
+        ui.txtLeistung, msAltLeistung, leistungPrüfen(text, grenzenÄndRez),
+        {{"Leistung muss ein nummerischer Wert sein!", "Power must be a numerical value!"},
+         {"Leistung liegt außerhalb des gültigen Bereiches!", "Power is outside the valid range!"},
+         {"Eingabefehler!", "Input Error!"}});
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1136 - ", "ERROR 1136 - ", fehler);
 }

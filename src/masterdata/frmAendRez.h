@@ -37,8 +37,9 @@ class frmÄndRez : public Screen {
     bool fnc_DrehmomentPrüfen();
     std::optional<bool> fnc_SchrittVorhanden(const Schritt &schritt);
     void fnc_SchrittÄndern(const Schritt &schritt);
-    void fnc_ÄnderungenÜbernehmen();
-    void fnc_ÄnderungenVerwerfen();
+    // False when the screen stays
+    bool fnc_ÄnderungenÜbernehmen();
+    bool fnc_ÄnderungenVerwerfen();
 
     void cmbToleranz_Change();
     void cmbToleranz_Click();
@@ -47,13 +48,17 @@ class frmÄndRez : public Screen {
     void cmbPrArt_LostFocus();
     void txtDrehzahl_LostFocus();
     void txtLeistung_LostFocus();
-    void feldÜbernehmen(QLineEdit *feld, const QString &altWert, const platform::Text *mangel,
-                        const platform::Text &titel);
+    struct Wertmeldung {
+        platform::Text keineZahl, außerhalb, titel;
+    };
+    void wertAnnehmen(QLineEdit *feld, const QString &altWert, Wertprüfung prüfung,
+                      const Wertmeldung &meldungen);
 
     void pbSpeichern_Click();
     void pbNeu_Click();
     void pbEinfuegen_Click();
     void pbLoeschen_Click();
+    void gitterNachFehler();
     void schrittWählen(int zeile);
     void pbok_Click();
     void pbexit_Click();
@@ -64,6 +69,8 @@ class frmÄndRez : public Screen {
 
     bool mbGeändert = false; ///< by a field or the specification; steps put in or taken out don't
     Abschluss mnAbschluss = Abschluss::Offen;
+    bool mNurKopie = false;     ///< the stored steps are gone and not replaced yet
+    QString mToleranz;          ///< the specification as it is stored
     bool mOhneSchritt = true;   ///< no step is shown that could be saved, moved or deleted
     bool mNeuerSchritt = false; ///< the step shown is not stored yet
 

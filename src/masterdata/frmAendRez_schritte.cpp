@@ -96,6 +96,16 @@ void frmÄndRez::pbEinfuegen_Click() try {
     mGitter.gehen(step.nummer - 1);
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1023E - ", "ERROR 1023E - ", fehler);
+    gitterNachFehler(); // some may have moved
+}
+
+/// What a failed statement has left; a second failure is not told.
+void frmÄndRez::gitterNachFehler() try {
+    const int row = mGitter.zeile();
+    mGitter.zeigen(kopierteSchritte());
+    mGitter.gehen(row);
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
 }
 
 void frmÄndRez::pbLoeschen_Click() try {

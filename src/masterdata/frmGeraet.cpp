@@ -14,6 +14,7 @@
 #include "session.h"
 #include "spalte.h"
 #include "sprache.h"
+#include "umbruch.h"
 
 using namespace platform;
 
@@ -97,7 +98,7 @@ void frmGerät::beschriften() {
 void frmGerät::Form_Load() try {
     beschriften();
     mGeladen = true; // also when the reading fails: it would fail again
-    ui.laKunde->setText(auswahl().kunde);
+    ui.laKunde->setText(umbrechbar(auswahl().kunde));
     listenLesen();
     ui.cmbIdent->setFocus();
 } catch (const Fehler &fehler) {
@@ -163,26 +164,34 @@ void frmGerät::fnc_GerätWählen(const QString &identNr) try {
     }
     mSuche.leeren(); // the only one of its type went in by itself
     mSuche.übernehmen(identNr);
+    mGeladen = true;
     ui.cmbIdent->setFocus(); // Enter chooses it
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1092 - ", "ERROR 1092 - ", fehler);
 }
 
 void frmGerät::fnc_GerätZeigen() {
+    zeigen({}); // nothing that could be changed or deleted when the reading fails
+    zeigen(ident().isEmpty() ? einzigesGerät() : gerätMitIdent(ident()));
+    aktualisieren();
+}
+
+/// The only unit of the chosen type.
+Recordset frmGerät::einzigesGerät() const {
     const QString typ = ui.cmbTyp->currentText();
-    Recordset row;
-    if (!ident().isEmpty())
-        row = gerätMitIdent(ident());
-    else if (const Recordset rows = geräteVomTyp(typ); !typ.isEmpty() && rows.count() == 1)
-        row = rows; // the one that OK would choose
-    const bool found = !row.empty();
-    const auto text = [&](int column) { return found ? row[column].text() : QString(); };
-    mGerätID = found ? row[GerätID].whole() : 0;
+    if (typ.isEmpty())
+        return {};
+    const Recordset rows = geräteVomTyp(typ);
+    return rows.count() == 1 ? rows : Recordset();
+}
+
+void frmGerät::zeigen(const Recordset &row) {
+    const auto text = [&](int column) { return row.empty() ? QString() : row[column].text(); };
+    mGerätID = row.empty() ? 0 : row[GerätID].whole();
     ui.txtTyp->setText(text(Gerätetyp));
     ui.txtHersteller->setText(text(Hersteller));
     ui.txtSerienNr->setText(text(SerienNr));
     ui.txtIdentNr->setText(text(IdentNr));
-    aktualisieren();
 }
 
 void frmGerät::aktualisieren() {

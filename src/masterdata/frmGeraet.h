@@ -34,6 +34,8 @@ class frmGerät : public Screen {
     void typSetzen(const QString &typ);
     void identnummernLesen();
     void fnc_GerätZeigen();
+    void zeigen(const Recordset &row);
+    Recordset einzigesGerät() const;
     bool gerätGezeigt();
     QString ident() const;
     Recordset gewähltesGerät();

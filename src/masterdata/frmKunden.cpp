@@ -14,6 +14,7 @@
 #include "session.h"
 #include "spalte.h"
 #include "sprache.h"
+#include "umbruch.h"
 
 using namespace platform;
 
@@ -81,8 +82,6 @@ void frmKunden::beschriften() {
     if (gSprache == 1)
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
-    ui.cmbKundenname->lineEdit()->setPlaceholderText(
-        inSprache({"Name oder Teil davon, auch mit * und ?", "Name or part of it, also * and ?"}));
 }
 
 void frmKunden::Form_Load() try {
@@ -133,6 +132,7 @@ void frmKunden::fnc_ListeAktualisieren() try { listenLesen(); } catch (const Feh
 }
 
 void frmKunden::fnc_ListeLeeren() {
+    alleOrte();
     mSuche.leeren();
     fnc_ListeAktualisieren();
     ui.cmbKundenname->setFocus();
@@ -146,6 +146,7 @@ void frmKunden::fnc_KundeWählen(const QString &name) try {
         listenLesen();
     }
     mSuche.übernehmen(name);
+    mGeladen = true;
     ui.cmbKundenname->setFocus(); // Enter chooses it
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1077 - ", "ERROR 1077 - ", fehler);
@@ -157,22 +158,27 @@ void frmKunden::alleOrte() {
 }
 
 void frmKunden::fnc_KundeZeigen() {
-    mKundenID = 0;
-    const QString name = mSuche.name();
-    Recordset row;
-    if (!name.isEmpty())
-        row = kundeSuchen(name, ui.cmbOrt->currentText());
-    const bool found = !row.empty();
-    if (found)
-        mKundenID = row[0].whole();
-    ui.lbName->setText(found ? row[1].text() : QString());
-    ui.txtStraße->setText(found ? row[2].text() : QString());
-    ui.txtPLZ->setText(found ? row[3].text() : QString());
-    ui.txtOrt->setText(found ? row[4].text() : QString());
+    zeigen({}); // nothing that could be changed or deleted when the reading fails
+    if (const QString name = mSuche.name(); !name.isEmpty())
+        zeigen(kundeSuchen(name, ui.cmbOrt->currentText()));
     aktualisieren();
 }
 
+void frmKunden::zeigen(const Recordset &row) {
+    const bool found = !row.empty();
+    mKundenID = found ? row[0].whole() : 0;
+    ui.lbName->setText(found ? umbrechbar(row[1].text()) : QString());
+    ui.txtStraße->setText(found ? row[2].text() : QString());
+    ui.txtPLZ->setText(found ? row[3].text() : QString());
+    ui.txtOrt->setText(found ? row[4].text() : QString());
+}
+
 void frmKunden::aktualisieren() {
+    ui.cmbKundenname->lineEdit()->setPlaceholderText(
+        !mSuche.namen().isEmpty()
+            ? inSprache(
+                  {"Name oder Teil davon, auch mit * und ?", "Name or part of it, also * and ?"})
+            : inSprache({"Noch kein Kunde; mit Neu anlegen", "No customer yet; press New"}));
     ui.Label->setText(inSprache({"Kundenanzahl: ", "Number Of Customers In The List: "}) +
                       QString::number(mSuche.anzahl()));
 }

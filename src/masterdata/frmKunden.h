@@ -1,6 +1,7 @@
 // Lists and searches the customers and chooses the one of the session.
 #pragma once
 
+#include "recordset.h"
 #include "screens.h"
 #include "suchliste.h"
 #include "ui_frmKunden.h"
@@ -30,6 +31,7 @@ class frmKunden : public Screen {
     void beschriften();
     void aktualisieren();
     void fnc_KundeZeigen();
+    void zeigen(const Recordset &row);
     void listenLesen();
     void alleOrte();
     bool kundeGezeigt();

@@ -36,7 +36,6 @@ void frmLöschGerät::beschriften() {
 
 void frmLöschGerät::Form_Load() try {
     beschriften();
-    ui.pbYes->setEnabled(false); // until it is known what Yes would delete
     ui.pbNo->setFocus();
     fnc_FrageZeigen();
 } catch (const Fehler &fehler) {
@@ -44,19 +43,20 @@ void frmLöschGerät::Form_Load() try {
 }
 
 void frmLöschGerät::fnc_FrageZeigen() {
+    ui.pbYes->setEnabled(false); // until it is known what Yes would delete
     const auto *geräte = loaded<frmGerät>();
     const int shown = geräte ? geräte->gerätID() : 0;
     if (shown == 0)
         return;
     const Text frage = gerätefrage(protokolleZählen(geräteplan, shown), geräte->gerätename());
     ui.lbProtocollCount->setText(umbrechbar(inSprache(frage)));
-    ui.laIdent->setText(geräte->identnummer());
+    ui.laIdent->setText(umbrechbar(geräte->identnummer()));
     mGerätID = shown;
     ui.pbYes->setEnabled(true);
 }
 
 void frmLöschGerät::pbYes_Click() try {
-    datensatzLöschen(geräteplan, mGerätID);
+    löschen(geräteplan, mGerätID, ui.lbProtocollCount);
     meldung({"Daten wurden gelöscht!", "Data have been deleted!"}, platform::Information,
             {"Bestätigung", "Confirmation"});
     if (auto *geräte = loaded<frmGerät>())
@@ -66,4 +66,10 @@ void frmLöschGerät::pbYes_Click() try {
     unload();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 31001 - ", "ERROR 31001 - ", fehler);
+    nachFehler();
+}
+
+/// Asks about what is left; the unit itself goes last.
+void frmLöschGerät::nachFehler() try { fnc_FrageZeigen(); } catch (const Fehler &fehler) {
+    fehlerBox("Fehler 31002 - ", "ERROR 31002 - ", fehler);
 }

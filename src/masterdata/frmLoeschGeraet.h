@@ -2,10 +2,10 @@
 // protocols.
 #pragma once
 
-#include "screens.h"
+#include "loeschabfrage.h"
 #include "ui_frmLoeschGeraet.h"
 
-class frmLöschGerät : public Screen {
+class frmLöschGerät : public Löschabfrage {
   public:
     static constexpr frm id = frm::LöschGerät;
     frmLöschGerät();
@@ -17,6 +17,7 @@ class frmLöschGerät : public Screen {
     void beschriften();
     void fnc_FrageZeigen();
     void pbYes_Click();
+    void nachFehler();
 
     Ui::frmLöschGerät ui;
     int mGerätID = 0;

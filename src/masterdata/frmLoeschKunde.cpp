@@ -34,7 +34,6 @@ void frmLöschKunde::beschriften() {
 }
 
 void frmLöschKunde::Form_Load() try {
-    ui.pbok->setEnabled(false); // until it is known what Yes would delete
     ui.pbCancel->setFocus();
     fnc_FrageZeigen();
 } catch (const Fehler &fehler) {
@@ -43,19 +42,21 @@ void frmLöschKunde::Form_Load() try {
 
 void frmLöschKunde::fnc_FrageZeigen() {
     beschriften();
+    ui.pbok->setEnabled(false); // until it is known what Yes would delete
     const auto *kunden = loaded<frmKunden>();
     const int shown = kunden ? kunden->kundenID() : 0;
     if (shown == 0)
         return;
+    mGeräte = geräteZählen(shown);
     const Text frage =
-        kundenfrage(geräteZählen(shown), protokolleZählen(kundenplan, shown), kunden->kundenname());
+        kundenfrage(mGeräte, protokolleZählen(kundenplan, shown), kunden->kundenname());
     ui.lbProtocollCount->setText(umbrechbar(inSprache(frage)));
     mKundenID = shown;
     ui.pbok->setEnabled(true);
 }
 
 void frmLöschKunde::pbok_Click() try {
-    datensatzLöschen(kundenplan, mKundenID);
+    löschen(kundenplan, mKundenID, ui.lbProtocollCount);
     meldung({"Die Daten wurden gelöscht!", "Data have been deleted!"}, platform::Information,
             {"Bestätigung", "Confirmation"});
     if (auto *kunden = loaded<frmKunden>())
@@ -65,4 +66,15 @@ void frmLöschKunde::pbok_Click() try {
     unload();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 31001 - ", "ERROR 31001 - ", fehler);
+    nachFehler();
+}
+
+/// Asks about what is left. Units may be gone while the customer is still there.
+void frmLöschKunde::nachFehler() try {
+    const int before = mGeräte;
+    fnc_FrageZeigen();
+    if (gKundenID == mKundenID && mGeräte < before)
+        gerätAbwählen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler LK 1 - ", "ERROR LK 1 - ", fehler);
 }

@@ -2,10 +2,10 @@
 // its units and protocols.
 #pragma once
 
-#include "screens.h"
+#include "loeschabfrage.h"
 #include "ui_frmLoeschKunde.h"
 
-class frmLöschKunde : public Screen {
+class frmLöschKunde : public Löschabfrage {
   public:
     static constexpr frm id = frm::LöschKunde;
     frmLöschKunde();
@@ -17,7 +17,9 @@ class frmLöschKunde : public Screen {
     void beschriften();
     void fnc_FrageZeigen();
     void pbok_Click();
+    void nachFehler();
 
     Ui::frmLöschKunde ui;
     int mKundenID = 0;
+    int mGeräte = 0; ///< units of the customer
 };

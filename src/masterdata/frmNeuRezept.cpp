@@ -123,6 +123,10 @@ void frmNeuRezept::fnc_Fill_CmbToleranz() try {
     ui.cmbToleranz->clear();
     ui.cmbToleranz->addItems(spalte(gDatenbank.open("SELECT Bezeichnung FROM Toleranzen"), 0));
     ui.cmbToleranz->setCurrentIndex(-1);
+    if (ui.cmbToleranz->count() == 0)
+        ui.cmbToleranz->setPlaceholderText(
+            inSprache({"Noch keine; angelegt wird im Menü Stammdaten, Spezifikationen",
+                       "None yet; use menu Master Data, Specifications to enter one"}));
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler NR01- ", "ERROR NR01- ", fehler);
 }
@@ -147,7 +151,12 @@ void frmNeuRezept::fnc_RezeptnameSpeichern() try {
     const QString name = ui.txtRezName->text();
     gDatenbank.execute("INSERT INTO Rezeptnamen (RezName, ToleranzID) VALUES (?, ?)",
                        {name, toleranzSchlüssel(ui.cmbToleranz->currentText())});
-    gRezeptID = rezeptSchlüssel(name);
+    try {
+        gRezeptID = rezeptSchlüssel(name);
+    } catch (const Fehler &) { // a recipe that cannot get any steps
+        gDatenbank.execute("DELETE FROM Rezeptnamen WHERE RezName = ?", {name});
+        throw;
+    }
     schritteFreigeben();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1030 - ", "ERROR 1030 - ", fehler);
@@ -174,19 +183,18 @@ bool frmNeuRezept::fnc_RezeptnameVorhanden() try {
 void frmNeuRezept::schritteFreigeben() {
     ui.lbRezSaved->setText(umbrechbar(ui.txtRezName->text()));
     ui.lbToleranzSave->setText(umbrechbar(ui.cmbToleranz->currentText()));
-    gitterZeigen(0);
     schrittnummerZeigen(1);
     for (QWidget *field :
          std::initializer_list<QWidget *>{ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.pbKopie})
         field->setEnabled(true);
-    ui.laInfo->setText(inSprache({"Geben Sie bitte die Daten für den neuen Prüfschritt ein!",
-                                  "Please enter data for the actual test step!"}));
+    hinweisNeuerSchritt();
     ui.txtDrehzahl->setFocus();
     ui.txtRezName->hide();
     ui.cmbToleranz->hide();
     ui.pbRezSave->hide();
     ui.lbRezSaved->show();
     ui.lbToleranzSave->show();
+    gitterZeigen(0);
 }
 
 void frmNeuRezept::pbok_Click() {
@@ -213,7 +221,15 @@ bool frmNeuRezept::verlassen() try {
     return true;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1023 - ", "ERROR 1023 - ", fehler);
+    gitterNachFehler(); // the steps may be gone
     return false;
+}
+
+void frmNeuRezept::gitterNachFehler() try {
+    ui.pbok->setEnabled(false);
+    gitterZeigen(mGitter.zeile());
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
 }
 
 bool frmNeuRezept::fnc_EingabeLeer() const {
@@ -230,7 +246,7 @@ bool frmNeuRezept::fnc_FrageVerwerfen() {
 /// The name goes into the list when that is activated.
 void frmNeuRezept::fnc_RezeptlisteAktualisieren() try {
     if (auto *list = loaded<frmRezepte>())
-        list->fnc_ListeFüllen();
+        list->listeLesen();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1037 - ", "ERROR 1037 - ", fehler);
 }

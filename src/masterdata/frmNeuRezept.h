@@ -49,6 +49,8 @@ class frmNeuRezept : public Screen {
     void felderLeeren();
     static void ohneTausenderpunkte(QLineEdit *feld, const QString &gezeigt);
     void gitterZeigen(int zeile);
+    /// What a failed statement has left; a second failure is not told.
+    void gitterNachFehler();
     void fnc_SchrittAnzeigen();
     bool txtDrehzahl_LostFocus();
     bool txtLeistung_LostFocus();
@@ -56,7 +58,6 @@ class frmNeuRezept : public Screen {
     bool wertAnnehmen(QLineEdit *feld, Wertprüfung prüfung, const platform::Text &nichtNumerisch,
                       const platform::Text &außerhalb);
     void cmbPrArt_Change();
-    void cmbPrArt_Verlassen();
     bool speichernMöglich();
     void fnc_SpeichernFreigeben();
     bool fnc_SchrittPrüfen();
@@ -66,6 +67,7 @@ class frmNeuRezept : public Screen {
     bool fnc_SchrittÄndern();
     void fnc_SchrittEinfügen(int nummer);
     void fnc_SchrittLöschen(int nummer);
+    void hinweisNeuerSchritt();
     void fnc_NeuerSchritt();
     void pbSave_Click();
     void pbEinfuegen_Click();

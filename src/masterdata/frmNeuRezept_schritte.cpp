@@ -37,8 +37,9 @@ void frmNeuRezept::schritteVerdrahten() {
     });
     // Arrow keys pick, too, and must not lose the keyboard at the first press.
     on(ui.cmbPrArt, &QComboBox::activated, [this] { speichernMöglich(); });
-    onEnter(ui.cmbPrArt, [this] { cmbPrArt_Verlassen(); });
-    onLostFocus(ui.cmbPrArt, [this] { cmbPrArt_Verlassen(); });
+    // Neither must leaving it for another field.
+    onLostFocus(ui.cmbPrArt, [this] { speichernMöglich(); });
+    onEnter(ui.cmbPrArt, [this] { fnc_SpeichernFreigeben(); });
 
     onClick(ui.pbSave, [this] { pbSave_Click(); });
     onClick(ui.pbAddNew, [this] { fnc_NeuerSchritt(); });
@@ -162,15 +163,10 @@ void frmNeuRezept::cmbPrArt_Change() {
     }
 }
 
-void frmNeuRezept::cmbPrArt_Verlassen() {
-    if (mnPrüfart != prüfart::Keine)
-        fnc_SpeichernFreigeben();
-}
-
 /// Once all three fields hold text the step can be stored.
 bool frmNeuRezept::speichernMöglich() try {
     if (ui.txtDrehzahl->text().isEmpty() || ui.txtLeistung->text().isEmpty() ||
-        ui.cmbPrArt->currentText().isEmpty())
+        mnPrüfart == prüfart::Keine)
         return false;
     if (mnSchritt == 0) // entered after the last step was deleted
         schrittnummerZeigen(rezepte.größteNummer(gRezeptID) + 1);
@@ -253,14 +249,18 @@ void frmNeuRezept::pbSave_Click() try {
     fehlerBox("Fehler 1033 - ", "ERROR 1033 - ", fehler);
 }
 
+void frmNeuRezept::hinweisNeuerSchritt() {
+    ui.laInfo->setText(inSprache({"Geben Sie bitte die Daten für den neuen Prüfschritt ein!",
+                                  "Please enter data for the actual test step!"}));
+}
+
 void frmNeuRezept::fnc_NeuerSchritt() try {
     schrittnummerZeigen(rezepte.größteNummer(gRezeptID) + 1);
     felderLeeren();
     ui.txtDrehzahl->setFocus();
     for (QPushButton *button : {ui.pbAddNew, ui.pbEinfuegen, ui.pbLoeschen, ui.pbSave})
         button->setEnabled(false);
-    ui.laInfo->setText(inSprache({"Geben Sie bitte die Daten für den neuen Prüfschritt ein!",
-                                  "Please enter data for the actual test step!"}));
+    hinweisNeuerSchritt();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1032 - ", "ERROR 1032 - ", fehler);
 }
@@ -277,6 +277,7 @@ void frmNeuRezept::pbEinfuegen_Click() try {
     fnc_SchrittEinfügen(mnSchritt);
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1023E - ", "ERROR 1023E - ", fehler);
+    gitterNachFehler(); // some may have moved
 }
 
 /// Asks nothing. After the only step its values stay in the fields; only a second call empties

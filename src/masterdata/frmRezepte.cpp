@@ -43,6 +43,7 @@ frmRezepte::frmRezepte() {
        [this] { mSuche.zeileGewählt(); });
     on(ui.lstRezepte, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
     on(ui.lstRezepte, &QListView::doubleClicked, [this] { bestätigen(); });
+    onEnter(ui.lstRezepte, [this] { bestätigen(); });
     onClick(ui.pbNeuRezept, [this] { pbNeuRezept_Click(); });
     onClick(ui.pbÄndRez, [this] { pbÄndRez_Click(); });
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });
@@ -56,8 +57,6 @@ void frmRezepte::beschriften() {
     if (gSprache == 1)
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
-    ui.cmbRezeptname->lineEdit()->setPlaceholderText(
-        inSprache({"Name oder Teil davon", "Name or part of it"}));
     mGitter.beschriften();
 }
 
@@ -94,17 +93,24 @@ void frmRezepte::Form_Unload() {
         desktop->show();
 }
 
-void frmRezepte::fnc_ListeFüllen() try {
-    mSuche.füllen(spalte(gDatenbank.open("select Rezname from Rezeptnamen"), 0));
+void frmRezepte::listeLesen() {
     mGezeigt.clear(); // the recipe may have changed
+    mSuche.füllen(spalte(gDatenbank.open("select Rezname from Rezeptnamen"), 0));
     aktualisieren();
-} catch (const Fehler &fehler) {
+}
+
+void frmRezepte::fnc_ListeFüllen() try { listeLesen(); } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1016 - ", "ERROR 1016 - ", fehler);
 }
 
 void frmRezepte::aktualisieren() {
     ui.laInfo->setText(inSprache({"Rezeptanzahl: ", "Number Of Recipes: "}) +
                        QString::number(mSuche.namen().size()));
+    ui.cmbRezeptname->lineEdit()->setPlaceholderText(
+        !mSuche.namen().isEmpty()
+            ? inSprache({"Name oder Teil davon", "Name or part of it"})
+            : inSprache({"Noch kein Rezept; angelegt wird im Menü Stammdaten, Rezepte",
+                         "No recipe yet; use menu Master Data, Recipes to enter one"}));
     const bool text = !mSuche.text().trimmed().isEmpty();
     ui.pbok->setEnabled(text);
     ui.pbDelete->setEnabled(text);
@@ -144,6 +150,7 @@ void frmRezepte::cmbRezeptname_Click() try {
 
 /// Whether the box names a recipe that is in force. Completes part of a name.
 bool frmRezepte::rezeptGezeigt() {
+    const QString before = mSuche.text();
     switch (mSuche.abschließen()) {
     case Suchliste::Eingabe::Leer:
     case Suchliste::Eingabe::Unbekannt:
@@ -156,7 +163,8 @@ bool frmRezepte::rezeptGezeigt() {
     case Suchliste::Eingabe::Vollständig:
         break;
     }
-    cmbRezeptname_Click(); // tells why when the recipe cannot be used
+    if (mSuche.text() == before) // otherwise the change has done it
+        cmbRezeptname_Click();   // tells why when the recipe cannot be used
     return !mGezeigt.isEmpty();
 }
 
@@ -219,5 +227,7 @@ void frmRezepte::pbDelete_Click() try {
     fnc_ListeFüllen();
     ui.cmbRezeptname->setFocus();
 } catch (const Fehler &fehler) {
+    mGezeigt.clear();
     fehlerBox("Fehler 1018 - ", "ERROR 1018 - ", fehler);
+    cmbRezeptname_Click(); // its steps may be gone
 }

@@ -21,6 +21,8 @@ class frmRezepte : public Screen {
 
     /// Reads the list of names anew; the text of the box stays.
     void fnc_ListeFüllen();
+    /// The same; raises what fails.
+    void listeLesen();
 
   protected:
     void Form_Load() override;

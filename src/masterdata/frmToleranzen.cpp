@@ -149,6 +149,8 @@ void frmToleranzen::fnc_Fill_CmbBezTol() try {
     for (int row = 0; row < mrsToleranzen.count(); ++row)
         ui.cmbBezTol->addItem(mrsToleranzen.at(row, 1).toString());
     ui.cmbBezTol->setCurrentIndex(-1);
+    ui.cmbBezTol->setPlaceholderText(
+        inSprache({"Auswählen, oder mit Neu anlegen", "Select one, or enter a new one with New"}));
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler Tol01 - ", "ERROR Tol01 - ", fehler);
 }
@@ -175,21 +177,27 @@ void frmToleranzen::fnc_Find_ToleranzID() {
         ui.pbEdit->setEnabled(true);
 }
 
-void frmToleranzen::cmbBezTol_Click() try {
-    if (mbNeu) {
-        auswahlImNeuModus();
-    } else if (!mbBearbeiten) {
-        fnc_Find_ToleranzID();
-        pbEdit_Click();
-    } else if (mbGeändert) {
-        auswahlNachÄnderung();
-    } else {
-        fnc_Find_ToleranzID();
-        felderZeigen();
+void frmToleranzen::cmbBezTol_Click() {
+    const std::int16_t before = mnToleranzID;
+    const bool changed = mbGeändert;
+    try {
+        if (mbNeu) {
+            auswahlImNeuModus();
+        } else if (!mbBearbeiten) {
+            fnc_Find_ToleranzID();
+            pbEdit_Click();
+        } else if (mbGeändert) {
+            auswahlNachÄnderung();
+        } else {
+            fnc_Find_ToleranzID();
+            felderZeigen();
+        }
+    } catch (const Fehler &fehler) {
+        mnToleranzID = before; // the fields and the buttons speak about this one still
+        mbGeändert = changed;
+        zeileZeigen();
+        fehlerBox("Fehler Tol02 - ", "ERROR Tol02 - ", fehler);
     }
-} catch (const Fehler &fehler) {
-    zeileZeigen(); // the buttons speak about this one still
-    fehlerBox("Fehler Tol02 - ", "ERROR Tol02 - ", fehler);
 }
 
 void frmToleranzen::auswahlImNeuModus() {

@@ -38,7 +38,6 @@ class frmToleranzen : public Screen {
     void altWertMerken();
     void änderungPrüfen(const QLineEdit *feld);
     void vollständigkeitPrüfen();
-    void tastaturNach(QWidget *feld);
     void zurückweisen(QLineEdit *feld, const QString &text);
     void zahlPrüfen(QLineEdit *feld, double größter, const Text &text, const Text &titel,
                     const std::function<void(const QString &)> &runden);
@@ -75,5 +74,4 @@ class frmToleranzen : public Screen {
     QString msAltWert;       ///< in edit mode, what it held then; for txtTolWatt the percentage
     QString msGKlasseTaste;  ///< the last key in cmbGKlasse, upper case
     Recordset mrsToleranzen; ///< behind cmbBezTol, in its order
-    bool mUmgelenkt = false; ///< the keyboard is sent elsewhere: no field is really left
 };

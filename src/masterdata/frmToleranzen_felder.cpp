@@ -2,7 +2,6 @@
 #include "frmToleranzen.h"
 
 #include <QLineEdit>
-#include <QScopedValueRollback>
 
 #include <limits>
 
@@ -32,22 +31,13 @@ void frmToleranzen::vollständigkeitPrüfen() {
         ui.pbSave->setEnabled(eingabe().vollständig());
 }
 
-/// Out of a handler of a field that is just left. The control that was to have the keyboard gets no
-/// chance to be left.
-void frmToleranzen::tastaturNach(QWidget *feld) {
-    const QScopedValueRollback redirected(mUmgelenkt, true);
-    feld->setFocus();
-}
-
 void frmToleranzen::zurückweisen(QLineEdit *feld, const QString &text) {
     feld->setText(text);
-    tastaturNach(feld);
+    feld->setFocus();
 }
 
 void frmToleranzen::zahlPrüfen(QLineEdit *feld, double größter, const Text &text, const Text &titel,
                                const std::function<void(const QString &)> &runden) {
-    if (mUmgelenkt)
-        return;
     if (!feld->text().trimmed().isEmpty()) {
         if (außerhalb(feld->text(), 0, größter)) {
             meldung(text, Critical, titel);
@@ -61,8 +51,6 @@ void frmToleranzen::zahlPrüfen(QLineEdit *feld, double größter, const Text &t
 }
 
 void frmToleranzen::txtTolBez_LostFocus() try {
-    if (mUmgelenkt)
-        return;
     const QString name = ui.txtTolBez->text();
     if (mbNeu && !name.trimmed().isEmpty() && bezeichnungVergeben(name)) {
         meldung({"Diese Bezeichnung für eine Toleranz gibt es bereits.\r"
@@ -105,10 +93,10 @@ void frmToleranzen::txtAbw_LostFocus() try {
 }
 
 void frmToleranzen::txtMessverfahren_LostFocus() {
-    if (mUmgelenkt || !eingabe().vollständig())
+    if (!eingabe().vollständig())
         return;
     ui.pbSave->setEnabled(true);
-    tastaturNach(ui.pbSave);
+    ui.pbSave->setFocus();
 }
 
 void frmToleranzen::func_Round_Procent(const QString &text) try {

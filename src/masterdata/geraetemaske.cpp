@@ -7,6 +7,7 @@
 #include "msgbox.h"
 #include "session.h"
 #include "sprache.h"
+#include "umbruch.h"
 
 using namespace platform;
 
@@ -42,7 +43,7 @@ void Gerätemaske::vorbereiten() {
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
     setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
-    ui.laKunde->setText(auswahl().kunde);
+    ui.laKunde->setText(umbrechbar(auswahl().kunde));
     ui.txtTyp->setFocus();
 }
 

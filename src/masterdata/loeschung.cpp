@@ -33,7 +33,7 @@ const Schritt schritte[] = {
 const QString paar[] = {"_temp", ""}; // in work, archived
 
 void schrittAusführen(const Schritt &schritt, const Löschplan &plan, const QString &endung,
-                      int schlüssel) {
+                      int schlüssel, const std::function<void()> &zwischendurch) {
     QString sql = "SELECT DISTINCT Kopf.ProtokollID FROM Protokoll" + endung + " AS Kopf";
     for (const QString &tabelle : schritt.mitZeilenIn) {
         const QString name = tabelle + endung;
@@ -44,12 +44,14 @@ void schrittAusführen(const Schritt &schritt, const Löschplan &plan, const QSt
         for (const QString &tabelle : schritt.leeren)
             gDatenbank.execute("DELETE FROM " + tabelle + endung + " WHERE ProtokollID = ?",
                                {kopf[0].value()});
+        zwischendurch();
     }
 }
 
-void protokolleLöschen(const Löschplan &plan, const QString &endung, int schlüssel) {
+void protokolleLöschen(const Löschplan &plan, const QString &endung, int schlüssel,
+                       const std::function<void()> &zwischendurch) {
     for (const Schritt &schritt : schritte)
-        schrittAusführen(schritt, plan, endung, schlüssel);
+        schrittAusführen(schritt, plan, endung, schlüssel, zwischendurch);
     if (plan.auchLeereKöpfe)
         gDatenbank.execute("DELETE FROM Protokoll" + endung + " WHERE " + plan.schlüssel + " = ?",
                            {schlüssel});
@@ -76,9 +78,10 @@ int geräteZählen(int kundenID) {
         .count();
 }
 
-void datensatzLöschen(const Löschplan &plan, int schlüssel) {
+void datensatzLöschen(const Löschplan &plan, int schlüssel,
+                      const std::function<void()> &zwischendurch) {
     for (const QString &endung : paar)
-        protokolleLöschen(plan, endung, schlüssel);
+        protokolleLöschen(plan, endung, schlüssel, zwischendurch);
     for (const QString &tabelle : plan.stammdaten)
         gDatenbank.execute("DELETE FROM " + tabelle + " WHERE " + plan.schlüssel + " = ?",
                            {schlüssel});

@@ -2,6 +2,8 @@
 // is no transaction: what a failure finds deleted stays so. No widget.
 #pragma once
 
+#include <functional>
+
 #include "text.h"
 
 /// What is deleted together. Both run through the same steps.
@@ -17,8 +19,10 @@ int geräteZählen(int kundenID);
 /// Raises the first failure; nothing after it has run then.
 ///
 /// Protocols go together with their measured values, safety and blood-pressure sheets. Heads
-/// without any of these stay with a customer and go with a unit.
-void datensatzLöschen(const Löschplan &plan, int schlüssel);
+/// without any of these stay with a customer and go with a unit. `zwischendurch` is called after
+/// each protocol.
+void datensatzLöschen(
+    const Löschplan &plan, int schlüssel, const std::function<void()> &zwischendurch = [] {});
 
 /// The question before. Two sentences have a carriage return between them.
 platform::Text kundenfrage(int geräte, int protokolle, const QString &name);

@@ -15,7 +15,8 @@ QString vollständigFalten(const QString &text) {
     return folded.toCaseFolded();
 }
 
-/// Latin letters fold one by one, which is looked up: 20 000 names are folded whenever a list opens.
+/// Latin letters fold one by one, which is looked up: 20 000 names are folded whenever a list
+/// opens.
 QString ohneAkzente(const QString &text) {
     constexpr char16_t latin = 0x250; // the end of Latin Extended-B
     static const std::vector<QString> table = [] {

@@ -9,17 +9,18 @@ using namespace platform;
 
 namespace {
 
+double wert(QString text) {
+    fnc_KommaZuPunkt(text);
+    return Val(text);
+}
+
 Wertprüfung prüfen(const QString &text, double smallest, bool smallestToo, double greatest) {
-    if (!IsNumeric(text))
+    // Thousands in groups, as in "0,600", are another number to the torque check.
+    if (!IsNumeric(text) || CDbl(text) != wert(text))
         return Wertprüfung::NichtNumerisch;
     const double value = CDbl(text);
     const bool low = smallestToo ? value < smallest : value <= smallest;
     return low || value > greatest ? Wertprüfung::AußerhalbBereich : Wertprüfung::Gültig;
-}
-
-double wert(QString text) {
-    fnc_KommaZuPunkt(text);
-    return Val(text);
 }
 
 } // namespace

@@ -9,6 +9,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <utility>
+
 #include "desk.h"
 #include "msgbox.h"
 
@@ -214,7 +216,7 @@ bool Screen::eventFilter(QObject *watched, QEvent *event) {
     const auto found = mFilters.find(watched);
     if (found == mFilters.end() || mUnloaded)
         return false;
-    const FilterHandlers &handlers = found->second;
+    FilterHandlers &handlers = found->second;
     switch (event->type()) {
     case QEvent::KeyPress: {
         auto &key = static_cast<QKeyEvent &>(*event);
@@ -233,16 +235,20 @@ bool Screen::eventFilter(QObject *watched, QEvent *event) {
         // Leaving for a menu, a popup or another window is no leaving of the field, and coming
         // back from there no entering.
         const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        const Handler &handler =
-            event->type() == QEvent::FocusIn ? handlers.gotFocus : handlers.lostFocus;
+        const bool entering = event->type() == QEvent::FocusIn;
+        if (!std::exchange(handlers.entered, entering) && !entering)
+            return false;
+        const Handler &handler = entering ? handlers.gotFocus : handlers.lostFocus;
         if (handler && reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason &&
             reason != Qt::MenuBarFocusReason)
             run(handler);
         return false;
     }
     case QEvent::Wheel: // would pick another entry unseen, and some picks are stored at once
+        if (!qobject_cast<QComboBox *>(watched))
+            return false;
         event->ignore();
-        return qobject_cast<QComboBox *>(watched) != nullptr;
+        return true;
     default:
         return false;
     }

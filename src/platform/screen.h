@@ -64,10 +64,13 @@ class Screen : public QWidget {
         });
     }
     /// Only while button and screen are in use: an access key presses late. The button takes the
-    /// keyboard first, so that the field left is checked; if the field takes it back nothing happens.
+    /// keyboard first, so that the field left is checked; if the field takes it back nothing
+    /// happens.
     void onClick(QAbstractButton *button, Handler handler);
     void onEnter(QWidget *control, Handler handler);
     void onGotFocus(QWidget *control, Handler handler);
+    /// A control that was to get the keyboard but never did, since the handler of the one before it
+    /// sent it elsewhere, is not left.
     void onLostFocus(QWidget *control, Handler handler);
     /// The handler answers true when it used the key up.
     void onKey(QWidget *control, std::function<bool(QKeyEvent &)> handler);
@@ -89,6 +92,7 @@ class Screen : public QWidget {
 
     struct FilterHandlers {
         Handler enter, gotFocus, lostFocus;
+        bool entered = false; ///< has the keyboard
         std::function<bool(QKeyEvent &)> key;
     };
     FilterHandlers &filterOf(QWidget *control);

@@ -29,6 +29,7 @@ void kundeWählen(const QString &name, std::int16_t kundenID) {
     if (gewählt.kunde != name || gKundenID != kundenID) {
         gewählt.gerät.clear();
         gewählt.gerätID.clear();
+        gGerätID = 0;
     }
     gewählt.kunde = name;
     gKundenID = kundenID;

@@ -18,7 +18,8 @@ struct Auswahl {
 
 const Auswahl &auswahl();
 
-/// Another customer than the chosen one takes the chosen unit away. Sets gKundenID.
+/// Another customer than the chosen one takes the chosen unit away. Sets gKundenID, and gGerätID
+/// to 0 then.
 void kundeWählen(const QString &name, std::int16_t kundenID);
 /// The chosen customer is called otherwise now; the unit stays.
 void kundeUmbenennen(const QString &name);

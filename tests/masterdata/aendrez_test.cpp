@@ -63,6 +63,11 @@ class RecipeEditor : public Choosing {
         return letters;
     }
     static QTableView *grid() { return control<QTableView>(editor, "DBGridRez"); }
+    /// The row on which the grid stands already.
+    static void clickRow() {
+        QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {},
+                          grid()->visualRect(grid()->currentIndex()).center());
+    }
     static int row() { return grid()->currentIndex().row(); }
     /// All three fields; the words of either language may come from the clipboard.
     static void fill(const QString &speed, const QString &power, const QString &words) {
@@ -102,7 +107,7 @@ TEST_P(RecipeEditor, StepsOfTheWorkingCopy) {
     const QString p = inEnglish ? "P" : "L";
     const QString s = inEnglish ? "S" : "D";
     struct Action {
-        const char *button; // or "fill", "row"
+        const char *button; // or "fill", "row", "click"
         QString shown;
         const char *buttons;
         int row; // of the grid
@@ -123,6 +128,7 @@ TEST_P(RecipeEditor, StepsOfTheWorkingCopy) {
         {"pbFirst", "1|61|10|" + p, "SNID", 0, five},
         // The list has no order, so the new one stands last; the fields stay as they are.
         {"pbEinfuegen", "1|61|10|" + p, "SNID", 0, inserted},
+        {"click", "2|61|10|" + p, "SNID", 0, inserted},
         {"pbNeu", "7|||", "S-ID", 5, inserted}, // behind the greatest, not behind the last row
         {"fill", "7|99|20|L", "S-ID", 5, inserted},
         {"pbSpeichern", "7|99|20|L", "SNID", 6, added},
@@ -168,6 +174,8 @@ TEST_P(RecipeEditor, StepsOfTheWorkingCopy) {
                     fill("99", "20", "Leistungsmessung");
                 else if (action.button == QString("row"))
                     QTest::keyClick(grid(), Qt::Key_Down);
+                else if (action.button == QString("click"))
+                    clickRow();
                 else if (*action.button)
                     press(editor, action.button);
                 EXPECT_EQ(shown(), action.shown);
@@ -258,19 +266,26 @@ TEST_P(RecipeEditor, TheCloseBoxLeavesRowsThatTheNextCopyFinds) {
         EXPECT_EQ(stored(51), "1:71 1:71 1:71 1:71");
         EXPECT_EQ(copy(), "");
 
-        // A commit that fails half-way has the steps in the copy, where the next change finds them.
+        // A commit that fails half-way has the steps in the copy. Neither a second try nor a
+        // discard loses them, and after the close box the next change finds them.
         change("CREATE TRIGGER Sperre BEFORE INSERT ON Rezepte BEGIN SELECT RAISE(ABORT, 'x'); "
                "END");
         co_await edit("Fünf");
         type(editor, "txtLeistung", "11");
-        boxes.expect(inEnglish ? "ERROR 1123 - …" : "Fehler 1123 - …");
-        press(editor, "pbok");
+        for (const char *way : {"pbok", "pbexit"}) {
+            boxes.expect(inEnglish ? "ERROR 1123 - …" : "Fehler 1123 - …");
+            if (way == QString("pbexit"))
+                expectSaveQuestion(No);
+            press(editor, way);
+            EXPECT_TRUE(boxes.allCame());
+            EXPECT_TRUE(inFront(editor));
+            EXPECT_EQ(stored(), "");
+        }
+        loaded(editor)->close();
         co_await arrive(frm::Rezepte);
-        EXPECT_TRUE(boxes.allCame());
-        EXPECT_EQ(stored(), "");
         change("DROP TRIGGER Sperre");
         co_await edit("Fünf");
-        type(editor, "txtLeistung", "11");
+        type(editor, "txtLeistung", "12");
         press(editor, "pbok");
         co_await arrive(frm::Rezepte);
         EXPECT_EQ(stored(), "1:61 2:62,5 3:63 4:64 5:65");
@@ -332,6 +347,14 @@ TEST_P(RecipeEditor, FieldsAreCheckedWhenTheyAreLeft) {
             co_await arrive(frm::Rezepte);
             EXPECT_TRUE(boxes.allCame());
         }
+        // Nor does the field take the keyboard that a new step would hand on.
+        co_await edit("Fünf");
+        press(editor, "pbNeu");
+        type(editor, "txtDrehzahl", "500");
+        expectBox(speedRange, Exclamation, speedTitle);
+        control<QWidget>(editor, "cmbPrArt")->setFocus(Qt::MouseFocusReason);
+        EXPECT_TRUE(focused(editor, "txtDrehzahl"));
+        EXPECT_EQ(text(editor, "txtDrehzahl"), "");
     };
     run(journey());
 }
@@ -417,13 +440,17 @@ TEST_P(RecipeEditor, LettersStandForWholeWords) {
         EXPECT_EQ(beeps, 1);
         type(editor, "cmbPrArt", "1");
         QString before = "1";
+        QString kept = "medizinische Geräte";
         for (const auto &c : specifications) {
             const QString written = c.written[GetParam() - 1];
             if (written.isEmpty())
                 expectFailure("1120", notThere);
             type(editor, "cmbToleranz", c.keys[GetParam() - 1]);
             EXPECT_TRUE(boxes.allCame());
-            EXPECT_EQ(text(editor, "cmbToleranz"), inEnglish ? c.name.english : c.name.german);
+            const QString shown = written.isEmpty() ? kept
+                                  : inEnglish       ? c.name.english
+                                                    : c.name.german;
+            EXPECT_EQ(text(editor, "cmbToleranz"), kept = shown);
             EXPECT_EQ(specification(), before = written.isEmpty() ? before : written);
             EXPECT_EQ(text(editor, "cmbPrArt"), power);
         }

@@ -537,7 +537,21 @@ TEST_P(NewRecipe, FailuresAreToldAndLoseNothing) {
     const auto journey = [&, this]() -> Journey {
         co_await begin();
         saveName();
-        act("n=60 p=100 a=L pbSave pbFirst p=50 a=D");
+        act("n=60 p=100 a=L pbSave n=80 p=0 a=D pbSave pbFirst");
+        control<QWidget>(neu, "cmbPrArt")->setFocus();
+        key(neu, "cmbPrArt", Qt::Key_Backtab);
+        EXPECT_TRUE(focused(neu, "txtLeistung")) << "the way back is free";
+
+        // Renumbering that ends half-way: the list tells what is stored.
+        change("CREATE TRIGGER fest BEFORE UPDATE ON Rezepte WHEN old.Prüfschritt = '1' "
+               "BEGIN SELECT RAISE(ABORT, 'x'); END");
+        boxes.expect(english() ? "ERROR 1023E - …" : "Fehler 1023E - …");
+        press(neu, "pbEinfuegen");
+        EXPECT_EQ(stored(), "1:60/100/1 3:80/0/2");
+        const QAbstractItemModel *list = control<QTableView>(neu, "DBGridRez")->model();
+        EXPECT_EQ(list->index(1, 0).data().toString(), "3");
+        change("DROP TRIGGER fest");
+        act("pbLast pbLoeschen pbFirst p=50 a=D");
         change("ALTER TABLE Rezepte RENAME TO fort");
         for (const auto &[button, tag] : rows) {
             boxes.expect(

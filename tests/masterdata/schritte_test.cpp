@@ -40,6 +40,8 @@ TEST_F(Steps, LimitsUnderBothNumberFormats) {
         {point, "60.5", Gültig, Gültig, Gültig},
         {point, "120.5", AußerhalbBereich, AußerhalbBereich, Gültig},
         {point, "60,5", NichtNumerisch, NichtNumerisch, NichtNumerisch},
+        {point, "0,600", NichtNumerisch, NichtNumerisch, NichtNumerisch}, // 0.6 to the torque
+        {comma, "0.100", NichtNumerisch, NichtNumerisch, NichtNumerisch},
     };
     for (const auto &c : cases) {
         platform::setNumberLocale(c.format);

@@ -166,6 +166,8 @@ TEST_P(SpecificationChecks, TellWhatFails) {
         pickRow(1);
         expectMissing("Tol02");
         pickRow(0);
+        EXPECT_EQ(control<QComboBox>(screenName, "cmbBezTol")->currentIndex(), 1)
+            << "the one whose fields are shown";
         expect("delete?", Yes);
         expectMissing("Tol06");
         press(screenName, "pbDelete");

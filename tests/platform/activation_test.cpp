@@ -211,8 +211,10 @@ TEST_F(Activation, OnlyLeavingAFieldForAnotherOneIsLeavingIt) {
         {Qt::MenuBarFocusReason, ""},
     };
     for (const auto &[reason, expected] : cases) {
-        QFocusEvent event(QEvent::FocusOut, reason);
-        QCoreApplication::sendEvent(probe(A).box, &event);
+        for (const QEvent::Type type : {QEvent::FocusIn, QEvent::FocusOut}) {
+            QFocusEvent event(type, reason);
+            QCoreApplication::sendEvent(probe(A).box, &event);
+        }
         EXPECT_EQ(told(), expected) << reason;
     }
 }

@@ -63,7 +63,7 @@ inline QString text(frm name, const char *which) {
     if (auto *combo = qobject_cast<QComboBox *>(object))
         return combo->currentText();
     if (auto *label = qobject_cast<QLabel *>(object))
-        return label->text();
+        return label->text().remove(QChar(0x200B)); // places to break a long word
     return object->property("text").toString();
 }
 
