@@ -298,7 +298,7 @@ void frmDesktop::Form_Unload() {
 
 void frmDesktop::mnuGerät_Click() try {
     const Recordset rows =
-        gDatenbank.open("SELECT Gerätetyp FROM Ergometer WHERE KundenID = ?", {gKundenID});
+        gDatenbank.open("SELECT Gerätetyp FROM Ergometer WHERE KundenID = ? LIMIT 1", {gKundenID});
     if (!rows.empty()) {
         ::screen(frm::Gerät).showModal();
     } else {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "database.h"
+#include "eintrag.h"
 #include "frmRezepte.h"
 #include "msgbox.h"
 #include "session.h"
@@ -38,13 +39,6 @@ constexpr Beschriftung english[] = {
     {"pbok", "&OK"},
     {"pbexit", "&Cancel"},
 };
-
-/// An entry of the list when it is one, so that the box knows its row.
-void eintragSetzen(QComboBox *box, const QString &text) {
-    box->setCurrentIndex(box->findText(text));
-    box->setEditText(text);
-    box->lineEdit()->setCursorPosition(0); // a long name shows its start
-}
 
 } // namespace
 

@@ -125,7 +125,7 @@ void frmNeuRezept::fnc_Fill_CmbToleranz() try {
     ui.cmbToleranz->setCurrentIndex(-1);
     if (ui.cmbToleranz->count() == 0)
         ui.cmbToleranz->setPlaceholderText(
-            inSprache({"Noch keine; angelegt wird im Menü Stammdaten, Spezifikationen",
+            inSprache({"Noch keine; angelegt wird im Menü Verwaltung, Spezifikationen",
                        "None yet; use menu Master Data, Specifications to enter one"}));
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler NR01- ", "ERROR NR01- ", fehler);

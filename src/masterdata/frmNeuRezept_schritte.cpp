@@ -204,7 +204,7 @@ bool frmNeuRezept::fnc_DrehmomentPrüfen() try {
     if (drehmomentZulässig(ui.txtDrehzahl->text(), ui.txtLeistung->text(), grenzenNeuRezept))
         return true;
     drehmomentMelden(grenzenNeuRezept);
-    ui.txtDrehzahl->setFocus();
+    ui.txtDrehzahl->setFocus(Qt::TabFocusReason);
     return false;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1042- ", "ERROR 1042- ", fehler);

@@ -109,7 +109,7 @@ void frmRezepte::aktualisieren() {
     ui.cmbRezeptname->lineEdit()->setPlaceholderText(
         !mSuche.namen().isEmpty()
             ? inSprache({"Name oder Teil davon", "Name or part of it"})
-            : inSprache({"Noch kein Rezept; angelegt wird im Menü Stammdaten, Rezepte",
+            : inSprache({"Noch kein Rezept; angelegt wird im Menü Verwaltung, Rezepte",
                          "No recipe yet; use menu Master Data, Recipes to enter one"}));
     const bool text = !mSuche.text().trimmed().isEmpty();
     ui.pbok->setEnabled(text);

@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QShortcut>
 
+#include "eintrag.h"
 #include "msgbox.h"
 #include "rezept.h"
 #include "schluessel.h"
@@ -119,7 +120,7 @@ void frmToleranzen::felderLeeren() {
     for (QLineEdit *field :
          {ui.txtTolBez, ui.txtTolProz, ui.txtTolWatt, ui.txtAbw, ui.txtMessverfahren})
         field->clear();
-    klasseSetzen({});
+    eintragSetzen(ui.cmbGKlasse, {});
 }
 
 /// The row of mnToleranzID; without one the fields stay as they are.
@@ -131,7 +132,7 @@ void frmToleranzen::felderZeigen() {
     ui.txtTolProz->setText(row->prozent);
     ui.txtTolWatt->setText(row->watt);
     ui.txtAbw->setText(row->grenzAbw);
-    klasseSetzen(row->gKlasse);
+    eintragSetzen(ui.cmbGKlasse, row->gKlasse);
     ui.txtMessverfahren->setText(row->messverfahren);
     ui.txtTolBez->setCursorPosition(0);
     ui.txtMessverfahren->setCursorPosition(0);
@@ -158,7 +159,7 @@ void frmToleranzen::fnc_Fill_CmbBezTol() try {
 void frmToleranzen::fnc_Fill_CmbGKlasse() {
     ui.cmbGKlasse->clear();
     ui.cmbGKlasse->addItems({inSprache(klasseMedizin), inSprache(klasseStationär)});
-    klasseSetzen({});
+    eintragSetzen(ui.cmbGKlasse, {});
 }
 
 void frmToleranzen::fnc_Find_ToleranzID() {

@@ -33,7 +33,6 @@ class frmToleranzen : public Screen {
     void felderLeeren();
     void felderZeigen();
     Toleranz eingabe() const;
-    void klasseSetzen(const QString &klasse);
 
     void altWertMerken();
     void änderungPrüfen(const QLineEdit *feld);

@@ -5,6 +5,7 @@
 
 #include <limits>
 
+#include "eintrag.h"
 #include "msgbox.h"
 #include "sprache.h"
 
@@ -113,16 +114,9 @@ void frmToleranzen::func_Round_Watt(const QString &text) try {
     fehlerBox("Fehler Tol05 - ", "ERROR Tol05 - ", fehler);
 }
 
-/// Chosen in the list when it stands there, so that leaving the box chooses nothing.
-void frmToleranzen::klasseSetzen(const QString &klasse) {
-    ui.cmbGKlasse->setCurrentIndex(ui.cmbGKlasse->findText(klasse));
-    ui.cmbGKlasse->setEditText(klasse);
-    ui.cmbGKlasse->lineEdit()->setCursorPosition(0);
-}
-
 void frmToleranzen::cmbGKlasse_Change() {
     if (const QString klasse = klasseZurTaste(msGKlasseTaste); !klasse.isEmpty()) {
-        klasseSetzen(klasse);
+        eintragSetzen(ui.cmbGKlasse, klasse);
         ui.cmbGKlasse->lineEdit()->selectAll();
     }
     if (eingabe().vollständig())

@@ -1,0 +1,13 @@
+// Editable boxes with a list.
+#pragma once
+
+#include <QComboBox>
+#include <QLineEdit>
+
+/// An entry of the list when it is one, so that the box knows its row: leaving the box then picks
+/// nothing by itself. A long text shows its start.
+inline void eintragSetzen(QComboBox *box, const QString &text) {
+    box->setCurrentIndex(box->findText(text));
+    box->setEditText(text);
+    box->lineEdit()->setCursorPosition(0);
+}
