@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListView>
+#include <QTableView>
 
 #include "auswahl.h"
 #include "frmGeraet.h"
@@ -16,22 +17,31 @@ class Choosing : public support::Workplace, public testing::WithParamInterface<i
     using Journey = support::Journey;
 
     Choosing() { setLanguage(GetParam()); }
+    static bool english() { return GetParam() == 2; } // before the start, too
 
     static QStringList rowsOf(const QAbstractItemModel *model) {
         QStringList rows;
-        for (int row = 0; row < model->rowCount(); ++row)
-            rows += model->index(row, 0).data().toString();
+        for (int row = 0; row < model->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < model->columnCount(); ++column)
+                cells += model->index(row, column).data().toString();
+            rows += cells.join('|');
+        }
         return rows;
     }
+    /// The rows of a list, or of a grid with its cells joined.
     static QStringList listed(frm name, const char *list) {
-        return rowsOf(support::control<QListView>(name, list)->model());
+        return rowsOf(support::control<QAbstractItemView>(name, list)->model());
     }
     static QStringList offered(frm name, const char *box) {
         return rowsOf(support::control<QComboBox>(name, box)->model());
     }
     /// What any keyboard or the clipboard may bring.
     static void paste(frm name, const char *box, const QString &what) {
-        QLineEdit *edit = support::control<QComboBox>(name, box)->lineEdit();
+        auto *field = support::control<QWidget>(name, box);
+        auto *edit = qobject_cast<QLineEdit *>(field);
+        if (!edit)
+            edit = qobject_cast<QComboBox *>(field)->lineEdit();
         edit->selectAll();
         edit->insert(what);
     }
@@ -54,40 +64,97 @@ class Choosing : public support::Workplace, public testing::WithParamInterface<i
             shown += support::text(frm::Desktop, box);
         return shown.join('|');
     }
-    static Journey open(const char *button, frm name) {
-        support::press(frm::Desktop, button);
+    /// Logs in if nobody has.
+    Journey open(const char *button, frm name, frm from = frm::Desktop) {
+        if (!loaded(frm::Desktop))
+            co_await logIn();
+        support::press(from, button);
         co_await arrive(name);
     }
-    void expectUnitQuestion(int answer) {
-        expectBox({"Wollen Sie jetzt ein Gerät zu diesem Kunden auswählen?",
-                   "Do you want to select a unit for this customer now?"},
-                  platform::YesNo + platform::Question,
+    /// By a button, by "Escape", or by the close box, which has no name.
+    static void leaveBy(frm name, const char *way) {
+        if (!loaded(name))
+            throw std::runtime_error("the screen is left already");
+        if (!*way)
+            loaded(name)->close();
+        else if (way == QString("Escape"))
+            QTest::keyClick(loaded(name), Qt::Key_Escape);
+        else
+            support::press(name, way);
+    }
+    void expectQuestion(const Text &text, int answer) {
+        expectBox(text, platform::YesNo + platform::Question,
                   {"Stammdaten auswählen", "Select Master Data"}, answer);
     }
+    void expectUnitQuestion(int answer) {
+        expectQuestion({"Wollen Sie jetzt ein Gerät zu diesem Kunden auswählen?",
+                        "Do you want to select a unit for this customer now?"},
+                       answer);
+    }
     void expectRecipeQuestion(int answer) {
-        expectBox({"Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
-                  platform::YesNo + platform::Question,
-                  {"Stammdaten auswählen", "Select Master Data"}, answer);
+        expectQuestion(
+            {"Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
+            answer);
     }
     void expectTold(const Text &text, const Text &title, int icon = platform::Exclamation) {
         expectBox(text, icon, title);
     }
+    void expectNothingFound(const Text &title) {
+        expectTold({"Es wurden keine Daten gefunden! ", "No data found! "}, title,
+                   platform::Information);
+    }
+    void expectTorque() {
+        expectBox({"Das zulässige Drehmoment ist überschritten!\r\n"
+                   "Bitte geben Sie andere Werte ein!",
+                   "The permissible torque has been exeeded!\r\nPlease enter other values!"},
+                  platform::OKOnly, {"Drehmoment<=60Nm", "Torque<=60Nm"});
+    }
+    void expectFailure(const QString &tag, const Text &rest = {"…", "…"}) {
+        expectBox({"Fehler " + tag + " - " + rest.german, "ERROR " + tag + " - " + rest.english},
+                  platform::Critical, {"!! Achtung Fehler !!", " !! Attention !!"});
+    }
+    void expectNoRecord(const QString &tag) {
+        expectFailure(tag, {" 3021 Kein aktueller Datensatz.", " 3021 No current record."});
+    }
+    void expectNoNumber(const QString &tag, const QString &text) {
+        expectFailure(tag, {" 13 Typen unverträglich: \"" + text + "\" ist keine Zahl.",
+                            " 13 Type mismatch: \"" + text + "\" is not a number."});
+    }
+    /// A statement on this table fails until the database is mended.
+    static void spoil(const char *event, const char *table) {
+        change(QString("CREATE TRIGGER fest BEFORE %1 ON %2 BEGIN SELECT RAISE(ABORT, 'x'); END")
+                   .arg(event, table));
+    }
+    static void mend() { change("DROP TRIGGER fest"); }
+
     Journey customer(const QString &name, int answer = platform::No) {
         co_await open("pbKunde", frm::Kunden);
         paste(frm::Kunden, "cmbKundenname", name);
         expectUnitQuestion(answer);
         support::press(frm::Kunden, "pbexit");
+        co_await arrive(answer == platform::Yes ? frm::Gerät : frm::Desktop);
     }
     Journey unit(const QString &ident, int answer = platform::No) {
         co_await open("pbGerät", frm::Gerät);
         paste(frm::Gerät, "cmbIdent", ident);
+        co_await takeUnit(answer);
+    }
+    Journey takeUnit(int answer = platform::No) {
         expectRecipeQuestion(answer);
         support::press(frm::Gerät, "pbok");
+        co_await arrive(answer == platform::Yes ? frm::Rezepte : frm::Desktop);
     }
     Journey recipe(const QString &name) {
         co_await open("pbRezept", frm::Rezepte);
         paste(frm::Rezepte, "cmbRezeptname", name);
         support::press(frm::Rezepte, "pbok");
         co_await arrive(frm::Desktop);
+    }
+    /// The list of recipes as the menu opens it.
+    Journey maintain() {
+        if (!loaded(frm::Desktop))
+            co_await logIn();
+        support::choose(frm::Desktop, "mnuRezepte");
+        co_await arrive(frm::Rezepte);
     }
 };

@@ -61,19 +61,22 @@ class Specifications : public Choosing {
                                              "txtAbw",    "cmbGKlasse", "txtMessverfahren"};
     static constexpr const char *untouched = "Alpha 5 3 2;Beta 10 5 5;Gamma 8 8 1";
 
-    Specifications() {
+    Specifications() { deliver(); }
+    static void deliver() {
+        change("DELETE FROM Toleranzen");
         change("INSERT INTO Toleranzen VALUES "
                "(11, 'Alpha', 5, 3, 2, 'Medizinische Geräte', 'Verfahren A'), "
                "(12, 'Beta', 10, 5, 5, 'Stationary Devices', 'Verfahren B'), "
                "(13, 'Gamma', 8, 8, 1, 'frei', 'Verfahren C')");
-        change("DELETE FROM Toleranzen WHERE ID < 11");
     }
-    static Journey openSpecifications() {
+    Journey openSpecifications() {
+        if (!loaded(frm::Desktop))
+            co_await logIn();
         support::choose(frm::Desktop, "mnuToleranzen");
         co_await arrive(screenName);
     }
     static Journey leave() {
-        QTest::keyClick(loaded(screenName), Qt::Key_Escape);
+        leaveBy(screenName, "Escape");
         co_await arrive(frm::Desktop);
     }
     QString rows() {
@@ -96,56 +99,57 @@ class Specifications : public Choosing {
         }
         ADD_FAILURE() << "no box " << name.toStdString();
     }
-    void expectFailure(const QString &tag, const QString &rest, const QString &restEnglish) {
-        expectBox({"Fehler " + tag + " - " + rest, "ERROR " + tag + " - " + restEnglish}, 16,
-                  {"!! Achtung Fehler !!", " !! Attention !!"});
+    void expectMissing(const QString &tag) {
+        const QString missing = "no such table: Toleranzen";
+        expectFailure(tag, {" 3078 Die Tabelle wurde nicht gefunden: " + missing,
+                            " 3078 Table not found: " + missing});
     }
-    void expectNoNumber(const QString &tag, const QString &text) {
-        expectFailure(tag, " 13 Typen unverträglich: \"" + text + "\" ist keine Zahl.",
-                      " 13 Type mismatch: \"" + text + "\" is not a number.");
+    /// A way of such steps: "New" and other buttons, "pick Beta", "txtTolBez=X", "fill", "tab", or
+    /// a box to come: "changed? yes", "noNumber Tol04 abc".
+    void go(const QString &way) {
+        for (const QString &what : way.split(';'))
+            step(what, what.split(' '));
     }
-    static void replace(const char *field, const QString &value) {
-        support::type(screenName, field, value);
-        if (value.isEmpty())
-            key(screenName, field, Qt::Key_Delete);
-    }
-    static void leaveField() { QTest::keyClick(loaded(screenName)->focusWidget(), Qt::Key_Tab); }
-    /// One step of a way: "New" and other buttons, "pick Beta", "txtTolBez=X", "fill", "tab", or a
-    /// box to come: "changed? yes".
-    void step(const QString &what) {
-        const QStringList words = what.split(' ');
+    void step(const QString &what, const QStringList &words) {
         if (words[0] == "pick") {
             const QStringList entries = offered(screenName, "cmbBezTol");
             pickRow(static_cast<int>(entries.indexOf(entries.filter(words[1]).value(0))));
         } else if (what.contains('=')) {
-            replace(qPrintable(what.section('=', 0, 0)), what.section('=', 1));
+            const QByteArray field = what.section('=', 0, 0).toUtf8();
+            support::type(screenName, field, what.section('=', 1));
+            if (what.endsWith('='))
+                key(screenName, field, Qt::Key_Delete);
         } else if (what == "fill") {
             const char *values[] = {"Neu", "4", "2", "1", "m", "V"};
             for (size_t i = 0; i < std::size(fields); ++i)
                 support::type(screenName, fields[i], values[i]);
-            leaveField();
+            go("tab");
         } else if (what == "tab") {
-            leaveField();
+            QTest::keyClick(loaded(screenName)->focusWidget(), Qt::Key_Tab);
         } else if (QStringList{"New", "Delete", "Save", "ok", "exit"}.contains(what)) {
-            support::press(screenName, qPrintable("pb" + what));
+            support::press(screenName, ("pb" + what).toUtf8());
+        } else if (words[0] == "noNumber") {
+            expectNoNumber(words[1], words[2]);
         } else {
             const QHash<QString, int> answers{
                 {"yes", platform::Yes}, {"no", platform::No}, {"cancel", platform::Cancel}};
             expect(words[0], answers.value(words.value(1), platform::OK));
         }
     }
-    /// Enabled buttons, name and percentage when the block is shown, the picker, the keyboard.
-    static QString look() {
+    /// Enabled buttons, name and numbers when the block is shown, the picker, the keyboard.
+    static std::string look() {
         if (!loaded(screenName))
             return "closed";
         QString seen;
         for (const char *button : {"pbNew", "pbEdit", "pbDelete", "pbSave"})
             seen += enabled(screenName, button) ? button[2] : '-';
+        QStringList shown;
+        for (const char *field : {fields[1], fields[2], fields[3]})
+            shown += support::text(screenName, field);
         seen += support::control(screenName, "txtTolBez")->isVisible()
-                    ? " [" + support::text(screenName, "txtTolBez") + ' ' +
-                          support::text(screenName, "txtTolProz") + "] "
+                    ? " [" + support::text(screenName, "txtTolBez") + ' ' + shown.join('/') + "] "
                     : " [] ";
         seen += support::text(screenName, "cmbBezTol").section("   ", 0, 0);
-        return seen + " @" + loaded(screenName)->focusWidget()->objectName();
+        return (seen + " @" + loaded(screenName)->focusWidget()->objectName()).toStdString();
     }
 };

