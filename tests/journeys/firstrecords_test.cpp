@@ -1,8 +1,10 @@
 // A new workplace: nothing is stored but the delivered settings. The first customer, unit,
 // specification and recipe are entered by keyboard alone, led by what the program suggests, and
 // measured with.
+#include <QFile>
 #include <QPointer>
 
+#include "scripts.h"
 #include "session.h"
 #include "workplace.h"
 
@@ -14,11 +16,9 @@ using namespace platform;
 class FirstRecords : public Workplace, public testing::WithParamInterface<int> {
   protected:
     FirstRecords() {
-        for (const char *table :
-             {"Kunden", "Ergometer", "Toleranzen", "Rezeptnamen", "Rezepte", "Protokoll_temp",
-              "Protokoll", "Messwerte_temp", "Messwerte", "Blutdruck_temp", "Blutdruck",
-              "SecControl_temp", "SecControl", "sqlite_sequence"})
-            change(QString("DELETE FROM %1").arg(table));
+        QFile::remove(datenbankName);
+        legeDatenbankAn(datenbankName, false);
+        change("DELETE FROM Toleranzen");
         setLanguage(GetParam());
     }
 

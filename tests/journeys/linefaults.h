@@ -27,10 +27,9 @@ inline const LineFault lineFaults[] = {
     {"babble", {.babble = true}, false, true},
 };
 
-/// Runs in German and in English.
-class LineFaults : public Workplace, public testing::WithParamInterface<int> {
+class LineFaults : public Workplace {
   protected:
-    LineFaults() { setLanguage(GetParam()); }
+    explicit LineFaults(int language = 1) { setLanguage(language); }
 
     void expectNoController() {
         expectBox({"1 - Keine Kommunikation mit dem Controller möglich!",
@@ -50,12 +49,20 @@ class LineFaults : public Workplace, public testing::WithParamInterface<int> {
     void expectMotorOff(int flags) {
         expectBox({"Fehler", "Error"}, flags, {"Motor aus", "Motor Off"});
     }
-    void expectNoStream() {
-        expectBox({"Nach 15 Sek kein Empfang", "No reception after 15 sec!"}, Exclamation,
-                  {"Meldung", "Message"});
+    void expectMotorNotOn() {
+        expectBox({"Motor konnte nicht eingeschaltet werden",
+                   "It was not possible to switch the motor on."},
+                  Critical, {"Motor ein", "Motor On"});
+    }
+    void expectDiscontinued() {
         expectBox({"Statische Nullpunkt-Korrektur abgebrochen",
                    "Static zero-point correction has been discontinued!"},
                   Exclamation, {"Meldung", "Message"});
+    }
+    void expectNoStream() {
+        expectBox({"Nach 15 Sek kein Empfang", "No reception after 15 sec!"}, Exclamation,
+                  {"Meldung", "Message"});
+        expectDiscontinued();
     }
     void expectCorrectionAborted() {
         expectBox({"Die Nullpunkt-Korrektur wurde abgebrochen!",
@@ -69,18 +76,27 @@ class LineFaults : public Workplace, public testing::WithParamInterface<int> {
                   Critical, {"!! Achtung Fehler !!", " !! Attention !!"});
     }
     void heal() { line.stand().setFaults({}); }
-    long onWire(const std::string &bytes) {
-        long count = 0;
-        const std::string &wire = line.stand().wire();
-        for (size_t at = wire.find(bytes); at != std::string::npos; at = wire.find(bytes, at + 1))
-            ++count;
-        return count;
+    /// Until all expected boxes came, and a little more.
+    Journey told(double within = 180'000) {
+        const Until came = until(
+            "the boxes", [this] { return boxes.allCame(); }, within);
+        co_await came;
+        co_await pass(100);
     }
+    static Journey corrected() {
+        press(frm::VorStatNPK, "pbok");
+        co_await until("the correction", [] { return canPress(frm::StatMessen, "pbWeiter"); });
+    }
+    /// Nothing was written, and a measurement needs the selection anew.
     Journey abortCorrection() {
         expectCorrectionAborted();
         press(frm::StatMessen, "pbAbbrechen");
         co_await arrive(frm::Desktop);
+        expectIdleDesktop();
+        EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));
+        EXPECT_FALSE(control<QAction>(frm::Desktop, "mnuStartMessen")->isEnabled());
         EXPECT_FALSE(line.stand().offsetWritten() || line.stand().factorWritten());
+        EXPECT_FALSE(gMessenFreigabe);
     }
 };
 

@@ -35,6 +35,8 @@ TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
         co_await until(
             "the end of running-in", [] { return inFront(frm::Meldung1); }, 700'000);
         EXPECT_TRUE(gEingelaufen);
+        EXPECT_EQ(text(frm::Meldung1, "laMeldung1"), "Die Einlaufzeit");
+        EXPECT_EQ(text(frm::Meldung1, "laMeldung2"), "ist beendet.");
         co_await arrive(frm::Desktop);
 
         // Zero point

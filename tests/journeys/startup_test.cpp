@@ -4,6 +4,7 @@
 #include <QProgressBar>
 
 #include "scripts.h"
+#include "start.h"
 #include "startup.h"
 
 namespace {
@@ -12,38 +13,22 @@ using namespace support;
 using namespace platform;
 
 TEST_F(Startup, WithoutDatabase) {
-    struct Case {
-        const char *name;
-        Text box;
-    };
-    const Case cases[] = {
-        {"missing",
+    const std::pair<bool, Text> cases[] = {
+        {false,
          {"3024 Die Datei \"torvena470.mdb\" wurde im Arbeitsverzeichnis nicht gefunden.",
           "3024 The file \"torvena470.mdb\" was not found in the working directory."}},
-        {"text",
+        {true,
          {"3343 Die Datenbank ist beschädigt. Bitte spielen Sie eine Sicherungskopie ein.",
-          "3343 The database is damaged. Please restore a safety copy."}},
-        {"locked",
-         {"3045 Die Datenbank ist von einem anderen Programm gesperrt. Bitte schließen Sie es.",
-          "3045 The database is locked by another program. Please close it."}},
-    };
-    for (const Case &damage : cases) {
-        SCOPED_TRACE(damage.name);
-        Datenbank other;
-        const QString kind = damage.name;
-        if (kind == "locked") {
-            legeDatenbankAn(datenbankName, false);
-            other.openFile(datenbankName);
-            other.execute("BEGIN EXCLUSIVE");
-        } else {
-            QFile file(datenbankName);
-            file.remove();
-            if (kind == "text" && file.open(QIODevice::WriteOnly))
-                file.write("Kunden und Rezepte, von Hand aufgeschrieben. Keine Datenbank.\n");
-        }
-        const auto journey = [this, &damage]() -> Journey {
-            boxes.expect("Error 1002- " + damage.box.english, "Error", Critical); // no language yet
-            boxes.expect("Fehler 1002- " + damage.box.german, "Fehler", Critical);
+          "3343 The database is damaged. Please restore a safety copy."}}};
+    for (const auto &[there, box] : cases) {
+        QFile file(datenbankName);
+        file.remove();
+        if (there && file.open(QIODevice::WriteOnly))
+            file.write("Kunden und Rezepte, von Hand aufgeschrieben. Keine Datenbank.\n");
+        file.close();
+        const auto journey = [this](const Text &what) -> Journey {
+            boxes.expect("Error 1002- " + what.english, "Error", Critical); // no language yet
+            boxes.expect("Fehler 1002- " + what.german, "Fehler", Critical);
             expectDesktopFailure("3420 Die Datenbank ist nicht geöffnet.");
             co_await logIn();
             boxes.expect("Fehler 1070 -  3420 Die Datenbank ist nicht geöffnet.",
@@ -57,8 +42,7 @@ TEST_F(Startup, WithoutDatabase) {
             press(frm::Desktop, "pbMotaus");
             co_await end();
         };
-        run(journey());
-        QFile::remove(datenbankName);
+        run(journey(box));
     }
 }
 
@@ -87,19 +71,14 @@ TEST_F(Startup, MissingTables) {
         const char *box;
         const char *inspector; // how far the desktop came
         const char *standard;
-        bool calibrated;
     };
     constexpr Case cases[] = {
         {"DROP TABLE Interface", "3078 Die Tabelle wurde nicht gefunden: no such table: Interface",
-         "", " SerienNr. ", false},
-        {"DELETE FROM Interface", "3021 Kein aktueller Datensatz.", "", " SerienNr. ", false},
+         "", " SerienNr. "},
         {"DELETE FROM Normalkalibrierdaten", "3021 Kein aktueller Datensatz.", "M. Prüfer",
-         " SerienNr. ", false},
-        {"DROP TABLE Hebelarmkalibrierung",
-         "3078 Die Tabelle wurde nicht gefunden: no such table: Hebelarmkalibrierung", "M. Prüfer",
-         "Drehmomentnormal SerienNr. TN-1001", true},
+         " SerienNr. "},
         {"DELETE FROM Hebelarmkalibrierung", "3021 Es gibt noch keine Hebelarmkalibrierung.",
-         "M. Prüfer", "Drehmomentnormal SerienNr. TN-1001", true},
+         "M. Prüfer", "Drehmomentnormal SerienNr. TN-1001"},
     };
     for (const Case &missing : cases) {
         SCOPED_TRACE(missing.damage);
@@ -107,13 +86,10 @@ TEST_F(Startup, MissingTables) {
         change(missing.damage);
         const auto journey = [this, &missing]() -> Journey {
             expectDesktopFailure(missing.box);
-            co_await logIn();
+            co_await select();
             EXPECT_EQ(text(frm::Desktop, "txtPrüfer"), missing.inspector);
             EXPECT_EQ(text(frm::Desktop, "txtNormal"), missing.standard);
-            EXPECT_EQ(!text(frm::Desktop, "txtKalDat").isEmpty(), missing.calibrated);
             EXPECT_EQ(loaded(frm::Desktop)->caption(), "torvena");
-            const DemoNames names = demoNames();
-            co_await choose(names.customer, names.ident, names.recipe);
             EXPECT_TRUE(canPress(frm::Desktop, "pbMessen"));
             co_await motorRuns();
             press(frm::Desktop, "pbMotaus");
@@ -150,50 +126,35 @@ TEST_F(Startup, SystemTakenFromOneRowOnly) {
 TEST_F(Startup, LanguageOfTheRun) {
     const auto journey = [this]() -> Journey {
         co_await logIn();
-        for (const auto &[menu, button, caption] :
-             {std::tuple{"mnuEnglisch", "&Customer", "Select Customer"},
-              {"mnuDeutsch", "&Kunde", "Kunde auswählen"}}) {
+        for (const auto &[menu, button] :
+             {std::pair{"mnuEnglisch", "&Customer"}, {"mnuDeutsch", "&Kunde"}}) {
             support::choose(frm::Desktop, menu);
             EXPECT_EQ(text(frm::Desktop, "pbKunde"), button);
-            EXPECT_EQ(loaded(frm::Desktop)->caption(), "torvena");
-            press(frm::Desktop, "pbKunde");
-            co_await arrive(frm::Kunden);
-            EXPECT_EQ(loaded(frm::Kunden)->caption(), caption);
-            press(frm::Kunden, "pbAbbrechen");
-            co_await arrive(frm::Desktop);
+            EXPECT_EQ(column("SELECT Sprache FROM System"), QStringList{"1"}); // stays
         }
-        support::choose(frm::Desktop, "mnuEnglisch");
-        EXPECT_EQ(column("SELECT Sprache FROM System"), QStringList{"1"}); // not for the next run
-        co_await end();
     };
     run(journey());
 }
 
-/// Days on which the program is started; the lever arm is due on 15.07.2024.
-struct Day {
-    QDate date;
-    int left; // %
-    bool red;
-};
-void PrintTo(const Day &day, std::ostream *out) {
-    *out << day.date.toString(Qt::ISODate).toStdString();
-}
-class LeverArm : public Startup, public testing::WithParamInterface<Day> {};
-
-INSTANTIATE_TEST_SUITE_P(Days, LeverArm,
-                         testing::Values(Day{QDate(2024, 1, 15), 100, false},
-                                         Day{QDate(2024, 4, 15), 50, false},
-                                         Day{QDate(2024, 7, 15), 0, false},
-                                         Day{QDate(2024, 7, 16), 0, true}));
-
-TEST_P(LeverArm, DueDate) {
+TEST_F(Startup, DueDateOfTheLeverArm) {
     change("INSERT INTO Hebelarmkalibrierung (Prüfdatum) VALUES ('2024-01-15 16:30:00')");
-    clock.setDay(GetParam().date);
-    run(logIn());
-    auto *frame = control(frm::Desktop, "FrHebelarm");
-    EXPECT_EQ(frame->property("title"), "Nächste Hebelarmkalibrierung fällig am 15.07.2024");
-    EXPECT_EQ(frame->palette().color(QPalette::WindowText) == QColor(255, 0, 0), GetParam().red);
-    EXPECT_EQ(control<QProgressBar>(frm::Desktop, "ProgressBar1")->value(), GetParam().left);
+    struct Day {
+        QDate date;
+        int left; // %
+    };
+    for (const Day &day : {Day{QDate(2024, 1, 15), 100}, Day{QDate(2024, 4, 15), 50},
+                           Day{QDate(2024, 7, 15), 0}, Day{QDate(2024, 7, 16), 0}}) {
+        SCOPED_TRACE(day.date.toString(Qt::ISODate).toStdString());
+        forgetSession();
+        clock.setDay(day.date);
+        run(logIn());
+        auto *frame = control(frm::Desktop, "FrHebelarm");
+        EXPECT_EQ(frame->property("title"), "Nächste Hebelarmkalibrierung fällig am 15.07.2024");
+        EXPECT_EQ(frame->palette().color(QPalette::WindowText) == QColor(255, 0, 0),
+                  day.date > QDate(2024, 7, 15));
+        EXPECT_EQ(control<QProgressBar>(frm::Desktop, "ProgressBar1")->value(), day.left);
+        programmAufräumen();
+    }
 }
 
 } // namespace

@@ -23,101 +23,59 @@ class OnStand : public LinkTest {
         line.stand().clearWires();
         return all;
     }
+    void setFaults(const simulator::Faults &faults) { line.stand().setFaults(faults); }
     support::SimulatedLine line{clock};
 };
 
-TEST_F(OnStand, ASuccessfulCommandOnTheWire) {
-    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
-    EXPECT_EQ(wire(), "-*E-2100+>>>");
-    EXPECT_FALSE(Timer1.enabled());
-    EXPECT_TRUE(fnc_BefehlSenden("A", 2, "00"));
-    EXPECT_EQ(wire(), "-*A 0000+>>>");
-    EXPECT_TRUE(fnc_BefehlSenden("E", 0, "12,5"));
-    EXPECT_EQ(wire(), "-*E 0437+>>>");
-    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "290"));
-    EXPECT_EQ(wire(), "-*E-10150+>>>");
+TEST_F(OnStand, CommandsOnTheWire) {
+    const struct {
+        const char *command;
+        std::int16_t direction;
+        const char *speed, *wire;
+        simulator::Faults faults = {};
+        int beeps = 0;
+    } cases[] = {
+        {"E", 1, "60", "-*E-2100+>>>"},
+        {"A", 2, "00", "-*A 0000+>>>"},
+        {"E", 0, "12,5", "-*E 0437+>>>"},
+        {"E", 1, "290", "-*E-10150+>>>"},
+        {"E", 1, "60", "-*E-2100+--*E-2100+--*E-2100+>>>", {.deafFrames = 2}, 2},
+        {"E", 1, "60", "-*E-2100+>>>", {.echoDelay = 1900}}, // in time, only just
+        // Arrives during the second try, whose own echo is left over
+        {"E", 1, "70", "-*E-2450+--*E-2450+>>>", {.echoDelay = 2500}, 1},
+        {"E", 1, "80", "-*E-2800+>>>"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.wire);
+        beeps = 0;
+        setFaults(c.faults);
+        EXPECT_TRUE(fnc_BefehlSenden(c.command, c.direction, c.speed));
+        EXPECT_EQ(wire(), c.wire);
+        EXPECT_EQ(beeps, c.beeps);
+        EXPECT_FALSE(Timer1.enabled());
+    }
     EXPECT_TRUE(MSComm1.PortOpen());
-    EXPECT_EQ(beeps, 0);
     EXPECT_FALSE(window.moteinEnabled) << "not touched";
 }
 
 TEST_F(OnStand, ASilentControllerIsToldOnceAfterThreeTries) {
-    simulator::Faults faults;
-    faults.silent = true;
-    line.stand().setFaults(faults);
+    setFaults({.silent = true});
     boxes.expect(silentText, "Fehlermeldung", Critical);
     EXPECT_FALSE(fnc_BefehlSenden("E", 1, "60"));
     EXPECT_EQ(wire(), "-*E-2100+--*E-2100+--*E-2100+--");
     EXPECT_EQ(beeps, 3);
-    EXPECT_EQ(boxes.count(), 1u);
     EXPECT_TRUE(window.moteinEnabled);
     EXPECT_NEAR(clock.elapsed(), 6000, 200);
     EXPECT_FALSE(Timer1.enabled());
-
-    gSprache = 2;
-    boxes.expect("Communication with the controller is not possible!", "Error Message", Critical);
-    EXPECT_FALSE(fnc_BefehlSenden("E", 1, "60"));
     motorStillschweigendAus(); // says nothing
-    EXPECT_EQ(boxes.count(), 2u);
+    EXPECT_EQ(boxes.count(), 1u);
     EXPECT_EQ(gKeineMeldung, 0);
 }
 
-TEST_F(OnStand, AFrameThatWasNotHeardIsSentAgain) {
-    simulator::Faults faults;
-    faults.deafFrames = 2;
-    line.stand().setFaults(faults);
-    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
-    EXPECT_EQ(wire(), "-*E-2100+--*E-2100+--*E-2100+>>>");
-    EXPECT_EQ(beeps, 2);
-}
-
-TEST_F(OnStand, ALateEcho) {
-    simulator::Faults faults;
-    faults.echoDelay = 1900; // in time, only just
-    line.stand().setFaults(faults);
-    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
-    EXPECT_EQ(wire(), "-*E-2100+>>>");
-    faults.echoDelay = 2500; // arrives during the second try, whose own echo is left over
-    line.stand().setFaults(faults);
-    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "70"));
-    EXPECT_EQ(wire(), "-*E-2450+--*E-2450+>>>");
-    EXPECT_EQ(beeps, 1);
-    line.stand().setFaults({});
-    clock.run(3000);
-    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "80"));
-    EXPECT_EQ(wire(), "-*E-2800+>>>");
-}
-
-TEST_F(OnStand, ABrokenLineIsToldAndTheNextCommandWorks) {
-    simulator::Faults faults;
-    faults.silent = true;
-    line.stand().setFaults(faults);
-    clock.after(500, [this] { line.unplug(); });
-    boxes.expect("Error 5005- 8020 Die Verbindung ist unterbrochen…");
-    boxes.expect("Error 5006- 8018 …");
-    boxes.expect(silentText);
-    EXPECT_FALSE(fnc_BefehlSenden("E", 1, "60"));
-    EXPECT_LT(clock.elapsed(), 1000);
-    EXPECT_FALSE(MSComm1.PortOpen());
-    EXPECT_FALSE(Timer1.enabled());
-    EXPECT_TRUE(leitungFrei());
-
-    boxes.expect("Error 5007- 8002 …", "Error", Critical);
-    EXPECT_FALSE(fnc_BefehlSenden("E", 1, "60"));
-    EXPECT_EQ(gFehlerNr, fehlernummer::NoSuchPort);
-    line.plug();
-    line.stand().setFaults({});
-    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
-}
-
 TEST_F(OnStand, ExchangesDoNotInterleave) {
-    simulator::Faults faults;
-    faults.deafFrames = 1;
-    line.stand().setFaults(faults);
-    boxes.allow("Error 5007- 8021 …");
-    boxes.allow("Error 5009- 8021 …");
-    boxes.allow("Fehler 4000 -  8021 …");
-    boxes.allow("Fehler 4001 -  8021 …");
+    setFaults({.deafFrames = 1});
+    for (const char *tag : {"Error 5007- ", "Error 5009- ", "Fehler 4000 -  ", "Fehler 4001 -  "})
+        boxes.allow(QString(tag) + "8021 …");
     clock.stuck = [] { gDesktopAktiv = false; }; // the time-out of the first was lost
     clock.after(500, [] {
         EXPECT_FALSE(leitungFrei());
@@ -134,8 +92,6 @@ TEST_F(OnStand, ExchangesDoNotInterleave) {
 }
 
 TEST_F(OnStand, AWaitEndsWithTheDesktop) {
-    simulator::Faults faults;
-    faults.silent = true;
     const std::function<void()> waits[] = {
         [] { EXPECT_FALSE(fnc_BefehlSenden("E", 1, "60")); },
         [] { EXPECT_EQ(fnc_BetriebsartLesen(), 0); },
@@ -144,7 +100,7 @@ TEST_F(OnStand, AWaitEndsWithTheDesktop) {
     };
     boxes.allow(silentText);
     for (const auto &wait : waits) {
-        line.stand().setFaults(faults);
+        setFaults({.silent = true});
         gDesktopAktiv = true;
         const double start = clock.elapsed();
         clock.after(300, [] { gDesktopAktiv = false; });
@@ -169,49 +125,12 @@ TEST_F(OnStand, MotorOffWaitsForTheStandstill) {
     EXPECT_FALSE(window.motausEnabled);
     EXPECT_EQ(window.enabled, 1);
 
-    window = {};
-    simulator::Faults faults;
-    faults.silent = true;
-    line.stand().setFaults(faults);
-    boxes.expect(silentText);
-    EXPECT_FALSE(fnc_MotorAus());
-    EXPECT_EQ(wire().find('A'), std::string::npos);
-    EXPECT_EQ(window.enabled, 1) << "the window is usable again all the same";
-
     line.unplug();
     MSComm1.setPortOpen(false);
     boxes.expect("Error 5011- 8002 …", "Error", Critical);
     boxes.expect("Error 5007- 8002 …", "Error", Critical);
     EXPECT_FALSE(fnc_MotorAus());
-    EXPECT_EQ(window.enabled, 2);
-}
-
-TEST_F(OnStand, PortTest) {
-    const char *const title = "!! Achtung Fehler !!";
-    fnc_PortPrüfen();
-    EXPECT_TRUE(gSS1Vorhanden);
-    EXPECT_FALSE(MSComm1.PortOpen());
-    MSComm1.setPortOpen(true);
-    fnc_PortPrüfen();
-    EXPECT_FALSE(MSComm1.PortOpen()) << "also a port that was open is closed";
-
-    line.unplug();
-    fnc_PortPrüfen();
-    EXPECT_FALSE(gSS1Vorhanden);
-    EXPECT_EQ(boxes.count(), 0u);
-    EXPECT_EQ(gFehlerNr, fehlernummer::NoSuchPort);
-
-    line.plug();
-    line.occupy(true);
-    for (const bool old : {false, true}) {
-        gSS1Vorhanden = old;
-        boxes.expect("Fehler mI 2 -  8005 belegt", title, Critical);
-        fnc_PortPrüfen();
-        EXPECT_EQ(gSS1Vorhanden, old);
-    }
-    gSprache = 2;
-    boxes.expect("ERROR mSI 2 -  8005 in use", " !! Attention !!", Critical);
-    fnc_PortPrüfen();
+    EXPECT_EQ(window.enabled, 2) << "the window is usable again all the same";
 }
 
 class OnScript : public LinkTest {
@@ -225,8 +144,6 @@ TEST_F(OnScript, OnlyTheExactEchoCounts) {
         std::vector<QByteArray> pieces; // 20 ms apart
         bool matches;
     } cases[] = {
-        {"in one piece", {"E-2100"}, true},
-        {"in two pieces", {"E-2", "100"}, true},
         {"byte by byte", {"E", "-", "2", "1", "0", "0"}, true},
         {"a byte in front", {"\x55", "E-2100"}, false},
         {"a byte behind", {"E-2100\n"}, false},
@@ -313,81 +230,49 @@ TEST_F(OnScript, MotorOffGivesUpWaitingForTheStandstill) {
     EXPECT_EQ(beeps, 0);
 }
 
-TEST_F(OnScript, ModeOfOperation) {
+TEST_F(OnScript, ModeAndReset) {
+    const auto mode = [] { return int(fnc_BetriebsartLesen()); };
+    const auto reset = [] { return int(fnc_Reset()); };
     const struct {
-        const char *what;
-        std::vector<std::vector<QByteArray>> answers; // to each "#", pieces 100 ms apart
-        std::int16_t result;
+        int (*request)();
+        std::vector<std::vector<QByteArray>> answers; // to each try, pieces 100 ms apart
+        int result;
         const char *wire;
         double milliseconds;
     } cases[] = {
-        {"lever arm", {{"\x07"}}, 1, "#", 0},
-        {"another", {{"\x01"}}, 2, "#", 0},
-        {"zero", {{QByteArray(1, '\0')}}, 2, "#", 0},
-        {"two at once, then one", {{"\x07\x07", "\x07"}}, 1, "#", 200},
-        {"two at once", {{"\x07\x07"}, {"\x07"}}, 1, "#-#", 10'000},
-        {"second try", {{}, {"\x07"}}, 1, "#-#", 10'000},
-        {"none", {{}, {}}, 0, "#-#-", 20'000},
+        {mode, {{"\x07"}}, 1, "#", 0},
+        {mode, {{"\x01"}}, 2, "#", 0},
+        {mode, {{QByteArray(1, '\0')}}, 2, "#", 0},
+        {mode, {{"\x07\x07", "\x07"}}, 1, "#", 200},
+        {mode, {{"\x07\x07"}, {"\x07"}}, 1, "#-#", 10'000},
+        {mode, {}, 0, "#-#-", 20'000},
+        {reset, {{"O", "k", "1"}}, 1, "r", 300},
+        {reset, {{"Ok1\r"}, {"Ok1"}}, 1, "r--r", 20'000},
+        {reset, {{"Ok"}, {"Ok1"}}, 1, "r--r", 20'000},
+        {reset, {{"Ok2"}, {"Err"}}, 0, "r--r--", 40'000},
     };
-    boxes.allow("Keine Daten empfangen!");
     for (const auto &c : cases) {
-        size_t asked = 0;
-        line.onWrite = [&](const QByteArray &bytes) {
-            if (bytes == "#" && asked < c.answers.size())
-                line.arrive(c.answers[asked++], 100);
-        };
-        line.written.clear();
-        const double start = clock.elapsed();
-        const size_t shown = boxes.count();
-        EXPECT_EQ(fnc_BetriebsartLesen(), c.result) << c.what;
-        EXPECT_EQ(line.written, c.wire) << c.what;
-        EXPECT_NEAR(clock.elapsed() - start, c.milliseconds, 150) << c.what;
-        EXPECT_EQ(boxes.count() - shown, c.result == 0 ? 1u : 0u) << c.what;
-        EXPECT_FALSE(Timer1.enabled()) << c.what;
-    }
-    EXPECT_EQ(boxes.seen().back().title, "Meldung");
-    EXPECT_EQ(boxes.seen().back().flags, Exclamation);
-}
-
-TEST_F(OnScript, Reset) {
-    const struct {
-        const char *what;
-        std::vector<std::vector<QByteArray>> answers; // to each "r", pieces 100 ms apart
-        bool result;
-        const char *wire;
-        QString told;
-    } cases[] = {
-        {"at once", {{"Ok1"}}, true, "r", ""},
-        {"in pieces", {{"O", "k", "1"}}, true, "r", ""},
-        {"with more behind", {{"Ok1\r"}, {"Ok1"}}, true, "r--r", "1 Timeout"},
-        {"half, and whole at the second try", {{"Ok"}, {"Ok1"}}, true, "r--r", "1 Timeout"},
-        {"none", {{}, {}}, false, "r--r--", "2 Timeout"},
-        {"wrong", {{"Ok2"}, {"Err"}}, false, "r--r--", "2 Timeout"},
-    };
-    boxes.allow("Kein Reset möglich!");
-    for (const auto &c : cases) {
+        SCOPED_TRACE(c.wire);
         Told statMessen(frm::StatMessen);
         size_t asked = 0;
         line.onWrite = [&](const QByteArray &bytes) {
-            if (bytes == "r" && asked < c.answers.size())
+            if (bytes != "-" && asked < c.answers.size())
                 line.arrive(c.answers[asked++], 100);
         };
         line.written.clear();
+        if (c.result == 0)
+            boxes.expect(c.wire[0] == '#' ? "Keine Daten empfangen!" : "Kein Reset möglich!",
+                         "Meldung", Exclamation);
         const double start = clock.elapsed();
-        EXPECT_EQ(fnc_Reset(), c.result) << c.what;
-        EXPECT_EQ(line.written, c.wire) << c.what;
-        EXPECT_EQ(statMessen.last(), c.told) << c.what;
-        EXPECT_NEAR(clock.elapsed() - start, 20'000 * c.told.left(1).toInt(), 500) << c.what;
+        EXPECT_EQ(c.request(), c.result);
+        EXPECT_TRUE(boxes.allCame());
+        EXPECT_EQ(line.written, c.wire);
+        EXPECT_NEAR(clock.elapsed() - start, c.milliseconds, 500);
+        EXPECT_FALSE(Timer1.enabled());
+        if (c.milliseconds == 40'000) {
+            EXPECT_EQ(statMessen.last(), "2 Timeout");
+        }
     }
-    EXPECT_EQ(boxes.count(), 2u);
-}
-
-TEST_F(OnScript, EndingAStream) {
-    datenstromBeenden();
-    EXPECT_EQ(line.written, "") << "the port is closed";
-    MSComm1.setPortOpen(true);
-    datenstromBeenden();
-    EXPECT_EQ(line.written, "-");
 }
 
 } // namespace

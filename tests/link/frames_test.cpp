@@ -14,12 +14,10 @@ namespace {
 
 TEST(Frames, DigitsOfASpeed) {
     const std::pair<const char *, const char *> cases[] = {
-        {"0", "0000"},          {"00", "0000"},    {"", "0000"},
-        {"abc", "0000"},        {"60", "2100"},    {"100", "3500"},
-        {"12,5", "0437"},       {"12.5", "0437"},  {" 60 ", "2100"},
-        {"60 rpm", "2100"},     {"0.02", "0000"},  {"0.03", "0001"},
-        {"59.99", "2099"},      {"130", "4550"},   {"285.7", "9999"},
-        {"285.8", "10003"},     {"1000", "35000"}, {"60.000000000000007", "2100"},
+        {"", "0000"},           {"abc", "0000"},    {"60", "2100"},
+        {"12,5", "0437"},       {"12.5", "0437"},   {" 60 rpm", "2100"},
+        {"0.02", "0000"},       {"0.03", "0001"},   {"59.99", "2099"},
+        {"285.7", "9999"},      {"285.8", "10003"}, {"60.000000000000007", "2100"},
         {"1e9", "35000000000"},
     };
     for (const auto &[speed, digits] : cases) {
@@ -33,19 +31,15 @@ TEST(Frames, SignOfTheDirection) {
     EXPECT_EQ(frameText("E", 1, "60"), "E-2100");
     for (const std::int16_t direction : std::initializer_list<std::int16_t>{0, 2, 3, -1})
         EXPECT_EQ(frameText("A", direction, "00"), "A 0000");
-    EXPECT_EQ(fnc_HexString("E-2100"), "452D32313030");
     EXPECT_EQ(fnc_HexString(QByteArray("\x00\x0A\xFF", 3)), "000AFF");
-    EXPECT_EQ(fnc_HexString({}), "");
 }
 
 TEST(Frames, CodesInBrackets) {
     gSprache = 1;
     support::Boxes boxes;
     const std::pair<const char *, const char *> good[] = {
-        {"", ""},           {"W200[13]", "W200\r"}, {"D[13]", "D\r"},
-        {"plain", "plain"}, {"[65][66]", "AB"},     {"a[", "a"},
-        {"a[12", "a12"},    {"[6[65]", "6A"},       {"[13]x", "\rx"},
-        {"[065]", "A"},     {"[255]", "\u00FF"},
+        {"", ""},        {"W200[13]", "W200\r"}, {"[65][66]", "AB"},  {"a[", "a"},
+        {"a[12", "a12"}, {"[6[65]", "6A"},       {"[255]", "\u00FF"},
     };
     for (const auto &[text, expected] : good)
         EXPECT_EQ(fnc_Transformation(text), QString(expected)) << text;
@@ -69,7 +63,6 @@ TEST(Frames, ParametersOfThePortAndTheirWords) {
     } cases[] = {
         {"19200,N,8,1", {"19200", "Keine", "8", "1"}, "19200,N,8,1"},
         {"4800,E,7,2", {"4800", "Gerade", "7", "2"}, "4800,E,7,2"},
-        {"75,O,5,1.5", {"75", "Ungerade", "5", "1.5"}, "75,O,5,1.5"},
         {"75,O,5,1,5", {"75", "Ungerade", "5", "1,5"}, "75,O,5,1.5"},
         {"9600,M,4,1", {"9600", "Markierung", "4", "1"}, "9600,M,4,1"},
         {"9600,S,8,1", {"9600", "Leerzeichen", "8", "1"}, "9600,S,8,1"},
@@ -106,7 +99,6 @@ TEST(FrequencyStream, EndsBelowHalfAHertz) {
         {"standstill", {0xFF, 0xFB, 0, 0, 0xFF, 0xFB}, 5, 0},
         {"not without the next mark", {0xFF, 0xFB, 0, 0}, -1, 0},
         {"noise in front", {0x55, 0xFF, 0x55, 0xFB, 0xFF, 0xFB, 0, 9, 0xFF, 0xFB}, 9, 9},
-        {"noise behind the value", {0xFF, 0xFB, 0, 9, 1, 2, 0xFB, 0xFF, 0xFB}, 8, 9},
         {"a mark that is none",
          {0xFF, 0xFB, 0, 9, 0xFF, 0x55, 0xFF, 0xFB, 0, 8, 0xFF, 0xFB},
          11,
@@ -137,14 +129,13 @@ TEST(FrequencyStream, EndsBelowHalfAHertz) {
 TEST(FrequencyStream, RandomBytesNeverLockItUp) {
     std::mt19937 random(1);
     FrequenzDecoder decoder;
-    const std::vector<int> record{0xFF, 0xFB, 0, 100};
+    std::vector<int> stream;
+    for (int i = 0; i < 4; ++i)
+        stream.insert(stream.end(), {0xFF, 0xFB, 0, 100});
     for (int round = 0; round < 2000; ++round) {
         for (int i = 0; i < 100; ++i)
             decoder.feed(static_cast<std::uint8_t>(random()));
         // At most one record to get into step, one that is lost behind it, and one that counts.
-        std::vector<int> stream;
-        for (int i = 0; i < 4; ++i)
-            stream.insert(stream.end(), record.begin(), record.end());
         EXPECT_GE(endsAt(decoder, stream), 0) << round;
     }
 }

@@ -14,13 +14,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "boxes.h"
 #include "database.h"
-#include "msgbox.h"
 #include "recordsetmodel.h"
 #include "runtime.h"
 #include "scripts.h"
-#include "session.h"
 #include "sqltext.h"
 
 namespace {
@@ -75,20 +72,16 @@ TEST_F(Store, ValuesComeBackAsTheyWereGiven) {
         QVariant value;
         const char *type;
         QString text;
-        double number;
+        double number = 0;
     } cases[] = {
         {"O'Malley's \"Gym\"; DROP TABLE Schritte; --", "text",
-         "O'Malley's \"Gym\"; DROP TABLE Schritte; --", 0},
-        {"Straße ÄÖÜ äöü €", "text", "Straße ÄÖÜ äöü €", 0},
-        {"מכון שיקום 💪", "text", "מכון שיקום 💪", 0},
-        {" voran und hinten ", "text", " voran und hinten ", 0},
-        {QString::fromUtf16(u"a\0b", 3), "text", QString::fromUtf16(u"a\0b", 3), 0},
-        {"", "text", "", 0},
-        {QString(), "text", "", 0}, // a text that is empty, not a missing one
+         "O'Malley's \"Gym\"; DROP TABLE Schritte; --"},
+        {" מכון שיקום 💪 ÄÖÜ ", "text", " מכון שיקום 💪 ÄÖÜ "},
+        {QString::fromUtf16(u"a\0b", 3), "text", QString::fromUtf16(u"a\0b", 3)},
+        {QString(), "text", ""}, // a text that is empty, not a missing one
         {"60,5", "text", "60,5", 60.5},
         {"60.5 W", "text", "60.5 W", 60.5},
-        {QVariant(), "null", "", 0},
-        {7, "integer", "7", 7},
+        {QVariant(), "null", ""},
         {true, "integer", "1", 1},
         {std::numeric_limits<qlonglong>::max(), "integer", "9223372036854775807",
          9223372036854775807.0},
@@ -129,68 +122,25 @@ TEST_F(Store, RowsStayAsTheyWereWhenAsked) {
 }
 
 TEST_F(Store, CursorStandsOnARowBeforeOrBehind) {
-    using Move = void (*)(Recordset &);
-    const Move none = [](Recordset &) {};
-    const Move past = [](Recordset &r) {
-        for (int i = 0; i < 6; ++i)
-            r.moveNext();
-    };
     const struct {
-        const char *what;
-        const char *where;
-        Move move;
-        const char *at; // null for no row
-        bool start, end;
-    } cases[] = {
-        {"fresh", "1", none, "10", false, false},
-        {"next", "1", [](Recordset &r) { r.moveNext(); }, "9", false, false},
-        {"last", "1", [](Recordset &r) { r.moveLast(); }, "2a", false, false},
-        {"behind", "1", past, nullptr, false, true},
-        {"back from behind", "1",
-         [](Recordset &r) {
-             r.moveLast();
-             r.moveNext();
-             r.moveNext();
-             r.movePrevious();
-         },
-         "2a", false, false},
-        {"before", "1", [](Recordset &r) { r.movePrevious(); }, nullptr, true, false},
-        {"from before", "1",
-         [](Recordset &r) {
-             r.movePrevious();
-             r.movePrevious();
-             r.moveNext();
-         },
-         "10", false, false},
-        {"found first", "1", [](Recordset &r) { EXPECT_TRUE(r.findFirst("NAME", "Zwei")); }, "2",
-         false, false},
-        {"found last", "1", [](Recordset &r) { EXPECT_TRUE(r.findLast("name", "zwei")); }, "2a",
-         false, false},
-        {"found umlaut", "1", [](Recordset &r) { EXPECT_TRUE(r.findFirst("Name", "äHRE")); }, "9",
-         false, false},
-        {"not found", "1",
-         [](Recordset &r) {
-             r.moveNext();
-             EXPECT_FALSE(r.findFirst("Name", "zwe"));
-             EXPECT_FALSE(r.findLast("Nam", "zwei"));
-         },
-         "9", false, false},
-        {"no rows", "0", none, nullptr, true, true},
-        {"no rows, next", "0", past, nullptr, true, true},
-        {"no rows, last", "0",
-         [](Recordset &r) {
-             r.moveLast();
-             r.movePrevious();
-         },
-         nullptr, true, true},
-        {"no rows, find", "0", [](Recordset &r) { EXPECT_FALSE(r.findLast("Name", "")); }, nullptr,
-         true, true},
-    };
+        const char *where, *moves; // next, previous, last
+        const char *at;            // null for no row
+        bool start = false, end = false;
+    } cases[] = {{"1", "", "10"},
+                 {"1", "n", "9"},
+                 {"1", "l", "2a"},
+                 {"1", "nnnnnn", nullptr, false, true},
+                 {"1", "lnnp", "2a"},
+                 {"1", "ppn", "10"},
+                 {"1", "p", nullptr, true},
+                 {"0", "nn", nullptr, true, true},
+                 {"0", "lp", nullptr, true, true}};
     for (const auto &c : cases) {
-        SCOPED_TRACE(c.what);
+        SCOPED_TRACE(std::string(c.where) + c.moves);
         Recordset rows = mStore.open(
             QString("SELECT Nr, Name FROM Schritte WHERE %1 ORDER BY rowid").arg(c.where));
-        c.move(rows);
+        for (const char move : std::string(c.moves))
+            move == 'n' ? rows.moveNext() : move == 'p' ? rows.movePrevious() : rows.moveLast();
         EXPECT_EQ(rows.atStart(), c.start);
         EXPECT_EQ(rows.atEnd(), c.end);
         EXPECT_EQ(rows.empty(), QString(c.where) == "0");
@@ -200,11 +150,20 @@ TEST_F(Store, CursorStandsOnARowBeforeOrBehind) {
         } else {
             EXPECT_EQ(raised([&] { rows[0]; }), fehlernummer::NoCurrentRecord);
             EXPECT_EQ(raised([&] { rows["Nr"]; }), fehlernummer::NoCurrentRecord);
+            EXPECT_FALSE(rows.empty() && rows.findLast("Name", ""));
         }
         for (const int column : {-1, 2})
             EXPECT_EQ(raised([&] { rows[column]; }), fehlernummer::MissingColumn);
         EXPECT_EQ(raised([&] { rows["Wert"]; }), fehlernummer::MissingColumn);
     }
+    Recordset rows = mStore.open("SELECT Nr, Name FROM Schritte ORDER BY rowid");
+    EXPECT_TRUE(rows.findFirst("NAME", "Zwei"));
+    EXPECT_EQ(rows[0].text(), "2");
+    EXPECT_TRUE(rows.findLast("name", "zwei"));
+    EXPECT_EQ(rows[0].text(), "2a");
+    EXPECT_TRUE(rows.findFirst("Name", "äHRE"));
+    EXPECT_FALSE(rows.findFirst("Name", "zwe") || rows.findLast("Nam", "zwei"));
+    EXPECT_EQ(rows[0].text(), "9") << "it stays";
 }
 
 TEST_F(Store, FailuresHaveNumbers) {
@@ -260,24 +219,17 @@ TEST_F(Store, OnlyASoundFileIsOpened) {
     QFile source(whole);
     ASSERT_TRUE(source.open(QIODevice::ReadOnly));
     const QByteArray content = source.readAll();
-    ASSERT_GT(content.size(), 100'000);
-    const QString locked = mDirectory.filePath("locked");
-    ASSERT_TRUE(QFile::copy(whole, locked));
+    const QString locked = file("locked", content);
     Datenbank other;
     other.openFile(locked);
     other.execute("BEGIN EXCLUSIVE");
-
-    const QByteArray text = QByteArray("Kunden, von Hand aufgeschrieben.\n").repeated(400);
     const std::pair<QString, int> cases[] = {
-        {mDirectory.filePath("missing"), 3024},
         {mDirectory.filePath("missing/torvena470.mdb"), 3024},
         {mDirectory.path(), 3024},
-        {file("text", text), 3343},
-        {file("note", text.left(20)), 3343},
+        {file("text", QByteArray("Kunden, von Hand aufgeschrieben.\n").repeated(400)), 3343},
         {file("nothing", {}), 3343},
         {file("head", content.left(50)), 3343},
         {file("page", content.left(4096)), 3343},
-        {file("half", content.left(content.size() / 2)), 3343},
         {file("nearly", content.chopped(4096)), 3343},
         {locked, 3045},
     };
@@ -336,67 +288,25 @@ TEST_F(Store, HeldByAnotherProgram) {
     EXPECT_FALSE(fnc_DateiGeöffnet(mPath)) << "open here, but at rest";
     EXPECT_EQ(raised([&] { fnc_DateiGeöffnet(mPath + "x"); }), fehlernummer::FileNotFound);
     mStore.close();
-    int ready[2], done[2];
-    ASSERT_EQ(pipe(ready) + pipe(done), 0);
+    int ready[2];
+    ASSERT_EQ(pipe(ready), 0);
     const pid_t child = fork();
     if (child == 0) {
-        char byte = 'x';
         Datenbank other;
-        try {
-            other.openFile(mPath);
-            other.execute("BEGIN IMMEDIATE");
-            byte = 'l';
-        } catch (const Fehler &) {
-        }
-        [[maybe_unused]] const auto written = write(ready[1], &byte, 1);
-        close(done[1]);
-        [[maybe_unused]] const auto end = read(done[0], &byte, 1);
+        other.openFile(mPath);
+        other.execute("BEGIN IMMEDIATE");
+        if (write(ready[1], "x", 1) == 1)
+            pause();
         _exit(0);
     }
     close(ready[1]);
-    close(done[0]);
     char byte = 0;
-    ASSERT_EQ(read(ready[0], &byte, 1), 1);
-    EXPECT_EQ(byte, 'l');
+    EXPECT_EQ(read(ready[0], &byte, 1), 1);
     EXPECT_TRUE(fnc_DateiGeöffnet(mPath));
-    close(done[1]);
+    kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
     close(ready[0]);
     EXPECT_FALSE(fnc_DateiGeöffnet(mPath));
-}
-
-TEST_F(Store, OpeningShowsWhatFailsAndAnswersZero) {
-    const QString previous = QDir::currentPath();
-    QDir::setCurrent(mDirectory.path());
-    support::Boxes boxes;
-    gSprache = 1;
-    EXPECT_EQ(fnc_DatenbankÖffnen(), 0);
-    EXPECT_EQ(boxes.count(), 0u);
-    EXPECT_EQ(gDatenbank.open("SELECT * FROM Schritte").count(), 4);
-    file(datenbankName, "no database");
-    for (const bool there : {true, false}) {
-        if (!there)
-            QFile::remove(mPath);
-        const QString german =
-            there ? "Fehler 1002- 3343 Die Datenbank ist beschädigt. Bitte spielen Sie eine "
-                    "Sicherungskopie ein."
-                  : "Fehler 1002- 3024 Die Datei \"torvena470.mdb\" wurde im Arbeitsverzeichnis "
-                    "nicht gefunden.";
-        const QString english =
-            there ? "Error 1002- 3343 The database is damaged. Please restore a safety copy."
-                  : "Error 1002- 3024 The file \"torvena470.mdb\" was not found in the working "
-                    "directory.";
-        boxes.expect(german, "Fehler", Critical);
-        boxes.expect(english, "Error", Critical);
-        for (gSprache = 1; gSprache <= 2; ++gSprache) {
-            gFehlerNr = 0;
-            EXPECT_EQ(fnc_DatenbankÖffnen(), 0);
-            EXPECT_EQ(gFehlerNr, there ? 3343 : 3024);
-            EXPECT_TRUE((gSprache == 1 ? german : english).endsWith(gFehlerText));
-        }
-        EXPECT_FALSE(gDatenbank.isOpen());
-    }
-    QDir::setCurrent(previous);
 }
 
 TEST_F(Store, FunctionsOfStatements) {
@@ -408,18 +318,11 @@ TEST_F(Store, FunctionsOfStatements) {
     const double expected[] = {12, 12.5, 0, -3, 7.25};
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(values[i].number(), expected[i]) << i;
-    for (const auto &[pattern, found] : {std::pair{"zwei", "2 2a"},
-                                         {"Z*", "10 2 2a"},
-                                         {"ä*", "9"},
-                                         {"Z???", "10 2 2a"},
-                                         {"*'*", ""},
-                                         {"", "FR"}}) {
+    for (const auto &[pattern, found] : {std::pair{"Z*", "10 2 2a"}, {"ä*", "9"}, {"", "FR"}})
         EXPECT_EQ(joined(mStore.open("SELECT Nr FROM Schritte WHERE Muster(?, Name) ORDER BY rowid",
                                      {pattern}),
                          "Nr"),
-                  found)
-            << pattern;
-    }
+                  found);
     for (const auto &[a, b, same] : {std::tuple{"Öztürk", "öZTÜRK", true},
                                      {"O'Malley", "o'malley", true},
                                      {"Straße", "Strasse", false},
@@ -447,27 +350,19 @@ TEST(Search, PatternsOfAPerson) {
         {"linik", "Klinik", false},
         {"Klinik*", "Klinik", true},
         {"*am*", "Klinik am See", true},
-        {"*am*", "Klinik", false},
         {"Kl?nik", "Klonik", true},
         {"Kl?nik", "Klnik", false},
-        {"?", "", false},
         {"*", "", true},
-        {"", "", true},
         {"", "x", false},
         {"ÄHRE*ß", "ährenfeld-groß", true},
         {"ahre*", "Ährenfeld", false},
-        {"O'Malley's*", "O'MALLEY'S Gym", true},
         {"a\nb*", "A\nB\nc", true},
-        {"*💪", "Studio 💪", true},
-        {"💪*", "💪 Studio", true},
         {"Studio ?", "Studio 💪", true},
         {"מכון*", "מכון שיקום", true},
         // No other character means anything.
         {"Dr. *", "Drx y", false},
         {"[K]linik", "Klinik", false},
-        {"[K]linik", "[k]linik", true},
         {"(a|b)+^$\\d{1}#%_", "(A|B)+^$\\D{1}#%_", true},
-        {"%", "x", false},
         {"\\Q*\\E", "x", false},
         {longName + "*", longName, true},
         {QString("*").repeated(60) + "b", longName, false},
@@ -496,35 +391,20 @@ TEST(TextsOfTheDatabase, DatesAndDecimalSigns) {
 
 TEST_F(Store, GridShowsChosenColumns) {
     RecordsetModel model;
-    const auto right = Qt::AlignRight | Qt::AlignVCenter;
-    model.setSpalten({{"name", "Bezeichnung"}, {"NR", "Schritt", right}, {"fehlt", "Leer"}});
+    model.setSpalten({{"name", "Bezeichnung"}, {"NR", "Schritt", Qt::AlignRight}, {"fehlt", ""}});
     model.setRecordset(mStore.open("SELECT Nr, Name FROM Schritte ORDER BY rowid"));
     EXPECT_EQ(model.rowCount(), 4);
-    EXPECT_EQ(model.columnCount(), 3);
-    QStringList heads;
-    for (int section = -1; section < 4; ++section)
-        heads += model.headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
-    EXPECT_EQ(heads, (QStringList{"", "Bezeichnung", "Schritt", "Leer", ""}));
-    EXPECT_FALSE(model.headerData(0, Qt::Vertical, Qt::DisplayRole).isValid());
-
-    const QModelIndex last = model.index(3, 1);
+    EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole), "Schritt");
+    EXPECT_FALSE(model.headerData(3, Qt::Horizontal, Qt::DisplayRole).isValid());
+    const QModelIndex last = model.index(3, 1); // a view may keep it
     EXPECT_EQ(model.data(last, Qt::DisplayRole), "2a");
-    EXPECT_EQ(model.data(last, Qt::TextAlignmentRole).toInt(), int(right));
-    EXPECT_EQ(model.data(model.index(1, 0), Qt::DisplayRole), "Ähre");
-    EXPECT_EQ(model.data(model.index(1, 0), Qt::TextAlignmentRole).toInt(),
-              int(Qt::AlignLeft | Qt::AlignVCenter));
+    EXPECT_EQ(model.data(last, Qt::TextAlignmentRole).toInt(), int(Qt::AlignRight));
     EXPECT_FALSE(model.data(model.index(0, 2), Qt::DisplayRole).isValid());
-    EXPECT_FALSE(model.data(last, Qt::ToolTipRole).isValid());
     EXPECT_EQ(model.rowCount(last), 0);
-    EXPECT_FALSE(model.index(4, 0).isValid());
-
-    // An index that a view has kept.
     model.setRecordset({});
-    EXPECT_EQ(model.rowCount(), 0);
     EXPECT_FALSE(model.data(last, Qt::DisplayRole).isValid());
     model.setSpalten({});
     EXPECT_FALSE(model.data(last, Qt::TextAlignmentRole).isValid());
-    EXPECT_FALSE(model.headerData(0, Qt::Horizontal, Qt::DisplayRole).isValid());
 }
 
 } // namespace

@@ -6,12 +6,8 @@
 #include <QFile>
 #include <QHash>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTemporaryDir>
 
-#include <algorithm>
-#include <cmath>
-#include <numbers>
 #include <optional>
 
 #include "database.h"
@@ -44,6 +40,16 @@ QString listOf(const QString &sql) {
     for (Recordset rows = gDatenbank.open(sql); !rows.atEnd(); rows.moveNext())
         result += rows[0].text();
     return result.join(' ');
+}
+
+/// The number of what the statement raises; 0 for nothing.
+int raised(const char *sql) {
+    try {
+        gDatenbank.execute(sql);
+    } catch (const Fehler &fehler) {
+        return fehler.number();
+    }
+    return 0;
 }
 
 class Schema : public testing::Test {
@@ -104,76 +110,39 @@ TEST_F(Schema, WorkingAndArchiveViewsAreTheSameButForTheTables) {
 }
 
 TEST_F(Schema, ColumnsReadByPositionStandWhereTheyAreRead) {
-    const struct {
-        const char *table;
-        QHash<int, QString> at;
-    } cases[] = {
-        {"Kunden", {{0, "KundenID"}, {1, "Name"}, {2, "Straße"}, {3, "PLZ"}, {4, "Ort"}}},
-        {"Normalkalibrierdaten",
-         {{0, "NK_ID"},
-          {1, "SerienNr"},
-          {2, "Normal"},
-          {4, "kalibriertBis"},
-          {6, "Offset"},
-          {7, "Gain_R"},
-          {8, "Gain_L"},
-          {9, "VK1_R"},
-          {10, "VK1_L"},
-          {12, "GrenzwStreubreite"},
-          {13, "AnzahlStreu"}}},
-        {"Hebelarmkalibrierung", {{0, "ID"}, {2, "Prüfdatum"}, {4, "Rechts"}, {5, "Links"}}},
-        {"Historie", {{0, "ID"}}},
-        {"System",
-         {{0, "Firmenname"},
-          {1, "Produktname"},
-          {2, "Einlzeit"},
-          {3, "Einlzeit2"},
-          {6, "Sprache"},
-          {8, "EinlW"}}},
-        {"Interface", {{0, "PortNr"}, {1, "Parameter"}}},
-        {"MU_Leistung", {{1, "bis"}, {2, "MU"}}},
-        {"MU_Drehzahl", {{1, "bis"}, {2, "MU"}}},
+    const std::pair<const char *, const char *> cases[] = {
+        {"Kunden", "KundenID Name Straße PLZ Ort"},
+        {"Normalkalibrierdaten", "NK_ID SerienNr Normal - kalibriertBis - Offset Gain_R Gain_L "
+                                 "VK1_R VK1_L - GrenzwStreubreite AnzahlStreu"},
+        {"Hebelarmkalibrierung", "ID - Prüfdatum - Rechts Links"},
+        {"Historie", "ID"},
+        {"System", "Firmenname Produktname Einlzeit Einlzeit2 - - Sprache - EinlW"},
+        {"Interface", "PortNr Parameter"},
+        {"MU_Leistung", "- bis MU"},
+        {"MU_Drehzahl", "- bis MU"},
     };
-    for (const auto &[table, expected] : cases) {
-        const QStringList columns = columnsOf(table);
-        for (auto it = expected.begin(); it != expected.end(); ++it)
-            EXPECT_EQ(columns.value(it.key()), it.value()) << table << ' ' << it.key();
+    for (const auto &[table, names] : cases) {
+        const QStringList columns = columnsOf(table), expected = QString(names).split(' ');
+        for (int i = 0; i < expected.size(); ++i)
+            EXPECT_TRUE(expected[i] == "-" || columns.value(i) == expected[i]) << table << i;
     }
 }
 
 TEST_F(Schema, DeliveredRowsCarryTheStart) {
-    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM System"), 1);
-    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM Interface"), 1);
-    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM SecondInterface"), 1);
+    for (const QString table : {"System", "Interface", "SecondInterface"})
+        EXPECT_EQ(valueOf("SELECT COUNT(*) FROM " + table), 1) << qPrintable(table);
     EXPECT_EQ(listOf("SELECT Bezeichnung FROM Toleranzen WHERE ID = 1"), "medizinische Geräte");
     EXPECT_EQ(listOf("SELECT Bezeichnung FROM Toleranzen WHERE ID = 2"),
               "stationäre Trainingsgeräte");
 
-    Recordset reference = gDatenbank.open("SELECT * FROM Historie");
-    EXPECT_EQ(reference["ID"].whole(), 1);
-    EXPECT_EQ(reference["Prdatum"].text().left(10), QDate::currentDate().toString(Qt::ISODate));
-    EXPECT_EQ(reference["HebelarmNr"].text(), "HA-1001");
-
-    const QString today = QDate::currentDate().toString(Qt::ISODate);
-    Recordset standard = gDatenbank.open("SELECT * FROM Normalkalibrierdaten");
-    EXPECT_LT(standard["kalibriertVon"].text(), today);
-    EXPECT_GT(standard["kalibriertBis"].text(), today);
+    EXPECT_EQ(listOf("SELECT ID || HebelarmNr FROM Historie"), "1HA-1001");
+    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM Normalkalibrierdaten "
+                      "WHERE date() BETWEEN kalibriertVon AND kalibriertBis"),
+              1);
 
     // An update file is told by this table.
-    try {
-        gDatenbank.open("SELECT ToDo.Funktion FROM ToDo WHERE ja = true");
-        ADD_FAILURE() << "ToDo must not be there";
-    } catch (const Fehler &fehler) {
-        EXPECT_EQ(fehler.number(), platform::fehlernummer::MissingTable);
-    }
-}
-
-TEST_F(Schema, AnExistingDatabaseIsNeverReplaced) {
-    const QString path = mDirectory.filePath("torvena470.mdb");
-    gDatenbank.execute("UPDATE System SET Firmenname = 'ours'");
-    EXPECT_THROW(legeDatenbankAn(path, true), Fehler);
-    gDatenbank.openFile(path);
-    EXPECT_EQ(listOf("SELECT Firmenname FROM System"), "ours");
+    EXPECT_EQ(raised("SELECT ToDo.Funktion FROM ToDo WHERE ja = true"),
+              platform::fehlernummer::MissingTable);
 }
 
 TEST_F(Schema, TheStoreFillsDatesAndRefusesASecondHead) {
@@ -186,13 +155,9 @@ TEST_F(Schema, TheStoreFillsDatesAndRefusesASecondHead) {
     EXPECT_TRUE(
         time.match(gDatenbank.open("SELECT MDat FROM Messwerte_temp")[0].text()).hasMatch());
 
-    gDatenbank.execute("INSERT INTO Protokoll SELECT * FROM Protokoll_temp");
-    try {
-        gDatenbank.execute("INSERT INTO Protokoll SELECT * FROM Protokoll_temp");
-        ADD_FAILURE() << "a second head was taken";
-    } catch (const Fehler &fehler) {
-        EXPECT_EQ(fehler.number(), platform::fehlernummer::DuplicateKey);
-    }
+    const char *const head = "INSERT INTO Protokoll SELECT * FROM Protokoll_temp";
+    EXPECT_EQ(raised(head), 0);
+    EXPECT_EQ(raised(head), platform::fehlernummer::DuplicateKey) << "a second head";
 }
 
 TEST_F(Schema, ADeletedCounterDoesNotComeBack) {
@@ -212,56 +177,31 @@ TEST_F(Schema, ADeletedCounterDoesNotComeBack) {
     }
 }
 
-TEST_F(Schema, AStepIsWrittenAsTextAndFoundAsNumber) {
-    for (const QString step : {"1", "2", "3", "10"})
-        gDatenbank.execute("INSERT INTO Rezepte (RezeptID, Prüfschritt, Leistung) "
-                           "VALUES (4, ?, '100')",
-                           {step});
-    EXPECT_EQ(
-        listOf("SELECT Prüfschritt FROM Rezepte WHERE RezeptID = 4 ORDER BY Val(Prüfschritt)"),
-        "1 2 3 10");
-    EXPECT_EQ(gDatenbank.execute("UPDATE Rezepte SET Prüfschritt = '11' "
-                                 "WHERE Prüfschritt = 10 AND RezeptID = 4"),
-              1);
-    EXPECT_EQ(gDatenbank.execute("DELETE FROM Rezepte WHERE Prüfschritt = ? AND RezeptID = 4", {3}),
-              1);
-    gDatenbank.execute("INSERT INTO ÄndRez_temp SELECT * FROM Rezepte WHERE RezeptID = 4");
-    gDatenbank.execute("INSERT INTO EP_Rezepte SELECT * FROM ÄndRez_temp");
-    EXPECT_EQ(listOf("SELECT Leistung FROM EP_Rezepte"), "100 100 100");
-}
-
 TEST_F(Schema, RowsOfOneKeyAreFoundWithoutReadingTheTable) {
-    const QString statements[] = {
-        "SELECT * FROM Messwerte WHERE ProtokollID = 1",
-        "SELECT * FROM Messwerte_temp WHERE ProtokollID = 1 AND Prüfschritt = '2'",
-        "SELECT * FROM Blutdruck WHERE ProtokollID = 1 AND Normalanzeige = 50",
-        "SELECT * FROM Blutdruck_temp WHERE ProtokollID = 1",
-        "SELECT * FROM SecControl WHERE ProtokollID = 1",
-        "SELECT MAX(ProtokollID) FROM Protokoll",
-        "SELECT * FROM Protokoll WHERE KundenID = 1",
-        "SELECT * FROM Protokoll WHERE GerätID = 1",
-        "SELECT * FROM Protokoll_temp WHERE KundenID = 1 AND GerätID = 1",
-        "SELECT * FROM Kunden WHERE Name = 'a'",
-        "SELECT * FROM Ergometer WHERE KundenID = 1",
-        "SELECT * FROM Ergometer WHERE IdentNr = 'a'",
-        "SELECT * FROM Rezeptnamen WHERE RezName = 'a'",
-        "SELECT * FROM Rezepte WHERE RezeptID = 1 AND Prüfschritt = 2",
-        "SELECT * FROM EP_Rezepte WHERE RezeptID = 1",
-        "SELECT * FROM EP WHERE SerienNr = 'a'",
-        "SELECT * FROM EP_Messwerte WHERE ProtokollID = 1",
-        "SELECT * FROM Bericht1alt WHERE ProtokollID = 1",
-        "SELECT * FROM Bericht2alt WHERE ProtokollID = 1 "
-        "ORDER BY Gruppe, Prüfschritt, ErgometerMW, TorvenaMW",
-        "SELECT * FROM Bericht3alt WHERE ProtokollID = 1",
-        "SELECT * FROM Bericht4alt WHERE ProtokollID = 1",
-        "SELECT * FROM EP_Bericht WHERE ProtokollID = 1",
+    const char *const sources[] = {
+        "Messwerte_temp WHERE ProtokollID = 1 AND Prüfschritt = '2'",
+        "Blutdruck WHERE ProtokollID = 1 AND Normalanzeige = 50",
+        "Blutdruck_temp WHERE ProtokollID = 1",
+        "Protokoll WHERE KundenID = 1",
+        "Protokoll WHERE GerätID = 1",
+        "Protokoll_temp WHERE KundenID = 1 AND GerätID = 1",
+        "Kunden WHERE Name = 'a'",
+        "Ergometer WHERE KundenID = 1",
+        "Ergometer WHERE IdentNr = 'a'",
+        "Rezeptnamen WHERE RezName = 'a'",
+        "Rezepte WHERE RezeptID = 1 AND Prüfschritt = 2",
+        "EP_Rezepte WHERE RezeptID = 1",
+        "EP WHERE SerienNr = 'a'",
+        "Bericht1alt WHERE ProtokollID = 1",
+        "Bericht2alt WHERE ProtokollID = 1 ORDER BY Gruppe, Prüfschritt, ErgometerMW, TorvenaMW",
+        "EP_Bericht WHERE ProtokollID = 1",
     };
-    for (const QString &statement : statements) {
-        Recordset plan = gDatenbank.open("EXPLAIN QUERY PLAN " + statement);
+    for (const char *source : sources) {
+        Recordset plan = gDatenbank.open(QString("EXPLAIN QUERY PLAN SELECT * FROM ") + source);
         for (; !plan.atEnd(); plan.moveNext()) {
             const QString step = plan["detail"].text();
             EXPECT_TRUE(!step.startsWith("SCAN") || step == "SCAN System")
-                << qPrintable(statement + ": " + step);
+                << source << ": " << qPrintable(step);
         }
     }
 }
@@ -299,7 +239,6 @@ TEST_F(Results, AreComputedFromTextsWithCommaOrPoint) {
         {"180.0", "59.98", "180.25", "0", 1, 180, 180.25, 9, -0.14, 2.78, 59.98},
         {"40,0", "60,00", "37,00", "0", 1, 40, 37, 3, 7.5, 100, 60},
         {"40,0", "60,00", "43,00", " 0", 1, 40, 43, 3, -7.5, 100, 60},
-        {"60,0", "60,00", "57,00", "0", 1, 60, 57, 3, 5, 100, 60},
         {"200,0", "60,00", "189,98", "0", 1, 200, 189.98, 10, 5.01, 100.2, 60},
         // setpoint 0 W, and rows without a reading
         {"0", "0,00", "1,20", "0", 1, 0, 1.2, 3, none, 40, 0},
@@ -311,33 +250,29 @@ TEST_F(Results, AreComputedFromTextsWithCommaOrPoint) {
         {"100,0", "1,50", "99,00", "0,0", 2, 0, 1.5, 2, none, 75, 99},
     };
     for (const auto &row : cases) {
-        const std::string what = row.setPower.toString().toStdString() + " W, " +
-                                 row.power.toString().toStdString() + " W, reading " +
-                                 row.reading.toString().toStdString();
+        SCOPED_TRACE(row.setPower.toString().toStdString() + " W, " +
+                     row.power.toString().toStdString() + " W, reading " +
+                     row.reading.toString().toStdString());
         gDatenbank.execute("DELETE FROM Messwerte_temp");
         measured("1", row.setPower, row.speed, row.power, row.reading);
         Recordset result = gDatenbank.open("SELECT * FROM Bericht2neu WHERE ProtokollID = 1");
-        ASSERT_EQ(result.count(), 1) << what;
-        EXPECT_EQ(result["Gruppe"].whole(), row.group) << what;
-        EXPECT_DOUBLE_EQ(result["ErgometerMW"].number(), row.ergometer) << what;
-        EXPECT_DOUBLE_EQ(result["TorvenaMW"].number(), row.standard) << what;
-        EXPECT_DOUBLE_EQ(result["TorvenaMW2"].number(), row.other) << what;
+        ASSERT_EQ(result.count(), 1);
+        EXPECT_EQ(result["Gruppe"].whole(), row.group);
+        EXPECT_DOUBLE_EQ(result["ErgometerMW"].number(), row.ergometer);
+        EXPECT_DOUBLE_EQ(result["TorvenaMW"].number(), row.standard);
+        EXPECT_DOUBLE_EQ(result["TorvenaMW2"].number(), row.other);
         const std::pair<const char *, std::optional<double>> nullable[] = {
             {"ZulAbw", row.permitted}, {"RelAbw", row.relative}, {"TolAusN", row.used}};
         for (const auto &[column, expected] : nullable) {
-            EXPECT_EQ(result[column].isNull(), !expected) << what << ' ' << column;
-            EXPECT_DOUBLE_EQ(result[column].number(), expected.value_or(0))
-                << what << ' ' << column;
+            EXPECT_EQ(result[column].isNull(), !expected) << column;
+            EXPECT_DOUBLE_EQ(result[column].number(), expected.value_or(0)) << column;
         }
     }
 }
 
 TEST_F(Results, RoundTheSpeedLimitToTheEvenNeighbour) {
     measured("1", "100,0", "59,00", "100,00", "60");
-    const std::pair<double, double> limits[] = {{0, 0},   {0.5, 0},    {0.6, 1}, {1, 1},
-                                                {1.5, 2}, {2.4, 2},    {2.5, 2}, {2.6, 3},
-                                                {3.5, 4}, {1000, 1000}};
-    for (const auto &[stored, used] : limits) {
+    for (const auto &[stored, used] : {std::pair{0.5, 0}, {0.6, 1}, {1.5, 2}, {2.5, 2}, {3.5, 4}}) {
         gDatenbank.execute("UPDATE Toleranzen SET GrenzAbw = ?", {stored});
         Recordset result = gDatenbank.open("SELECT ZulAbw, TolAusN FROM Bericht2neu");
         EXPECT_DOUBLE_EQ(result["ZulAbw"].number(), used) << stored;
@@ -356,20 +291,7 @@ TEST_F(Results, AreStagedInTheOrderOfStepsWithFreeStepsLast) {
         "TorvenaMW2, MU_ohne, MU_mit, MU_Proz, 'mit' AS Konform FROM Bericht2neu "
         "WHERE ProtokollID = 1 ORDER BY gruppe, prüfschritt, ergometermw, torvenamw");
     EXPECT_EQ(listOf("SELECT Prüfschritt FROM Bericht2"), "1 2 10 FR FR 3");
-    EXPECT_EQ(listOf("SELECT Prüfschritt FROM Bericht2 ORDER BY Gruppe, Prüfschritt"),
-              "1 2 10 FR FR 3");
     EXPECT_EQ(listOf("SELECT ErgometerMW FROM Bericht2 WHERE Prüfschritt = 'FR'"), "50 100");
-}
-
-TEST_F(Results, FinalTestReportFollowsTheSteps) {
-    gDatenbank.execute("INSERT INTO EP (EP_ID, SerienNr) VALUES (3, 'S'), (4, 'T')");
-    for (const QString step : {"10", "2", "1"}) {
-        gDatenbank.execute("INSERT INTO EP_Messwerte (ProtokollID, Prüfschritt, Toleranz) "
-                           "VALUES (3, ?, 'OK'), (4, ?, 'OK')",
-                           {step, step});
-    }
-    gDatenbank.execute("INSERT INTO EP_Bericht5 SELECT * FROM EP_Bericht WHERE ProtokollID = 3");
-    EXPECT_EQ(listOf("SELECT SerienNr || Prüfschritt FROM EP_Bericht5"), "S1 S2 S10");
 }
 
 TEST_F(Schema, ReportsOutliveWhatTheyReferTo) {
@@ -377,6 +299,8 @@ TEST_F(Schema, ReportsOutliveWhatTheyReferTo) {
                        "PrüfungsArt, NK_ID) VALUES (1, 'P', 99, 99, 99, 99)");
     gDatenbank.execute("INSERT INTO Messwerte (ProtokollID, Prüfschritt, Soll_P, Ist_P_torvena, "
                        "Ist_n_ergom) VALUES (1, '1', '100,0', '95,00', '0')");
+    gDatenbank.execute("UPDATE Protokoll SET ErstellDatum = '2024-02-29'");
+    EXPECT_EQ(listOf("SELECT NächsteKalibrierung FROM Bericht1alt"), "02/2026");
     gDatenbank.execute("INSERT INTO SecControl (ProtokollID) VALUES (1)");
     gDatenbank.execute("INSERT INTO Blutdruck (ProtokollID, Normalanzeige) VALUES (1, 0)");
     for (const QString page : {"1", "2", "3", "4"}) {
@@ -391,119 +315,29 @@ TEST_F(Schema, ReportsOutliveWhatTheyReferTo) {
     EXPECT_DOUBLE_EQ(result["RelAbw"].number(), 5);
 }
 
-TEST_F(Schema, TheNextCalibrationIsDueInTheSameMonthTwoYearsOn) {
-    const std::pair<QString, QString> dates[] = {
-        {"2019-03-15", "03/2021"}, {"2020-12-31", "12/2022"}, {"2024-02-29", "02/2026"}};
-    gDatenbank.execute("INSERT INTO Protokoll (ProtokollID) VALUES (1)");
-    for (const auto &[made, due] : dates) {
-        gDatenbank.execute("UPDATE Protokoll SET ErstellDatum = ?", {made});
-        EXPECT_EQ(listOf("SELECT NächsteKalibrierung FROM Bericht1alt"), due);
-    }
-}
-
 // Demo data --------------------------------------------------------------------------------------
 
 TEST_F(DemoData, HangsTogether) {
-    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM Protokoll JOIN Protokoll_temp USING (ProtokollID)"), 0);
+    QStringList strays{
+        "Protokoll JOIN Protokoll_temp USING (ProtokollID)",
+        "(SELECT IdentNr FROM Ergometer GROUP BY IdentNr HAVING COUNT(*) > 1)",
+        "Rezeptnamen WHERE ToleranzID NOT IN (SELECT ID FROM Toleranzen)",
+        "Rezeptnamen WHERE RezeptID NOT IN (SELECT RezeptID FROM Rezepte)",
+        "Rezepte WHERE Val(Drehzahl) NOT BETWEEN 1 AND 120 OR "
+        "Val(Leistung) / Val(Drehzahl) * 60 / 2 / 3.14 NOT BETWEEN 0 AND 60", // N m
+    };
     for (const QString state : {"", "_temp"}) {
         const QString head = "Protokoll" + state;
-        EXPECT_EQ(valueOf("SELECT COUNT(*) FROM " + head +
-                          " P "
-                          "LEFT JOIN Ergometer E ON E.GerätID = P.GerätID "
-                          "LEFT JOIN Kunden K ON K.KundenID = P.KundenID "
-                          "LEFT JOIN Normalkalibrierdaten N ON N.NK_ID = P.NK_ID "
-                          "WHERE K.KundenID IS NULL OR E.KundenID IS NOT P.KundenID "
-                          "OR P.ErstellDatum NOT BETWEEN N.kalibriertVon AND N.kalibriertBis"),
-                  0)
-            << qPrintable(head);
-        for (const QString detail : {"Messwerte", "Blutdruck", "SecControl"}) {
-            EXPECT_EQ(valueOf("SELECT COUNT(*) FROM " + detail + state +
-                              " WHERE ProtokollID NOT IN (SELECT ProtokollID FROM " + head + ")"),
-                      0)
-                << qPrintable(detail + state);
-        }
-        EXPECT_EQ(
-            listOf("SELECT DISTINCT COUNT(*) FROM Blutdruck" + state + " GROUP BY ProtokollID"),
-            "7");
-        EXPECT_EQ(valueOf("SELECT COUNT(*) FROM Messwerte" + state + " M JOIN " + head +
-                          " P USING (ProtokollID) WHERE date(M.MDat) IS NOT P.ErstellDatum "
-                          "OR P.PrüfungsArt IS NULL"),
-                  0);
+        strays += head + " P LEFT JOIN Ergometer E USING (GerätID) "
+                         "LEFT JOIN Normalkalibrierdaten N USING (NK_ID) "
+                         "WHERE E.KundenID IS NOT P.KundenID "
+                         "OR P.ErstellDatum NOT BETWEEN N.kalibriertVon AND N.kalibriertBis";
+        for (const QString detail : {"Messwerte", "Blutdruck", "SecControl"})
+            strays += detail + state + " LEFT JOIN " + head +
+                      " P USING (ProtokollID) WHERE P.KundenID IS NULL";
     }
-    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM (SELECT IdentNr FROM Ergometer GROUP BY IdentNr "
-                      "HAVING COUNT(*) > 1)"),
-              0);
-    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM Rezeptnamen WHERE ToleranzID NOT IN "
-                      "(SELECT ID FROM Toleranzen)"),
-              0);
-    EXPECT_EQ(valueOf("SELECT COUNT(*) FROM Protokoll_temp WHERE ProtokollID NOT IN "
-                      "(SELECT ProtokollID FROM Messwerte_temp UNION "
-                      "SELECT ProtokollID FROM Blutdruck_temp)"),
-              1)
-        << "one empty protocol";
-}
-
-TEST_F(DemoData, RecipesStayWithinTheStand) {
-    QHash<int, int> steps;
-    Recordset rows = gDatenbank.open("SELECT * FROM Rezepte ORDER BY RezeptID, Val(Prüfschritt)");
-    for (; !rows.atEnd(); rows.moveNext()) {
-        const double speed = rows["Drehzahl"].number();
-        const double power = rows["Leistung"].number();
-        EXPECT_EQ(rows["Prüfschritt"].whole(), ++steps[rows["RezeptID"].whole()]);
-        EXPECT_TRUE(speed > 0 && speed <= 120) << speed;
-        EXPECT_TRUE(power >= 0 && power <= 600) << power;
-        EXPECT_LE(power / speed * 60 / 2 / 3.14, 60) << speed << ' ' << power; // N m
-    }
-    EXPECT_EQ(steps.size(), valueOf("SELECT COUNT(*) FROM Rezeptnamen"));
-}
-
-TEST_F(DemoData, VerdictsAndTorquesAgreeWithTheValues) {
-    const auto number = [](const Feld &field) { return field.text().replace(',', '.').toDouble(); };
-    QSet<QString> seen;
-    for (const QString state : {"", "_temp"}) {
-        Recordset rows =
-            gDatenbank.open("SELECT * FROM Messwerte" + state + " JOIN Protokoll" + state +
-                            " USING (ProtokollID) "
-                            "JOIN Toleranzen ON ID = PrüfungsArt");
-        for (; !rows.atEnd(); rows.moveNext()) {
-            const QString what = rows["ProtokollID"].text() + '/' + rows["Prüfschritt"].text();
-            const double n = number(rows["Ist_n_torvena"]);
-            const double power = number(rows["Ist_P_torvena"]);
-            EXPECT_NEAR(number(rows["Ist_D_torvena"]) * 2 * std::numbers::pi * n / 60, power, 0.08)
-                << qPrintable(what);
-
-            double deviation, uncertainty, percent, limit;
-            if (rows["Ist_n_ergom"].text() == "0") {
-                const double setpoint = number(rows["Soll_P"]);
-                deviation = std::abs(setpoint - power);
-                uncertainty = setpoint <= 100 ? 0.3 : setpoint * 0.003;
-                percent = uncertainty / setpoint * 100;
-                limit = std::max(setpoint * rows["Prozent"].number() / 100, rows["Watt"].number());
-            } else {
-                const double reading = number(rows["Ist_n_ergom"]);
-                deviation = std::abs(n - reading);
-                uncertainty = reading * 0.002;
-                percent = 0.2;
-                limit = rows["GrenzAbw"].number();
-            }
-            constexpr double noise = 1e-9;
-            const bool kept = deviation <= limit + noise;
-            const bool surely = deviation + uncertainty <= limit + noise;
-            const bool surelyNot = deviation - uncertainty > limit + noise;
-
-            const QString with = rows["MU_mit"].text();
-            const QString without = rows["MU_ohne"].text();
-            const bool english = QStringList{"yes", "no"}.contains(without);
-            const QString yes = english ? "yes" : "ja";
-            const QString no = english ? "no" : "nein";
-            EXPECT_EQ(without, kept ? yes : no) << qPrintable(what);
-            EXPECT_EQ(with, surely ? yes : surelyNot ? no : "?") << qPrintable(what);
-            EXPECT_NEAR(rows["MU_Proz"].number(), percent, 1e-6) << qPrintable(what);
-            seen += without + ' ' + with;
-        }
-    }
-    for (const QString verdicts : {"ja ja", "ja ?", "nein ?", "nein nein", "yes yes", "no ?"})
-        EXPECT_TRUE(seen.contains(verdicts)) << qPrintable(verdicts);
+    for (const QString &stray : strays)
+        EXPECT_EQ(valueOf("SELECT COUNT(*) FROM " + stray), 0) << qPrintable(stray);
 }
 
 } // namespace
