@@ -112,7 +112,7 @@ void frmRezeptKopie::cmbRezeptname_Enter() {
 bool frmRezeptKopie::fnc_SchrittAnlegen(const Recordset &schritt) try {
     Schritt copy = schrittAus(schritt);
     copy.prüfart =
-        schritt["Messart"].text().startsWith('L') ? prüfart::Leistung : prüfart::Drehzahl;
+        schritt["Messart"].text().startsWith('L') ? messart::Leistung : messart::Drehzahl;
     Schrittliste("Rezepte").anlegen(gRezeptID, copy);
     return true;
 } catch (const Fehler &fehler) {

@@ -32,7 +32,7 @@ bool drehmomentZulässig(QString drehzahl, QString leistung, const Schrittgrenze
 void drehmomentMelden(const Schrittgrenzen &grenzen);
 
 /// How a step is judged, as its code is stored.
-namespace prüfart {
+namespace messart {
 inline constexpr int Keine = 0; ///< nothing chosen yet; never stored
 inline constexpr int Leistung = 1;
 inline constexpr int Drehzahl = 2;
@@ -46,7 +46,7 @@ int ausAnfang(const QString &text);
 int ausText(const QString &text);
 /// The text that a key stands for in the language of the session: its first letter or its code.
 std::optional<QString> ausTaste(const QString &taste);
-} // namespace prüfart
+} // namespace messart
 
 /// " die Drehzahl, Leistung und Prüfart" and the like: what of a step is missing, for a sentence in
 /// German. Empty when nothing is.
