@@ -109,7 +109,7 @@ void frmÄndRez::beschriften() {
     englischBeschriften(*this, english);
     setCaption(recipe);
     ui.cmbPrArt->clear();
-    ui.cmbPrArt->addItems({inSprache(messart::leistungText), inSprache(messart::drehzahlText)});
+    ui.cmbPrArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
     mGitter.beschriften();
 }
 
@@ -233,7 +233,7 @@ void frmÄndRez::cmbToleranz_LostFocus() {
 
 Schritt frmÄndRez::eingegeben() const {
     return {ui.laPrSchritt->text().toInt(), ui.txtDrehzahl->text(), ui.txtLeistung->text(),
-            messart::ausAnfang(ui.cmbPrArt->currentText())};
+            Prüfart::ausAnfang(ui.cmbPrArt->currentText())};
 }
 
 /// What is loaded into a field is no change by a person, also when the field has the keyboard.
@@ -258,8 +258,8 @@ void frmÄndRez::fnc_SchrittAnzeigen() try {
         ui.txtDrehzahl->setText(step.drehzahl);
         ui.txtLeistung->setText(step.leistung);
         eintragSetzen(ui.cmbPrArt,
-                      inSprache(step.prüfart == messart::Leistung ? messart::leistungText
-                                                                  : messart::drehzahlText));
+                      inSprache(step.prüfart == Prüfart::Leistung ? Prüfart::leistungText
+                                                                  : Prüfart::drehzahlText));
         altWerteMerken();
         mOhneSchritt = mNeuerSchritt = false;
     }
@@ -314,7 +314,7 @@ void frmÄndRez::cmbPrArt_Change() {
     const QString taste = std::exchange(msPrArtTaste, {});
     if (taste.isEmpty())
         return;
-    const std::optional<QString> text = messart::ausTaste(taste);
+    const std::optional<QString> text = Prüfart::ausTaste(taste);
     if (!text)
         beep();
     eintragSetzen(ui.cmbPrArt, text.value_or(QString()));

@@ -13,7 +13,7 @@ bool frmÄndRez::fnc_SchrittPrüfen() try {
     const QString type = ui.cmbPrArt->currentText();
     // Only the German words count, whatever the language of the session.
     const bool typeMissing =
-        type != messart::leistungText.german && type != messart::drehzahlText.german;
+        type != Prüfart::leistungText.german && type != Prüfart::drehzahlText.german;
     const QString missing = fehlendeAngaben(ui.txtDrehzahl->text().isEmpty(),
                                             ui.txtLeistung->text().isEmpty(), typeMissing);
     if (missing.isEmpty())

@@ -60,16 +60,10 @@ void erstGerätWählen() {
 
 frmGerät::frmGerät() {
     ui.setupUi(this);
-    mSuche.verbinden(ui.cmbIdent, ui.lstIdent);
+    sucheVerdrahten(
+        ui.cmbIdent, ui.lstIdent, [this] { cmbIdent_Change(); }, [this] { pbok_Click(); });
     on(ui.cmbTyp, &QComboBox::currentIndexChanged, [this] { cmbTyp_Click(); });
     onEnter(ui.cmbTyp, [this] { ui.cmbIdent->setFocus(); });
-    on(ui.cmbIdent, &QComboBox::editTextChanged, [this] { cmbIdent_Change(); });
-    onKey(ui.cmbIdent, [this](QKeyEvent &key) { return mSuche.taste(key); });
-    onEnter(ui.cmbIdent, [this] { pbok_Click(); });
-    on(ui.lstIdent->selectionModel(), &QItemSelectionModel::selectionChanged,
-       [this] { mSuche.zeileGewählt(); });
-    on(ui.lstIdent, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
-    on(ui.lstIdent, &QListView::doubleClicked, [this] { pbok_Click(); });
     onClick(ui.pbNeu, [this] { pbNeu_Click(); });
     onClick(ui.pbchange, [this] { pbchange_Click(); });
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });

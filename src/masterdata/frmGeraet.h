@@ -2,11 +2,10 @@
 #pragma once
 
 #include "recordset.h"
-#include "screens.h"
-#include "suchliste.h"
+#include "suchmaske.h"
 #include "ui_frmGeraet.h"
 
-class frmGerät : public Screen {
+class frmGerät : public Suchmaske {
   public:
     static constexpr frm id = frm::Gerät;
     frmGerät();
@@ -48,7 +47,6 @@ class frmGerät : public Screen {
     void pbok_Click();
 
     Ui::frmGerät ui;
-    Suchliste mSuche;
     int mGerätID = 0;
     bool mGeladen = false; ///< the first activation follows the loading and reads nothing
 };

@@ -54,14 +54,9 @@ void nichtsGefunden() {
 
 frmKunden::frmKunden() {
     ui.setupUi(this);
-    mSuche.verbinden(ui.cmbKundenname, ui.lstKunden);
-    on(ui.cmbKundenname, &QComboBox::editTextChanged, [this] { cmbKundenname_Change(); });
-    onKey(ui.cmbKundenname, [this](QKeyEvent &key) { return mSuche.taste(key); });
-    onEnter(ui.cmbKundenname, [this] { pbexit_Click(); });
-    on(ui.lstKunden->selectionModel(), &QItemSelectionModel::selectionChanged,
-       [this] { mSuche.zeileGewählt(); });
-    on(ui.lstKunden, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
-    on(ui.lstKunden, &QListView::doubleClicked, [this] { pbexit_Click(); });
+    sucheVerdrahten(
+        ui.cmbKundenname, ui.lstKunden, [this] { cmbKundenname_Change(); },
+        [this] { pbexit_Click(); });
     on(ui.cmbOrt, &QComboBox::currentIndexChanged, [this] { cmbOrt_Click(); });
     onEnter(ui.cmbOrt, [this] { ui.lstKunden->setFocus(); });
     onClick(ui.pbSearch, [this] { pbSearch_Click(); });

@@ -2,11 +2,10 @@
 #pragma once
 
 #include "recordset.h"
-#include "screens.h"
-#include "suchliste.h"
+#include "suchmaske.h"
 #include "ui_frmKunden.h"
 
-class frmKunden : public Screen {
+class frmKunden : public Suchmaske {
   public:
     static constexpr frm id = frm::Kunden;
     frmKunden();
@@ -45,7 +44,6 @@ class frmKunden : public Screen {
     void pbexit_Click();
 
     Ui::frmKunden ui;
-    Suchliste mSuche;
     int mKundenID = 0;
     bool mGeladen = false; ///< the first activation follows the loading and reads nothing
     bool mGewählt = false;

@@ -85,7 +85,7 @@ void frmNeuRezept::beschriften() {
     englischBeschriften(*this, english);
     for (QPushButton *symbol : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
         symbol->setAccessibleName(symbol->toolTip());
-    ui.cmbPrArt->addItems({inSprache(messart::leistungText), inSprache(messart::drehzahlText)});
+    ui.cmbPrArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
     ui.cmbPrArt->setCurrentIndex(-1);
     mGitter.beschriften();
 }

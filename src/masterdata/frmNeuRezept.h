@@ -88,7 +88,7 @@ class frmNeuRezept : public Screen {
     Schrittgitter mGitter;
     Schritt mGezeigt;           ///< as last loaded into the fields
     std::int16_t mnSchritt = 0; ///< number of the step being entered; 0 for none
-    std::int16_t mnPrüfart = messart::Keine;
+    std::int16_t mnPrüfart = Prüfart::Keine;
     QString msPrArtTaste;      ///< last key in cmbPrArt
     bool mbPrArtTaste = false; ///< a key was pressed in cmbPrArt
     bool mbNavigation = false; ///< a stored step is shown: leaving txtDrehzahl is not checked once

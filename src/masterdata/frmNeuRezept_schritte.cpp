@@ -33,7 +33,7 @@ void frmNeuRezept::schritteVerdrahten() {
     });
     on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { cmbPrArt_Change(); });
     on(ui.cmbPrArt, &QComboBox::editTextChanged, [this] {
-        mnPrüfart = static_cast<std::int16_t>(messart::ausText(ui.cmbPrArt->currentText()));
+        mnPrüfart = static_cast<std::int16_t>(Prüfart::ausText(ui.cmbPrArt->currentText()));
     });
     // Arrow keys pick, too, and must not lose the keyboard at the first press.
     on(ui.cmbPrArt, &QComboBox::activated, [this] { speichernMöglich(); });
@@ -154,7 +154,7 @@ bool frmNeuRezept::wertAnnehmen(QLineEdit *feld, Wertprüfung prüfung, const Te
 void frmNeuRezept::cmbPrArt_Change() {
     if (!std::exchange(mbPrArtTaste, false))
         return;
-    if (const std::optional<QString> text = messart::ausTaste(msPrArtTaste)) {
+    if (const std::optional<QString> text = Prüfart::ausTaste(msPrArtTaste)) {
         ui.cmbPrArt->setCurrentIndex(ui.cmbPrArt->findText(*text));
         fnc_SpeichernFreigeben();
     } else {
@@ -166,7 +166,7 @@ void frmNeuRezept::cmbPrArt_Change() {
 /// Once all three fields hold text the step can be stored.
 bool frmNeuRezept::speichernMöglich() try {
     if (ui.txtDrehzahl->text().isEmpty() || ui.txtLeistung->text().isEmpty() ||
-        mnPrüfart == messart::Keine)
+        mnPrüfart == Prüfart::Keine)
         return false;
     if (mnSchritt == 0) // entered after the last step was deleted
         schrittnummerZeigen(rezepte.größteNummer(gRezeptID) + 1);
@@ -187,7 +187,7 @@ void frmNeuRezept::fnc_SpeichernFreigeben() {
 bool frmNeuRezept::fnc_SchrittPrüfen() try {
     const QString missing =
         fehlendeAngaben(ui.txtDrehzahl->text().isEmpty(), ui.txtLeistung->text().isEmpty(),
-                        mnPrüfart == messart::Keine);
+                        mnPrüfart == Prüfart::Keine);
     if (missing.isEmpty())
         return fnc_DrehmomentPrüfen();
     meldung({"Die Angaben zum aktuellen Prüfschritt sind unvollständig!\rBitte ergänzen Sie" +

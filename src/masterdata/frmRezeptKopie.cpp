@@ -29,15 +29,10 @@ constexpr Beschriftung english[] = {
 
 frmRezeptKopie::frmRezeptKopie() {
     ui.setupUi(this);
-    mSuche.verbinden(ui.cmbRezeptname, ui.lstRezepte);
+    sucheVerdrahten(
+        ui.cmbRezeptname, ui.lstRezepte, [this] { cmbRezeptname_Change(); },
+        [this] { cmbRezeptname_Enter(); });
     mGitter.verbinden(ui.DBGridRez);
-    on(ui.cmbRezeptname, &QComboBox::editTextChanged, [this] { cmbRezeptname_Change(); });
-    onKey(ui.cmbRezeptname, [this](QKeyEvent &key) { return mSuche.taste(key); });
-    onEnter(ui.cmbRezeptname, [this] { cmbRezeptname_Enter(); });
-    on(ui.lstRezepte->selectionModel(), &QItemSelectionModel::selectionChanged,
-       [this] { mSuche.zeileGewählt(); });
-    on(ui.lstRezepte, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
-    on(ui.lstRezepte, &QListView::doubleClicked, [this] { pbok_Click(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
     on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
@@ -112,7 +107,7 @@ void frmRezeptKopie::cmbRezeptname_Enter() {
 bool frmRezeptKopie::fnc_SchrittAnlegen(const Recordset &schritt) try {
     Schritt copy = schrittAus(schritt);
     copy.prüfart =
-        schritt["Messart"].text().startsWith('L') ? messart::Leistung : messart::Drehzahl;
+        schritt["Messart"].text().startsWith('L') ? Prüfart::Leistung : Prüfart::Drehzahl;
     Schrittliste("Rezepte").anlegen(gRezeptID, copy);
     return true;
 } catch (const Fehler &fehler) {

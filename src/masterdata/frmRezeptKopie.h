@@ -3,11 +3,10 @@
 #pragma once
 
 #include "schrittgitter.h"
-#include "screens.h"
-#include "suchliste.h"
+#include "suchmaske.h"
 #include "ui_frmRezeptKopie.h"
 
-class frmRezeptKopie : public Screen {
+class frmRezeptKopie : public Suchmaske {
   public:
     static constexpr frm id = frm::RezeptKopie;
     frmRezeptKopie();
@@ -27,5 +26,4 @@ class frmRezeptKopie : public Screen {
 
     Ui::frmRezeptKopie ui;
     Schrittgitter mGitter;
-    Suchliste mSuche;
 };

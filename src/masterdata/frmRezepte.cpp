@@ -34,16 +34,10 @@ constexpr Beschriftung english[] = {
 
 frmRezepte::frmRezepte() {
     ui.setupUi(this);
-    mSuche.verbinden(ui.cmbRezeptname, ui.lstRezepte);
+    sucheVerdrahten(
+        ui.cmbRezeptname, ui.lstRezepte, [this] { cmbRezeptname_Change(); },
+        [this] { bestätigen(); });
     mGitter.verbinden(ui.DBGridRez);
-    on(ui.cmbRezeptname, &QComboBox::editTextChanged, [this] { cmbRezeptname_Change(); });
-    onKey(ui.cmbRezeptname, [this](QKeyEvent &key) { return mSuche.taste(key); });
-    onEnter(ui.cmbRezeptname, [this] { bestätigen(); });
-    on(ui.lstRezepte->selectionModel(), &QItemSelectionModel::selectionChanged,
-       [this] { mSuche.zeileGewählt(); });
-    on(ui.lstRezepte, &QListView::clicked, [this] { mSuche.zeileGewählt(); });
-    on(ui.lstRezepte, &QListView::doubleClicked, [this] { bestätigen(); });
-    onEnter(ui.lstRezepte, [this] { bestätigen(); });
     onClick(ui.pbNeuRezept, [this] { pbNeuRezept_Click(); });
     onClick(ui.pbÄndRez, [this] { pbÄndRez_Click(); });
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });

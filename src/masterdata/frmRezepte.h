@@ -6,11 +6,10 @@
 #pragma once
 
 #include "schrittgitter.h"
-#include "screens.h"
-#include "suchliste.h"
+#include "suchmaske.h"
 #include "ui_frmRezepte.h"
 
-class frmRezepte : public Screen {
+class frmRezepte : public Suchmaske {
   public:
     static constexpr frm id = frm::Rezepte;
     frmRezepte();
@@ -44,7 +43,6 @@ class frmRezepte : public Screen {
 
     Ui::frmRezepte ui;
     Schrittgitter mGitter;
-    Suchliste mSuche;
     QString mGezeigt;
     bool mGewählt = false;
 };

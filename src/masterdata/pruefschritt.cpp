@@ -44,20 +44,20 @@ void drehmomentMelden(const Schrittgrenzen &grenzen) {
             OKOnly, {"Drehmoment<=" + limit + "Nm", "Torque<=" + limit + "Nm"});
 }
 
-int messart::ausAnfang(const QString &text) {
+int Prüfart::ausAnfang(const QString &text) {
     const QChar first = text.isEmpty() ? QChar() : text[0].toUpper();
     if (first == 'L' || first == 'P')
         return Leistung;
     return first == 'D' || first == 'S' ? Drehzahl : Keine;
 }
 
-int messart::ausText(const QString &text) {
+int Prüfart::ausText(const QString &text) {
     if (text == inSprache(leistungText))
         return Leistung;
     return text == inSprache(drehzahlText) ? Drehzahl : Keine;
 }
 
-std::optional<QString> messart::ausTaste(const QString &taste) {
+std::optional<QString> Prüfart::ausTaste(const QString &taste) {
     for (const auto &[code, text] : {std::pair{"1", &leistungText}, {"2", &drehzahlText}}) {
         const QString &shown = inSprache(*text);
         if (taste == code || taste.compare(shown.left(1), Qt::CaseInsensitive) == 0)

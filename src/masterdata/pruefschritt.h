@@ -32,21 +32,21 @@ bool drehmomentZulässig(QString drehzahl, QString leistung, const Schrittgrenze
 void drehmomentMelden(const Schrittgrenzen &grenzen);
 
 /// How a step is judged, as its code is stored.
-namespace messart {
-inline constexpr int Keine = 0; ///< nothing chosen yet; never stored
-inline constexpr int Leistung = 1;
-inline constexpr int Drehzahl = 2;
+struct Prüfart {
+    static constexpr int Keine = 0; ///< nothing chosen yet; never stored
+    static constexpr int Leistung = 1;
+    static constexpr int Drehzahl = 2;
 
-inline const platform::Text leistungText{"Leistungsmessung", "Power Measurement"};
-inline const platform::Text drehzahlText{"Drehzahlmessung", "Speed Measurement"};
+    static inline const platform::Text leistungText{"Leistungsmessung", "Power Measurement"};
+    static inline const platform::Text drehzahlText{"Drehzahlmessung", "Speed Measurement"};
 
-/// By the first letter, in either language: L and P, D and S.
-int ausAnfang(const QString &text);
-/// By the whole text in the language of the session.
-int ausText(const QString &text);
-/// The text that a key stands for in the language of the session: its first letter or its code.
-std::optional<QString> ausTaste(const QString &taste);
-} // namespace messart
+    /// By the first letter, in either language: L and P, D and S.
+    static int ausAnfang(const QString &text);
+    /// By the whole text in the language of the session.
+    static int ausText(const QString &text);
+    /// The text that a key stands for in the language of the session: its first letter or its code.
+    static std::optional<QString> ausTaste(const QString &taste);
+};
 
 /// " die Drehzahl, Leistung und Prüfart" and the like: what of a step is missing, for a sentence in
 /// German. Empty when nothing is.

@@ -56,8 +56,6 @@ void Schrittgitter::gehen(int zeile) {
 
 Recordset Schrittgitter::aktuell() const {
     Recordset rows = schritte();
-    rows.moveFirst();
-    for (int row = 0; row < zeile(); ++row)
-        rows.moveNext();
+    rows.moveTo(zeile());
     return rows;
 }

@@ -18,7 +18,7 @@ void überspringen(Statement statement) try {
 void prüfen(const Schritt &schritt) {
     CDbl(schritt.drehzahl);
     CDbl(schritt.leistung);
-    if (schritt.nummer < 1 || schritt.prüfart == messart::Keine)
+    if (schritt.nummer < 1 || schritt.prüfart == Prüfart::Keine)
         throw Fehler(platform::fehlernummer::TypeMismatch,
                      {"Der Prüfschritt ist unvollständig.", "The test step is incomplete."});
 }
@@ -117,10 +117,10 @@ Recordset gespeicherteSchritte(std::int16_t rezeptID, const Text &leistung, cons
 Recordset kopierteSchritte() {
     return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
                            "IIF(Prüfart='1', ?, ?) AS Messwerte FROM ÄndRez_temp",
-                           {inSprache(messart::leistungText), inSprache(messart::drehzahlText)});
+                           {inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
 }
 
 Schritt schrittAus(const Recordset &rows) {
     return {rows["Prüfschritt"].whole(), angezeigt(rows["Drehzahl"]), angezeigt(rows["Leistung"]),
-            messart::ausAnfang(rows[3].text())};
+            Prüfart::ausAnfang(rows[3].text())};
 }

@@ -56,8 +56,8 @@ class Schrittliste {
 
 /// The steps of a stored recipe in their order; the type stands in Messart, in these words.
 Recordset gespeicherteSchritte(std::int16_t rezeptID,
-                               const platform::Text &leistung = messart::leistungText,
-                               const platform::Text &drehzahl = messart::drehzahlText);
+                               const platform::Text &leistung = Prüfart::leistungText,
+                               const platform::Text &drehzahl = Prüfart::drehzahlText);
 /// All rows of the working copy as the table gives them; the type stands in Messwerte.
 Recordset kopierteSchritte();
 

@@ -41,6 +41,7 @@ class Recordset {
     int position() const { return mCurrent; }
     void moveFirst() { mCurrent = 0; }
     void moveLast() { mCurrent = count() - 1; }
+    void moveTo(int row) { mCurrent = row; } ///< from 0
     void moveNext();
     void movePrevious();
     /// Stops on the first, or last, row whose column equals the text without regard to case. When

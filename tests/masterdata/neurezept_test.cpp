@@ -454,6 +454,13 @@ TEST_P(NewRecipe, FailuresAreToldAndLoseNothing) {
                                                           {"pbAddNew", "1032"}};
     const auto journey = [&, this]() -> Journey {
         co_await begin();
+        // A name whose key the session cannot hold does not stay without steps.
+        change("UPDATE sqlite_sequence SET seq = 40000 WHERE name = 'Rezeptnamen'");
+        boxes.expect(english() ? "ERROR 1030 -  6 …" : "Fehler 1030 -  6 …");
+        saveName();
+        EXPECT_TRUE(boxes.allCame());
+        EXPECT_EQ(column("SELECT count(*) FROM Rezeptnamen WHERE RezeptID > 32767").first(), "0");
+        change("UPDATE sqlite_sequence SET seq = 100 WHERE name = 'Rezeptnamen'");
         saveName();
         act("n=60 p=100 a=L pbSave n=80 p=0 a=D pbSave pbFirst");
         control<QWidget>(neu, "cmbPrArt")->setFocus();

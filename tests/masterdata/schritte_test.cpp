@@ -80,9 +80,9 @@ TEST_F(Steps, TypesAndWhatIsMissing) {
     for (gSprache = 1; gSprache <= 2; ++gSprache) {
         for (const auto &type : types[gSprache - 1]) {
             for (const QString &key : type.keys)
-                EXPECT_EQ(messart::ausTaste(key).value_or(QString()), type.text);
-            EXPECT_EQ(messart::ausText(type.text), type.code);
-            EXPECT_EQ(messart::ausAnfang(type.text), type.code);
+                EXPECT_EQ(Prüfart::ausTaste(key).value_or(QString()), type.text);
+            EXPECT_EQ(Prüfart::ausText(type.text), type.code);
+            EXPECT_EQ(Prüfart::ausAnfang(type.text), type.code);
         }
     }
     const char *missing[] = {"",
