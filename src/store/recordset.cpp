@@ -14,6 +14,15 @@ double Feld::number() const {
     return Val(text);
 }
 
+double Feld::requiredNumber() const {
+    if (isNull()) {
+        throw Fehler(fehlernummer::InvalidUseOfNull,
+                     {"Unzulässige Verwendung von Null: Der Wert fehlt in der Datenbank.",
+                      "Invalid use of Null: the value is missing in the database."});
+    }
+    return number();
+}
+
 Recordset::Recordset(QStringList columns, std::vector<std::vector<QVariant>> rows)
     : mColumns(std::move(columns)),
       mRows(std::make_shared<const std::vector<std::vector<QVariant>>>(std::move(rows))) {}

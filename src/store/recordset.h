@@ -18,6 +18,8 @@ class Feld {
     bool isNull() const { return mValue.isNull(); }
     QString text() const { return mValue.toString(); }
     double number() const;
+    /// As number(), for a value that nothing may be reckoned without: InvalidUseOfNull for Null.
+    double requiredNumber() const;
     int whole() const { return static_cast<int>(number()); }
     const QVariant &value() const { return mValue; }
 

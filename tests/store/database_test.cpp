@@ -97,6 +97,7 @@ TEST_F(Store, ValuesComeBackAsTheyWereGiven) {
         EXPECT_EQ(row[0].text(), c.text) << which;
         EXPECT_EQ(row[0].number(), c.number) << which;
         EXPECT_EQ(row[0].isNull(), !c.value.isValid()) << which;
+        EXPECT_EQ(raised([&] { row[0].requiredNumber(); }), c.value.isValid() ? 0 : 94) << which;
         EXPECT_EQ(row[1].text(), c.type) << which;
         EXPECT_EQ(row[2].whole(), 1) << which;
     }
