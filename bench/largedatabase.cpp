@@ -12,8 +12,8 @@ namespace bench {
 
 namespace {
 
-// Names of customers are made of a kind of house, a place and a number. Protocol numbers are 16
-// bits wide and end at 32 767, so working and archive tables hold 25 000 each with the same ones.
+// Names of customers are made of a kind of house, a place and a number. The
+// archive has the lower half of the protocol numbers, the working tables the upper one.
 constexpr auto fill = R"sql(
 CREATE TEMP TABLE Haus (Nr INTEGER PRIMARY KEY, Wort);
 INSERT INTO Haus VALUES (0, 'Klinikum'), (1, 'Herzzentrum'), (2, 'Reha-Klinik'), (3, 'Praxis'),
@@ -54,6 +54,7 @@ SELECT 1000 + i, 'Wiederholung ' || i, 'M. Prüfer', 1000 + i * 2, 1001 + i * 2 
        'Vergleich', date('now', 'localtime', (-(i % 9000)) || ' days')
 FROM Zahl WHERE i <= 25000;
 INSERT INTO Protokoll SELECT * FROM Protokoll_temp WHERE ProtokollID > 1000;
+UPDATE Protokoll_temp SET ProtokollID = ProtokollID + 25000 WHERE ProtokollID > 1000;
 
 INSERT INTO Messwerte_temp (ProtokollID, Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, Ist_D_torvena,
                             Ist_P_torvena, Ist_n_ergom, MU_ohne, MU_mit, MU_Proz)
@@ -62,6 +63,7 @@ SELECT 1000 + Nr.i, Schritt.i, '60,0', (25 * Schritt.i) || ',0', '60,0' || (Nr.i
 FROM Zahl AS Nr, Zahl AS Schritt WHERE Nr.i <= 25000 AND Schritt.i <= 20
 ORDER BY Nr.i, Schritt.i;
 INSERT INTO Messwerte SELECT * FROM Messwerte_temp WHERE ProtokollID > 1000;
+UPDATE Messwerte_temp SET ProtokollID = ProtokollID + 25000 WHERE ProtokollID > 1000;
 
 DROP TABLE Zahl; DROP TABLE Haus; DROP TABLE Ortsname;
 )sql";

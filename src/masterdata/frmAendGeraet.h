@@ -13,5 +13,5 @@ class frmÄndGerät : public Gerätemaske {
     void pbSave_Click() override;
 
   private:
-    int mGerätID = 0; ///< 0 when nothing was loaded that could be saved
+    Schlüssel mGerätID = 0; ///< 0 when nothing was loaded that could be saved
 };

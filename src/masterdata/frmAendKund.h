@@ -13,5 +13,5 @@ class frmÄndKund : public Kundenmaske {
     void pbSave_Click() override;
 
   private:
-    int mKundenID = 0; ///< 0 when nothing was loaded that could be saved
+    Schlüssel mKundenID = 0; ///< 0 when nothing was loaded that could be saved
 };

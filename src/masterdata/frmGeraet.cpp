@@ -181,7 +181,9 @@ Recordset frmGerät::einzigesGerät() const {
 
 void frmGerät::zeigen(const Recordset &row) {
     const auto text = [&](int column) { return row.empty() ? QString() : row[column].text(); };
-    mGerätID = row.empty() ? 0 : row[GerätID].whole();
+    mGerätID = 0;
+    if (!row.empty())
+        schlüsselNach(mGerätID, row[GerätID]);
     ui.txtTyp->setText(text(Gerätetyp));
     ui.txtHersteller->setText(text(Hersteller));
     ui.txtSerienNr->setText(text(SerienNr));

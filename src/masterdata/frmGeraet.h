@@ -2,6 +2,7 @@
 #pragma once
 
 #include "recordset.h"
+#include "session.h"
 #include "suchmaske.h"
 #include "ui_frmGeraet.h"
 
@@ -11,7 +12,7 @@ class frmGerät : public Suchmaske {
     frmGerät();
 
     /// The unit whose details are shown; 0 and empty for none.
-    int gerätID() const { return mGerätID; }
+    Schlüssel gerätID() const { return mGerätID; }
     QString gerätename() const; ///< its type
     QString identnummer() const;
 
@@ -47,6 +48,6 @@ class frmGerät : public Suchmaske {
     void pbok_Click();
 
     Ui::frmGerät ui;
-    int mGerätID = 0;
+    Schlüssel mGerätID = 0;
     bool mGeladen = false; ///< the first activation follows the loading and reads nothing
 };

@@ -161,7 +161,9 @@ void frmKunden::fnc_KundeZeigen() {
 
 void frmKunden::zeigen(const Recordset &row) {
     const bool found = !row.empty();
-    mKundenID = found ? row[0].whole() : 0;
+    mKundenID = 0;
+    if (found)
+        schlüsselNach(mKundenID, row[0]);
     ui.lbName->setText(found ? umbrechbar(row[1].text()) : QString());
     ui.txtStraße->setText(found ? row[2].text() : QString());
     ui.txtPLZ->setText(found ? row[3].text() : QString());
@@ -236,7 +238,7 @@ void frmKunden::pbexit_Click() try {
         break;
     }
     const QString name = mSuche.name();
-    std::int16_t kundenID = 0;
+    Schlüssel kundenID = 0;
     schlüsselNach(kundenID, kundeSuchen(name, ui.cmbOrt->currentText())["KundenID"]);
     kundeWählen(name, kundenID);
     mGewählt = true;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "recordset.h"
+#include "session.h"
 #include "suchmaske.h"
 #include "ui_frmKunden.h"
 
@@ -11,7 +12,7 @@ class frmKunden : public Suchmaske {
     frmKunden();
 
     /// The customer whose details are shown; 0 and empty for none.
-    int kundenID() const { return mKundenID; }
+    Schlüssel kundenID() const { return mKundenID; }
     QString kundenname() const;
 
     /// Reads the lists anew; what is shown stays if it is still there.
@@ -44,7 +45,7 @@ class frmKunden : public Suchmaske {
     void pbexit_Click();
 
     Ui::frmKunden ui;
-    int mKundenID = 0;
+    Schlüssel mKundenID = 0;
     bool mGeladen = false; ///< the first activation follows the loading and reads nothing
     bool mGewählt = false;
 };

@@ -45,7 +45,7 @@ void frmLöschGerät::Form_Load() try {
 void frmLöschGerät::fnc_FrageZeigen() {
     ui.pbYes->setEnabled(false); // until it is known what Yes would delete
     const auto *geräte = loaded<frmGerät>();
-    const int shown = geräte ? geräte->gerätID() : 0;
+    const Schlüssel shown = geräte ? geräte->gerätID() : 0;
     if (shown == 0)
         return;
     const Text frage = gerätefrage(protokolleZählen(geräteplan, shown), geräte->gerätename());

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "loeschabfrage.h"
+#include "session.h"
 #include "ui_frmLoeschGeraet.h"
 
 class frmLöschGerät : public Löschabfrage {
@@ -20,5 +21,5 @@ class frmLöschGerät : public Löschabfrage {
     void nachFehler();
 
     Ui::frmLöschGerät ui;
-    int mGerätID = 0;
+    Schlüssel mGerätID = 0;
 };

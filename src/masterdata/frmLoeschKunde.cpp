@@ -44,7 +44,7 @@ void frmLöschKunde::fnc_FrageZeigen() {
     beschriften();
     ui.pbok->setEnabled(false); // until it is known what Yes would delete
     const auto *kunden = loaded<frmKunden>();
-    const int shown = kunden ? kunden->kundenID() : 0;
+    const Schlüssel shown = kunden ? kunden->kundenID() : 0;
     if (shown == 0)
         return;
     mGeräte = geräteZählen(shown);

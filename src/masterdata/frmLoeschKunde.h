@@ -3,6 +3,7 @@
 #pragma once
 
 #include "loeschabfrage.h"
+#include "session.h"
 #include "ui_frmLoeschKunde.h"
 
 class frmLöschKunde : public Löschabfrage {
@@ -20,6 +21,6 @@ class frmLöschKunde : public Löschabfrage {
     void nachFehler();
 
     Ui::frmLöschKunde ui;
-    int mKundenID = 0;
+    Schlüssel mKundenID = 0;
     int mGeräte = 0; ///< units of the customer
 };

@@ -40,7 +40,7 @@ constexpr Beschriftung english[] = {
     {"pbexit", "&Cancel"},
 };
 
-std::int16_t toleranzSchlüssel(const QString &name) {
+Schlüssel toleranzSchlüssel(const QString &name) {
     const Recordset rows =
         gDatenbank.open("SELECT ID FROM Toleranzen WHERE Bezeichnung = ?", {name});
     if (rows.count() > 1) {
@@ -48,7 +48,7 @@ std::int16_t toleranzSchlüssel(const QString &name) {
                      {"Diese Spezifikation gibt es mehrmals.",
                       "There are several specifications of this name."});
     }
-    std::int16_t key = 0;
+    Schlüssel key = 0;
     schlüsselNach(key, rows["ID"]);
     return key;
 }

@@ -179,7 +179,7 @@ void frmToleranzen::fnc_Find_ToleranzID() {
 }
 
 void frmToleranzen::cmbBezTol_Click() {
-    const std::int16_t before = mnToleranzID;
+    const Schlüssel before = mnToleranzID;
     const bool changed = mbGeändert;
     try {
         if (mbNeu) {

@@ -66,7 +66,7 @@ class frmToleranzen : public Screen {
     void pbexit_Click();
 
     Ui::frmToleranzen ui;
-    std::int16_t mnToleranzID = 0; ///< of the row picked last
+    Schlüssel mnToleranzID = 0; ///< of the row picked last
     bool mbNeu = false;
     bool mbBearbeiten = false;
     bool mbGeändert = false; ///< in edit mode, a field differs from when it took the keyboard

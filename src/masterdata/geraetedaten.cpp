@@ -24,25 +24,25 @@ Text fehlendeAngaben(const Gerätedaten &gerät) {
     return {"Bitte ergänzen Sie " + liste, "Input is incomplete! Please complete!"};
 }
 
-Gerätedaten gerätLesen(int gerätID) {
+Gerätedaten gerätLesen(Schlüssel gerätID) {
     const Recordset row = gDatenbank.open("select * from Ergometer where GerätID = ?", {gerätID});
     return {row[2].text(), row[3].text(), row[4].text(), row[5].text()};
 }
 
-bool identnummerVergeben(const QString &identNr, int außer) {
+bool identnummerVergeben(const QString &identNr, Schlüssel außer) {
     return !gDatenbank
                 .open("select GerätID from Ergometer where Gleich(IdentNr, ?) and GerätID <> ?",
                       {identNr, außer})
                 .empty();
 }
 
-void gerätEinfügen(int kundenID, const Gerätedaten &gerät) {
+void gerätEinfügen(Schlüssel kundenID, const Gerätedaten &gerät) {
     gDatenbank.execute("Insert into Ergometer (KundenID, Gerätetyp, Hersteller, SerienNr, IdentNr) "
                        "values (?, ?, ?, ?, ?)",
                        {kundenID, gerät.typ, gerät.hersteller, gerät.serienNr, gerät.identNr});
 }
 
-void gerätÄndern(int gerätID, const Gerätedaten &gerät) {
+void gerätÄndern(Schlüssel gerätID, const Gerätedaten &gerät) {
     gDatenbank.execute("update Ergometer set Gerätetyp = ?, Hersteller = ?, SerienNr = ?, "
                        "IdentNr = ? where GerätID = ?",
                        {gerät.typ, gerät.hersteller, gerät.serienNr, gerät.identNr, gerätID});

@@ -1,6 +1,7 @@
 // What is entered about a unit, and its row of the table. No widget.
 #pragma once
 
+#include "session.h"
 #include "text.h"
 
 struct Gerätedaten {
@@ -14,10 +15,10 @@ struct Gerätedaten {
 platform::Text fehlendeAngaben(const Gerätedaten &gerät);
 
 /// Raises NoCurrentRecord when there is no such unit.
-Gerätedaten gerätLesen(int gerätID);
+Gerätedaten gerätLesen(Schlüssel gerätID);
 
 /// True when a unit other than this one, of whichever customer, has the number.
-bool identnummerVergeben(const QString &identNr, int außer);
+bool identnummerVergeben(const QString &identNr, Schlüssel außer);
 
-void gerätEinfügen(int kundenID, const Gerätedaten &gerät);
-void gerätÄndern(int gerätID, const Gerätedaten &gerät);
+void gerätEinfügen(Schlüssel kundenID, const Gerätedaten &gerät);
+void gerätÄndern(Schlüssel gerätID, const Gerätedaten &gerät);

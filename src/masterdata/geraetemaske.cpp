@@ -60,7 +60,7 @@ Gerätedaten Gerätemaske::eingabe() const {
             ui.txtIdentNr->text()};
 }
 
-bool Gerätemaske::prüfen(int gerätID) {
+bool Gerätemaske::prüfen(Schlüssel gerätID) {
     const Gerätedaten gerät = eingabe();
     if (const Text fehlt = fehlendeAngaben(gerät); !fehlt.german.isEmpty()) {
         meldung(fehlt, Exclamation, {"Eingabefehler", "Error"});

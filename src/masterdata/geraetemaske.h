@@ -19,7 +19,7 @@ class Gerätemaske : public Screen {
     Gerätedaten eingabe() const;
     /// False, and told why, when something is missing or another unit has the ident number.
     /// `gerätID` is the unit that is changed, 0 for a new one.
-    bool prüfen(int gerätID);
+    bool prüfen(Schlüssel gerätID);
     /// Closes, and lets the list of units show this one.
     void schließen(const QString &identNr);
     void setSpeichernEnabled(bool enabled) { ui.pbSave->setEnabled(enabled); }

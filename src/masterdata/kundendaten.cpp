@@ -2,12 +2,12 @@
 
 #include "database.h"
 
-Kundendaten kundeLesen(int kundenID) {
+Kundendaten kundeLesen(Schlüssel kundenID) {
     const Recordset row = gDatenbank.open("select * from Kunden where KundenID = ?", {kundenID});
     return {row[1].text(), row[2].text(), row[3].text(), row[4].text()};
 }
 
-bool kundennameVergeben(const QString &name, int außer) {
+bool kundennameVergeben(const QString &name, Schlüssel außer) {
     return !gDatenbank
                 .open("select KundenID from Kunden where Gleich(Name, ?) and KundenID <> ?",
                       {name, außer})
@@ -19,7 +19,7 @@ void kundeEinfügen(const Kundendaten &kunde) {
                        {kunde.name, kunde.straße, kunde.ort, kunde.plz});
 }
 
-void kundeÄndern(int kundenID, const Kundendaten &kunde) {
+void kundeÄndern(Schlüssel kundenID, const Kundendaten &kunde) {
     gDatenbank.execute(
         "update Kunden set Name = ?, Straße = ?, PLZ = ?, Ort = ? where KundenID = ?",
         {kunde.name, kunde.straße, kunde.plz, kunde.ort, kundenID});

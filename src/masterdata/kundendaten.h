@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include "session.h"
+
 struct Kundendaten {
     QString name;
     QString straße;
@@ -11,10 +13,10 @@ struct Kundendaten {
 };
 
 /// Raises NoCurrentRecord when there is no such customer.
-Kundendaten kundeLesen(int kundenID);
+Kundendaten kundeLesen(Schlüssel kundenID);
 
 /// True when a customer other than this one bears the name, without regard to case.
-bool kundennameVergeben(const QString &name, int außer);
+bool kundennameVergeben(const QString &name, Schlüssel außer);
 
 void kundeEinfügen(const Kundendaten &kunde);
-void kundeÄndern(int kundenID, const Kundendaten &kunde);
+void kundeÄndern(Schlüssel kundenID, const Kundendaten &kunde);

@@ -62,7 +62,7 @@ Kundendaten Kundenmaske::eingabe() const {
     return {ui.txtName->text(), ui.txtStraße->text(), ui.txtPLZ->text(), ui.cmbOrt->currentText()};
 }
 
-bool Kundenmaske::prüfen(int kundenID) {
+bool Kundenmaske::prüfen(Schlüssel kundenID) {
     const QString name = ui.txtName->text();
     if (name.trimmed().isEmpty())
         meldung({" Keine Daten zum Speichern vorhanden! ", " No data to be saved! "}, Exclamation,

@@ -19,7 +19,7 @@ class Kundenmaske : public Screen {
     Kundendaten eingabe() const;
     /// False, and told why, when there is no name or another customer bears it. `kundenID` is the
     /// customer that is changed, 0 for a new one.
-    bool prüfen(int kundenID);
+    bool prüfen(Schlüssel kundenID);
     /// Closes, and lets the list of customers show this one.
     void schließen(const QString &name);
     void setSpeichernEnabled(bool enabled) { ui.pbSave->setEnabled(enabled); }

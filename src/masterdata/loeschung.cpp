@@ -33,7 +33,7 @@ const Schritt schritte[] = {
 const QString paar[] = {"_temp", ""}; // in work, archived
 
 void schrittAusführen(const Schritt &schritt, const Löschplan &plan, const QString &endung,
-                      int schlüssel, const std::function<void()> &zwischendurch) {
+                      Schlüssel schlüssel, const std::function<void()> &zwischendurch) {
     QString sql = "SELECT DISTINCT Kopf.ProtokollID FROM Protokoll" + endung + " AS Kopf";
     for (const QString &tabelle : schritt.mitZeilenIn) {
         const QString name = tabelle + endung;
@@ -48,7 +48,7 @@ void schrittAusführen(const Schritt &schritt, const Löschplan &plan, const QSt
     }
 }
 
-void protokolleLöschen(const Löschplan &plan, const QString &endung, int schlüssel,
+void protokolleLöschen(const Löschplan &plan, const QString &endung, Schlüssel schlüssel,
                        const std::function<void()> &zwischendurch) {
     for (const Schritt &schritt : schritte)
         schrittAusführen(schritt, plan, endung, schlüssel, zwischendurch);
@@ -59,7 +59,7 @@ void protokolleLöschen(const Löschplan &plan, const QString &endung, int schl�
 
 } // namespace
 
-int protokolleZählen(const Löschplan &plan, int schlüssel) {
+int protokolleZählen(const Löschplan &plan, Schlüssel schlüssel) {
     int count = 0;
     for (const QString &endung : paar)
         count += gDatenbank
@@ -70,7 +70,7 @@ int protokolleZählen(const Löschplan &plan, int schlüssel) {
     return count;
 }
 
-int geräteZählen(int kundenID) {
+int geräteZählen(Schlüssel kundenID) {
     return gDatenbank
         .open("SELECT Ergometer.* FROM Kunden INNER JOIN Ergometer "
               "ON Kunden.KundenID = Ergometer.KundenID WHERE Kunden.KundenID = ?",
@@ -78,7 +78,7 @@ int geräteZählen(int kundenID) {
         .count();
 }
 
-void datensatzLöschen(const Löschplan &plan, int schlüssel,
+void datensatzLöschen(const Löschplan &plan, Schlüssel schlüssel,
                       const std::function<void()> &zwischendurch) {
     for (const QString &endung : paar)
         protokolleLöschen(plan, endung, schlüssel, zwischendurch);

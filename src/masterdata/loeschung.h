@@ -4,6 +4,7 @@
 
 #include <functional>
 
+#include "session.h"
 #include "text.h"
 
 /// What is deleted together. Both run through the same steps.
@@ -12,9 +13,9 @@ extern const Löschplan kundenplan; ///< protocols, units, the customer
 extern const Löschplan geräteplan; ///< protocols, the unit
 
 /// Protocols in work and archived ones.
-int protokolleZählen(const Löschplan &plan, int schlüssel);
+int protokolleZählen(const Löschplan &plan, Schlüssel schlüssel);
 /// Units of the customer.
-int geräteZählen(int kundenID);
+int geräteZählen(Schlüssel kundenID);
 
 /// Raises the first failure; nothing after it has run then.
 ///
@@ -22,7 +23,7 @@ int geräteZählen(int kundenID);
 /// without any of these stay with a customer and go with a unit. `zwischendurch` is called after
 /// each protocol.
 void datensatzLöschen(
-    const Löschplan &plan, int schlüssel, const std::function<void()> &zwischendurch = [] {});
+    const Löschplan &plan, Schlüssel schlüssel, const std::function<void()> &zwischendurch = [] {});
 
 /// The question before. Two sentences have a carriage return between them.
 platform::Text kundenfrage(int geräte, int protokolle, const QString &name);

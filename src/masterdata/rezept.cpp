@@ -21,20 +21,20 @@ RezeptKopf rezeptKopf(const QString &name) {
     return kopf;
 }
 
-std::int16_t rezeptSchlüssel(const QString &name) {
+Schlüssel rezeptSchlüssel(const QString &name) {
     const Recordset row =
         gDatenbank.open("select rezeptid from rezeptnamen where rezname = ?", {name});
-    std::int16_t key = 0;
+    Schlüssel key = 0;
     schlüsselNach(key, row[0]);
     return key;
 }
 
-Recordset rezeptSchritte(std::int16_t rezeptID) {
+Recordset rezeptSchritte(Schlüssel rezeptID) {
     return gespeicherteSchritte(rezeptID, {"Leistungsmessung  ", "Power Measurement"},
                                 {"Drehzahlmessung  ", "Speed Measurement"});
 }
 
-void rezeptLöschen(std::int16_t rezeptID) {
+void rezeptLöschen(Schlüssel rezeptID) {
     gDatenbank.execute("DELETE FROM Rezepte WHERE Rezeptid = ?", {rezeptID});
     gDatenbank.execute("DELETE FROM Rezeptnamen WHERE Rezeptid = ?", {rezeptID});
 }

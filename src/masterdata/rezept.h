@@ -3,13 +3,12 @@
 
 #include <QString>
 
-#include <cstdint>
-
 #include "recordset.h"
+#include "session.h"
 
 struct RezeptKopf {
-    std::int16_t rezeptID = 0;
-    std::int16_t toleranzID = 0;
+    Schlüssel rezeptID = 0;
+    Schlüssel toleranzID = 0;
     QString toleranz; ///< name of the specification
     QString messverfahren;
 };
@@ -19,14 +18,14 @@ struct RezeptKopf {
 RezeptKopf rezeptKopf(const QString &name);
 
 /// The key alone, also of a recipe without a specification. Raises NoCurrentRecord.
-std::int16_t rezeptSchlüssel(const QString &name);
+Schlüssel rezeptSchlüssel(const QString &name);
 
 /// Prüfschritt, Drehzahl, Leistung, Messart in the order of the steps; Messart in the language of
 /// the session.
-Recordset rezeptSchritte(std::int16_t rezeptID);
+Recordset rezeptSchritte(Schlüssel rezeptID);
 
 /// Steps first, then the name. Protocols that were measured with it are not looked at.
-void rezeptLöschen(std::int16_t rezeptID);
+void rezeptLöschen(Schlüssel rezeptID);
 
 /// Into gRezeptID, gToleranzID, gRezeptName, gMessverfahren.
 void rezeptEinsetzen(const RezeptKopf &kopf);

@@ -1,21 +1,21 @@
 // Keys of records as the session keeps them.
 #pragma once
 
-#include <concepts>
-#include <utility>
+#include <limits>
 
 #include "fehler.h"
 #include "recordset.h"
+#include "session.h"
 
 /// Takes the key of a record into a session variable. Raises Overflow for a key that the variable
 /// cannot hold, rather than choose another record.
-template <std::integral T>
-void schlüsselNach(T &variable, const Feld &feld) {
-    const int key = feld.whole();
-    if (!std::in_range<T>(key)) {
+inline void schlüsselNach(Schlüssel &variable, const Feld &feld) {
+    using Grenzen = std::numeric_limits<Schlüssel>;
+    const double key = feld.number(); // exact far beyond a key
+    if (key < Grenzen::min() || key > Grenzen::max()) {
         throw Fehler(platform::fehlernummer::Overflow,
-                     {QString("Überlauf: der Datensatz %1 kann nicht ausgewählt werden.").arg(key),
-                      QString("Overflow: record %1 cannot be selected.").arg(key)});
+                     {"Überlauf: der Datensatz " + feld.text() + " kann nicht ausgewählt werden.",
+                      "Overflow: record " + feld.text() + " cannot be selected."});
     }
-    variable = static_cast<T>(key);
+    variable = static_cast<Schlüssel>(key);
 }

@@ -53,7 +53,7 @@ int Schrittliste::execute(const char *sql, const std::vector<QVariant> &params) 
     return gDatenbank.execute(QString(sql).arg(mTabelle), params);
 }
 
-int Schrittliste::größteNummer(std::int16_t rezeptID) const {
+int Schrittliste::größteNummer(Schlüssel rezeptID) const {
     return gDatenbank
         .open(QString("SELECT max(Val(Prüfschritt)) AS MaxPr FROM %1 WHERE RezeptID = ?")
                   .arg(mTabelle),
@@ -61,7 +61,7 @@ int Schrittliste::größteNummer(std::int16_t rezeptID) const {
         .whole();
 }
 
-bool Schrittliste::vorhanden(std::int16_t rezeptID, int nummer) const {
+bool Schrittliste::vorhanden(Schlüssel rezeptID, int nummer) const {
     return !gDatenbank
                 .open(QString("SELECT Prüfschritt FROM %1 WHERE RezeptID = ? "
                               "AND Val(Prüfschritt) = ?")
@@ -70,7 +70,7 @@ bool Schrittliste::vorhanden(std::int16_t rezeptID, int nummer) const {
                 .empty();
 }
 
-void Schrittliste::anlegen(std::int16_t rezeptID, const Schritt &schritt) const {
+void Schrittliste::anlegen(Schlüssel rezeptID, const Schritt &schritt) const {
     prüfen(schritt);
     execute("INSERT INTO %1 (RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart) "
             "VALUES (?, ?, ?, ?, ?)",
@@ -78,7 +78,7 @@ void Schrittliste::anlegen(std::int16_t rezeptID, const Schritt &schritt) const 
              QString::number(schritt.prüfart)});
 }
 
-void Schrittliste::ändern(std::int16_t rezeptID, const Schritt &schritt) const {
+void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
     prüfen(schritt);
     execute("UPDATE %1 SET Drehzahl = ?, Leistung = ?, Prüfart = ? "
             "WHERE Val(Prüfschritt) = ? AND RezeptID = ?",
@@ -86,19 +86,19 @@ void Schrittliste::ändern(std::int16_t rezeptID, const Schritt &schritt) const 
              schritt.nummer, rezeptID});
 }
 
-void Schrittliste::umnummerieren(std::int16_t rezeptID, const Umnummerierung &schritt) const {
+void Schrittliste::umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const {
     execute("UPDATE %1 SET Prüfschritt = ? WHERE Val(Prüfschritt) = ? AND RezeptID = ?",
             {QString::number(schritt.nach), schritt.von, rezeptID});
 }
 
-void Schrittliste::einfügen(std::int16_t rezeptID, const Schritt &schritt) const {
+void Schrittliste::einfügen(Schlüssel rezeptID, const Schritt &schritt) const {
     prüfen(schritt); // before anything has moved
     for (const Umnummerierung &step : platzSchaffen(schritt.nummer, größteNummer(rezeptID)))
         umnummerieren(rezeptID, step);
     anlegen(rezeptID, schritt);
 }
 
-void Schrittliste::löschen(std::int16_t rezeptID, int nummer) const {
+void Schrittliste::löschen(Schlüssel rezeptID, int nummer) const {
     const int greatest = größteNummer(rezeptID);
     überspringen([&] {
         execute("DELETE FROM %1 WHERE Val(Prüfschritt) = ? AND RezeptID = ?", {nummer, rezeptID});
@@ -107,7 +107,7 @@ void Schrittliste::löschen(std::int16_t rezeptID, int nummer) const {
         überspringen([&] { umnummerieren(rezeptID, step); });
 }
 
-Recordset gespeicherteSchritte(std::int16_t rezeptID, const Text &leistung, const Text &drehzahl) {
+Recordset gespeicherteSchritte(Schlüssel rezeptID, const Text &leistung, const Text &drehzahl) {
     return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
                            "IIF(Prüfart='1', ?, ?) AS Messart "
                            "FROM Rezepte WHERE RezeptID = ? ORDER BY Val(Prüfschritt)",

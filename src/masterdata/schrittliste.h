@@ -5,11 +5,11 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <vector>
 
 #include "pruefschritt.h"
 #include "recordset.h"
+#include "session.h"
 
 struct Schritt {
     int nummer = 0;
@@ -36,18 +36,18 @@ class Schrittliste {
 
     // What fails is raised; TypeMismatch, before anything is written, for a step that lacks a
     // number or a type.
-    int größteNummer(std::int16_t rezeptID) const; ///< 0 without steps
-    bool vorhanden(std::int16_t rezeptID, int nummer) const;
-    void anlegen(std::int16_t rezeptID, const Schritt &schritt) const;
-    void ändern(std::int16_t rezeptID, const Schritt &schritt) const;
+    int größteNummer(Schlüssel rezeptID) const; ///< 0 without steps
+    bool vorhanden(Schlüssel rezeptID, int nummer) const;
+    void anlegen(Schlüssel rezeptID, const Schritt &schritt) const;
+    void ändern(Schlüssel rezeptID, const Schritt &schritt) const;
     /// The step gets its number; those from there on move up by one.
-    void einfügen(std::int16_t rezeptID, const Schritt &schritt) const;
+    void einfügen(Schlüssel rezeptID, const Schritt &schritt) const;
     /// The steps behind it move down by one. A statement that fails is skipped.
-    void löschen(std::int16_t rezeptID, int nummer) const;
+    void löschen(Schlüssel rezeptID, int nummer) const;
 
   private:
     int execute(const char *sql, const std::vector<QVariant> &params) const;
-    void umnummerieren(std::int16_t rezeptID, const Umnummerierung &schritt) const;
+    void umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const;
 
     const char *mTabelle;
 };
@@ -55,7 +55,7 @@ class Schrittliste {
 // Lists for the grid of an editor: Prüfschritt, Drehzahl, Leistung and the type as it is shown.
 
 /// The steps of a stored recipe in their order; the type stands in Messart, in these words.
-Recordset gespeicherteSchritte(std::int16_t rezeptID,
+Recordset gespeicherteSchritte(Schlüssel rezeptID,
                                const platform::Text &leistung = Prüfart::leistungText,
                                const platform::Text &drehzahl = Prüfart::drehzahlText);
 /// All rows of the working copy as the table gives them; the type stands in Messwerte.

@@ -70,7 +70,7 @@ Recordset toleranzListe() {
                            {inSprache({" 1/min)", " rpm)"})});
 }
 
-std::optional<Toleranz> toleranzMitID(std::int16_t id) {
+std::optional<Toleranz> toleranzMitID(Schlüssel id) {
     const Recordset row =
         gDatenbank.open("SELECT Bezeichnung, Prozent, Watt, GrenzAbw, GKlasse, Messverfahren "
                         "FROM Toleranzen WHERE ID = ?",
@@ -105,13 +105,13 @@ void toleranzEinfügen(const Toleranz &toleranz) {
          toleranz.gKlasse, toleranz.messverfahren});
 }
 
-void toleranzÄndern(std::int16_t id, const Toleranz &toleranz) {
+void toleranzÄndern(Schlüssel id, const Toleranz &toleranz) {
     gDatenbank.execute("UPDATE Toleranzen SET Bezeichnung = ?, Prozent = ?, Watt = ?, "
                        "GrenzAbw = ?, GKlasse = ?, Messverfahren = ? WHERE ID = ?",
                        {toleranz.bezeichnung, CDbl(toleranz.prozent), CDbl(toleranz.watt),
                         CDbl(toleranz.grenzAbw), toleranz.gKlasse, toleranz.messverfahren, id});
 }
 
-void toleranzLöschen(std::int16_t id) {
+void toleranzLöschen(Schlüssel id) {
     gDatenbank.execute("DELETE FROM Toleranzen WHERE ID = ?", {id});
 }

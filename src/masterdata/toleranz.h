@@ -3,11 +3,11 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <optional>
 
 #include "fehler.h"
 #include "recordset.h"
+#include "session.h"
 
 /// The six values as their fields show them: numbers in the number format of the session.
 struct Toleranz {
@@ -50,7 +50,7 @@ QString drehzahlGerundet(const QString &text);
 /// ID and, as Toleranz, what the picker shows, in the order of the names.
 Recordset toleranzListe();
 /// Nothing when there is no such row.
-std::optional<Toleranz> toleranzMitID(std::int16_t id);
+std::optional<Toleranz> toleranzMitID(Schlüssel id);
 /// Letters count without regard to case.
 bool bezeichnungVergeben(const QString &bezeichnung);
 /// Name of the first one with the same percentage and wattage; decimal comma or point.
@@ -58,6 +58,6 @@ std::optional<QString> toleranzMitWerten(const QString &prozent, const QString &
 
 // These raise TypeMismatch for a number that is none, before anything is written.
 void toleranzEinfügen(const Toleranz &toleranz);
-void toleranzÄndern(std::int16_t id, const Toleranz &toleranz);
+void toleranzÄndern(Schlüssel id, const Toleranz &toleranz);
 /// Recipes and protocols that refer to it are not looked at.
-void toleranzLöschen(std::int16_t id);
+void toleranzLöschen(Schlüssel id);

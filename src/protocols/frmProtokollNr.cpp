@@ -74,7 +74,7 @@ bool frmProtokollNr::fnc_LetztesProtokollPrüfen() try {
     mnLetztesProtokoll = letztes.nummer;
     if (!letztes.fortsetzbar)
         return false;
-    mnLetztesProtokollID = static_cast<std::int16_t>(mnLetztesProtokoll);
+    mnLetztesProtokollID = mnLetztesProtokoll;
     msLetzterName = letztes.name;
     return true;
 } catch (const Fehler &fehler) {

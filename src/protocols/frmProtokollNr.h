@@ -3,6 +3,7 @@
 #pragma once
 
 #include "protokolldialog.h"
+#include "session.h"
 #include "ui_frmProtokollNr.h"
 
 class frmProtokollNr : public Protokolldialog {
@@ -31,7 +32,7 @@ class frmProtokollNr : public Protokolldialog {
     void pbexit_Click();
 
     Ui::frmProtokollNr ui;
-    std::int32_t mnLetztesProtokoll = 0;   // highest with measured values
-    std::int16_t mnLetztesProtokollID = 0; // the same once it may be continued
+    Schlüssel mnLetztesProtokoll = 0;   // highest with measured values
+    Schlüssel mnLetztesProtokollID = 0; // the same once it may be continued
     QString msLetzterName;
 };

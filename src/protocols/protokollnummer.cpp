@@ -6,12 +6,11 @@
 #include "auswahl.h"
 #include "database.h"
 #include "runtime.h"
-#include "session.h"
 #include "sqltext.h"
 
 namespace {
 
-constexpr int höchsteNummer = std::numeric_limits<std::int16_t>::max();
+constexpr Schlüssel höchsteNummer = std::numeric_limits<Schlüssel>::max();
 
 /// What a head does not hold agrees with nothing.
 bool gleich(const Feld &feld, int wert) {
@@ -27,16 +26,16 @@ QStringList ersteSpalte(Recordset rows) {
 
 } // namespace
 
-std::int16_t nächsteProtokollNr() {
-    const int offen = gDatenbank.open("SELECT MAX(ProtokollID) FROM Protokoll_temp")[0].whole();
-    const int archiviert = gDatenbank.open("SELECT MAX(ProtokollID) FROM Protokoll")[0].whole();
-    const int höchste = std::max(offen, archiviert);
+Schlüssel nächsteProtokollNr() {
+    const double offen = gDatenbank.open("SELECT MAX(ProtokollID) FROM Protokoll_temp")[0].number();
+    const double archiviert = gDatenbank.open("SELECT MAX(ProtokollID) FROM Protokoll")[0].number();
+    const double höchste = std::max(offen, archiviert);
     if (höchste >= höchsteNummer) {
         throw Fehler(platform::fehlernummer::Overflow,
                      {"Überlauf: Alle Protokollnummern sind vergeben.",
                       "Overflow: All protocol numbers have been used."});
     }
-    return static_cast<std::int16_t>(höchste + 1);
+    return static_cast<Schlüssel>(höchste + 1);
 }
 
 QStringList leereProtokolle() {
@@ -50,16 +49,16 @@ QStringList leereProtokolle() {
         {gKundenID, gGerätID}));
 }
 
-QStringList protokolleMitNummer(std::int16_t nummer) {
+QStringList protokolleMitNummer(Schlüssel nummer) {
     return ersteSpalte(gDatenbank.open("SELECT ProtokollID || ' - ' || COALESCE(Protokollname, '') "
                                        "FROM Protokoll_temp WHERE ProtokollID = ?",
                                        {nummer}));
 }
 
-std::int16_t protokollNrAus(const QString &eintrag) {
+Schlüssel protokollNrAus(const QString &eintrag) {
     const double nummer = Val(eintrag);
     const bool möglich = nummer >= 1 && nummer <= höchsteNummer && nummer == Int(nummer);
-    return möglich ? static_cast<std::int16_t>(nummer) : std::int16_t{0};
+    return möglich ? static_cast<Schlüssel>(nummer) : 0;
 }
 
 LetztesProtokoll letztesProtokollPrüfen() {
@@ -87,7 +86,7 @@ LetztesProtokoll letztesProtokollPrüfen() {
     return letztes;
 }
 
-void kopfAnlegen(std::int16_t nummer, const QString &name) {
+void kopfAnlegen(Schlüssel nummer, const QString &name) {
     const Feld normal = gDatenbank.open("SELECT MAX(NK_ID) FROM Normalkalibrierdaten")[0];
     gDatenbank.execute("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, Prüfername, "
                        "GerätID, KundenID, Drehrichtung, PrüfungsArt, NK_ID, Messverfahren) "
@@ -96,7 +95,7 @@ void kopfAnlegen(std::int16_t nummer, const QString &name) {
                         normal.value(), gMessverfahren});
 }
 
-bool kopfNachführen(std::int16_t nummer) {
+bool kopfNachführen(Schlüssel nummer) {
     return gDatenbank.execute("UPDATE Protokoll_temp SET Drehrichtung = ?, PrüfungsArt = ?, "
                               "Messverfahren = ? WHERE ProtokollID = ?",
                               {gDrehrichtung, gToleranzID, gMessverfahren, nummer}) > 0;

@@ -5,23 +5,23 @@
 #include <QString>
 #include <QStringList>
 
-#include <cstdint>
+#include "session.h"
 
 /// One above the highest number of working tables and archive. Nothing reserves it: it is taken
 /// when its head is written. Raises Overflow when the numbers are used up.
-std::int16_t nächsteProtokollNr();
+Schlüssel nächsteProtokollNr();
 
 /// Heads without measured values of the chosen customer and unit, as "12 - name".
 QStringList leereProtokolle();
 
 /// The working protocol of this number as "12 - name"; no entry when there is none.
-QStringList protokolleMitNummer(std::int16_t nummer);
+QStringList protokolleMitNummer(Schlüssel nummer);
 
 /// The number that leads an entry; 0 when none does that a protocol could have.
-std::int16_t protokollNrAus(const QString &eintrag);
+Schlüssel protokollNrAus(const QString &eintrag);
 
 struct LetztesProtokoll {
-    std::int32_t nummer = 0;  ///< the highest that has measured values; 0 when none has
+    Schlüssel nummer = 0;     ///< the highest that has measured values; 0 when none has
     bool fortsetzbar = false; ///< made today with all the settings of this session
     QString name;
 };
@@ -29,8 +29,8 @@ LetztesProtokoll letztesProtokollPrüfen();
 
 /// Writes the head of a new protocol with the settings of this session. Raises DuplicateKey when
 /// the number has been taken meanwhile.
-void kopfAnlegen(std::int16_t nummer, const QString &name);
+void kopfAnlegen(Schlüssel nummer, const QString &name);
 
 /// Gives an existing head direction, specification and method of this session; customer, unit and
 /// standard stay. False when there is no such head.
-bool kopfNachführen(std::int16_t nummer);
+bool kopfNachführen(Schlüssel nummer);

@@ -1,7 +1,5 @@
 #include "auswahl.h"
 
-#include "session.h"
-
 namespace {
 
 Auswahl gewählt;
@@ -25,7 +23,7 @@ const Auswahl &auswahl() {
     return gewählt;
 }
 
-void kundeWählen(const QString &name, std::int16_t kundenID) {
+void kundeWählen(const QString &name, Schlüssel kundenID) {
     if (gewählt.kunde != name || gKundenID != kundenID) {
         gewählt.gerät.clear();
         gewählt.gerätID.clear();

@@ -4,8 +4,9 @@
 
 #include <QString>
 
-#include <cstdint>
 #include <functional>
+
+#include "session.h"
 
 struct Auswahl {
     QString kunde;
@@ -20,7 +21,7 @@ const Auswahl &auswahl();
 
 /// Another customer than the chosen one takes the chosen unit away. Sets gKundenID, and gGerätID
 /// to 0 then.
-void kundeWählen(const QString &name, std::int16_t kundenID);
+void kundeWählen(const QString &name, Schlüssel kundenID);
 /// The chosen customer is called otherwise now; the unit stays.
 void kundeUmbenennen(const QString &name);
 /// The chosen customer is gone, and the unit with it. Sets gKundenID and gGerätID to 0.

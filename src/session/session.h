@@ -9,24 +9,27 @@
 
 #include "status.h"
 
+/// Key of a record, and number of a protocol.
+using Schlüssel = std::int32_t;
+
 // Language and person
 extern std::int16_t gSprache; ///< 1 German, 2 English; 0 until start-up has read it
 extern QString gPrüfer;
 extern QString gProduktTitel;
 
 // Selection of the session by key; the texts stand in auswahl.h
-extern std::int16_t gKundenID;
-extern std::int16_t gGerätID;
-extern std::int16_t gRezeptID;
-extern std::int16_t gToleranzID;
-extern std::int16_t gProtokollID;
-extern std::int16_t gProtokollWahl; ///< the number picked in a list of protocols
-extern QString gRezeptName;         ///< name of the chosen specification
-extern QString gMessverfahren;      ///< measuring method of the chosen specification
-extern QString gProtokollTitel;     ///< number, " - " and name, for captions
-extern QString gRezeptWahl;         ///< recipe that the recipe list selects when activated next
-extern bool gRezeptAufruf;          ///< the recipe list chooses; otherwise it maintains
-extern bool gNeuModus;              ///< a new-record screen was opened since there is no record
+extern Schlüssel gKundenID;
+extern Schlüssel gGerätID;
+extern Schlüssel gRezeptID;
+extern Schlüssel gToleranzID;
+extern Schlüssel gProtokollID;
+extern Schlüssel gProtokollWahl; ///< the number picked in a list of protocols
+extern QString gRezeptName;      ///< name of the chosen specification
+extern QString gMessverfahren;   ///< measuring method of the chosen specification
+extern QString gProtokollTitel;  ///< number, " - " and name, for captions
+extern QString gRezeptWahl;      ///< recipe that the recipe list selects when activated next
+extern bool gRezeptAufruf;       ///< the recipe list chooses; otherwise it maintains
+extern bool gNeuModus;           ///< a new-record screen was opened since there is no record
 
 // Motor and running-in
 extern std::int16_t gDrehrichtung; ///< 0 none, 1 Rechtslauf, 2 Linkslauf
@@ -52,7 +55,7 @@ extern bool gMessungLäuft;
 extern bool gStopMessung;
 extern bool gMessenAktiv;
 extern std::int16_t gBerichtAntwort;
-extern std::int16_t gBerichtProtokoll;
+extern Schlüssel gBerichtProtokoll;
 
 // The working standard: the last row of its calibration data
 extern QString gSeriennummer;

@@ -187,7 +187,7 @@ TEST_P(Units, AndTheOthersAreLeftWithoutAChoice) {
 
 TEST_P(Units, AreChosenByIdentOrByTheOnlyOneOfAType) {
     change("INSERT INTO Ergometer (GerätID, KundenID, Gerätetyp, IdentNr) "
-           "VALUES (90, 1, 'Ohne Nummer', '')");
+           "VALUES (60090, 1, 'Ohne Nummer', '')");
     const Text noUnit{"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"};
     const Text notHis{"Kunde besitzt kein Gerät mit dieser ID-Nummer!",
                       "The customer does not have a unit with this ID number!"};
@@ -231,7 +231,7 @@ TEST_P(Units, AreChosenByIdentOrByTheOnlyOneOfAType) {
             const char *type, *shown, *typed;
             int key;
         } taken[] = {{"Kardio L4", "AEH-017", "", 4},
-                     {"Ohne Nummer", "", "", 90},
+                     {"Ohne Nummer", "", "", 60090},
                      {"KE 200 med", "", "AEH-017", 4}};
         for (const auto &c : taken) {
             pick(frm::Gerät, "cmbTyp", c.type);
@@ -242,7 +242,7 @@ TEST_P(Units, AreChosenByIdentOrByTheOnlyOneOfAType) {
             enter(frm::Gerät, "cmbIdent");
             co_await arrive(frm::Desktop);
             EXPECT_EQ(gGerätID, c.key);
-            if (c.key == 90) { // there is no measuring with it
+            if (c.key == 60090) { // there is no measuring with it
                 EXPECT_EQ(desktop(), "Klinikum Ährenfeld|Ohne Nummer|||");
                 co_await recipe("Kurzprüfung");
                 EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));

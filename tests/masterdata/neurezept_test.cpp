@@ -407,7 +407,7 @@ TEST_P(NewRecipe, IsFilledFromAnother) {
         co_await recipe("Medizin 25 bis 400 W");
         co_await begin();
         saveName("Kopie's");
-        const std::int16_t key = gRezeptID;
+        const Schlüssel key = gRezeptID;
         for (const auto &c : ways) {
             EXPECT_EQ(stored(), "");
             co_await open("pbKopie", kopie, neu);
@@ -455,11 +455,12 @@ TEST_P(NewRecipe, FailuresAreToldAndLoseNothing) {
     const auto journey = [&, this]() -> Journey {
         co_await begin();
         // A name whose key the session cannot hold does not stay without steps.
-        change("UPDATE sqlite_sequence SET seq = 40000 WHERE name = 'Rezeptnamen'");
+        change("UPDATE sqlite_sequence SET seq = 2147483647 WHERE name = 'Rezeptnamen'");
         boxes.expect(english() ? "ERROR 1030 -  6 …" : "Fehler 1030 -  6 …");
         saveName();
         EXPECT_TRUE(boxes.allCame());
-        EXPECT_EQ(column("SELECT count(*) FROM Rezeptnamen WHERE RezeptID > 32767").first(), "0");
+        EXPECT_EQ(column("SELECT count(*) FROM Rezeptnamen WHERE RezeptID > 2147483647").first(),
+                  "0");
         change("UPDATE sqlite_sequence SET seq = 100 WHERE name = 'Rezeptnamen'");
         saveName();
         act("n=60 p=100 a=L pbSave n=80 p=0 a=D pbSave pbFirst");

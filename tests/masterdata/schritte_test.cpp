@@ -101,14 +101,14 @@ class StepTable : public Steps, public testing::WithParamInterface<const char *>
   protected:
     StepTable() { gDatenbank.openFile(datenbankName); }
 
-    static constexpr std::int16_t own = 700, other = 701;
+    static constexpr Schlüssel own = 700, other = 701;
     const Schrittliste steps{GetParam()};
 
     static Schritt step(int number, int power) {
         return {number, "60", QString::number(power), 1 + power % 2};
     }
     /// Power of each step of the recipe in the order of their numbers, which have to be 1, 2, 3 ...
-    std::vector<int> powers(std::int16_t recipe) {
+    std::vector<int> powers(Schlüssel recipe) {
         std::vector<int> found;
         const Recordset rows =
             gDatenbank.open(QString("SELECT Prüfschritt, Leistung FROM %1 WHERE RezeptID = ? "

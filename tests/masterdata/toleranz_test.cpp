@@ -115,7 +115,7 @@ TEST_F(Specification, IsWrittenWholeOrNotAtAll) {
     EXPECT_TRUE(bezeichnungVergeben(" ÄRZTE'S"));
     EXPECT_FALSE(bezeichnungVergeben("Ärzte"));
 
-    const auto key = static_cast<std::int16_t>(id.toInt());
+    const auto key = static_cast<Schlüssel>(id.toInt());
     for (QString Toleranz::*number : {&Toleranz::prozent, &Toleranz::watt, &Toleranz::grenzAbw}) {
         Toleranz bad = good;
         bad.*number = "";

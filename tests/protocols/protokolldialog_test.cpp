@@ -82,7 +82,7 @@ TEST_F(ProtokollDialog, OffersOnlyWhatIsPossible) {
     EXPECT_FALSE(bereit());
     mDialog->unload();
 
-    kopf(32767);
+    kopf(2147483647);
     öffnen();
     ASSERT_EQ(mBoxes.size(), 1U);
     EXPECT_TRUE(mBoxes[0].text.startsWith("Fehler 9702 -  6 "));

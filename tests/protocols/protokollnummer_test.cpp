@@ -22,6 +22,8 @@ TEST_F(ProtokollNummer, NextIsAboveWorkingTablesAndArchive) {
     gDatenbank.execute("DELETE FROM Protokoll_temp");
     EXPECT_EQ(nächsteProtokollNr(), 10) << "a deleted highest number is free again";
     kopf(32767);
+    EXPECT_EQ(nächsteProtokollNr(), 32768);
+    kopf(2147483647);
     try {
         nächsteProtokollNr();
         ADD_FAILURE();
@@ -32,9 +34,9 @@ TEST_F(ProtokollNummer, NextIsAboveWorkingTablesAndArchive) {
 
 TEST_F(ProtokollNummer, LeadsAnEntry) {
     const std::pair<const char *, int> cases[] = {
-        {"12 - Name", 12}, {"12-Name", 12}, {"7 - 5 W", 7}, {" 3", 3},
-        {"32767", 32767},  {"32768", 0},    {"Name 12", 0}, {"", 0},
-        {"-3", 0},         {"1.5", 0},      {"1e99", 0},
+        {"12 - Name", 12}, {"12-Name", 12}, {"7 - 5 W", 7}, {" 3", 3}, {"2147483647", 2147483647},
+        {"2147483648", 0}, {"Name 12", 0},  {"", 0},        {"-3", 0}, {"1.5", 0},
+        {"1e99", 0},
     };
     for (const auto &[eintrag, nummer] : cases)
         EXPECT_EQ(protokollNrAus(eintrag), nummer) << eintrag;
