@@ -1,4 +1,4 @@
-// torvena-setup: fills a working directory for torvena.
+// torvena-setup: fills a working directory for torvena, or brings one up to date.
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -13,11 +13,11 @@
 
 namespace {
 
-enum ExitCode { Done = 0, Failed = 1, AlreadyThere = 2 };
+enum ExitCode { Done = 0, Failed = 1 };
 
-int complain(const QString &text, ExitCode code) {
+int complain(const QString &text) {
     QTextStream(stderr) << "torvena-setup: " << text << '\n';
-    return code;
+    return Failed;
 }
 
 /// Puts the delivered files into the directory; one that lies there already stays.
@@ -37,16 +37,19 @@ bool deliverFiles(const QString &directory) {
 
 int setUp(const QString &directory, bool demo) {
     const QString path = QDir(directory).filePath(datenbankName);
-    if (QFileInfo::exists(path))
-        return complain(path + " exists already. Nothing has been changed.", AlreadyThere);
     if (!QDir().mkpath(directory))
-        return complain("the directory " + directory + " cannot be created.", Failed);
+        return complain("the directory " + directory + " cannot be created.");
     if (!deliverFiles(directory))
-        return complain("the delivered files cannot be written to " + directory + ".", Failed);
+        return complain("the delivered files cannot be written to " + directory + ".");
+    const bool older = QFileInfo::exists(path);
     try {
-        legeDatenbankAn(path, demo);
+        if (older)
+            bringeDatenbankAufStand(path);
+        else
+            legeDatenbankAn(path, demo);
     } catch (const Fehler &fehler) {
-        return complain(fehler.text().english, Failed);
+        return complain(path + ": " + fehler.text().english +
+                        (older ? " Nothing in it has been changed." : ""));
     }
     QTextStream(stdout) << path << '\n';
     return Done;
@@ -60,16 +63,21 @@ int main(int argc, char **argv) {
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        "Fills a working directory for torvena. An existing database is never touched.\n"
-        "Exit code: 0 done, 1 failed, 2 the directory has a database already.");
+        "Fills a working directory for torvena. A directory with a database is brought up to "
+        "date:\n"
+        "it gets the delivered files, tables and columns that it lacks, and the views and "
+        "triggers\n"
+        "of this build. Its rows stay as they are.\n"
+        "Exit code: 0 done, 1 failed; the database is then as it was.");
     parser.addPositionalArgument("DIR", "The working directory; it is made when it is missing.");
-    const QCommandLineOption demo("demo", "Add sample customers, units, recipes and protocols.");
+    const QCommandLineOption demo(
+        "demo", "Give a new database sample customers, units, recipes and protocols.");
     parser.addOption(demo);
     parser.addHelpOption();
     parser.process(app);
 
     const QStringList directories = parser.positionalArguments();
     if (directories.size() != 1)
-        return complain("name one directory. --help tells more.", Failed);
+        return complain("name one directory. --help tells more.");
     return setUp(directories.first(), parser.isSet(demo));
 }

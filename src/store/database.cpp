@@ -1,6 +1,8 @@
 #include "database.h"
 
+#include <QDateTime>
 #include <QFileInfo>
+#include <QScopeGuard>
 
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
@@ -68,7 +70,26 @@ auto translated(Body body) {
     }
 }
 
-void bind(SQLite::Statement &statement, int index, const QVariant &value) {
+/// As the tables write it: yes is -1, times are text that sorts, in local time.
+QVariant stored(const QVariant &value) {
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return value.toBool() ? -1 : 0;
+    case QMetaType::QDate:
+        return value.toDate().isValid() ? value.toDate().toString(Qt::ISODate) : QVariant();
+    case QMetaType::QTime:
+        return value.toTime().isValid() ? value.toTime().toString("HH:mm:ss.zzz") : QVariant();
+    case QMetaType::QDateTime: {
+        const QDateTime time = value.toDateTime().toLocalTime();
+        return time.isValid() ? time.toString("yyyy-MM-dd HH:mm:ss.zzz") : QVariant();
+    }
+    default:
+        return value;
+    }
+}
+
+void bind(SQLite::Statement &statement, int index, const QVariant &given) {
+    const QVariant value = stored(given);
     if (value.isNull())
         statement.bind(index);
     else if (value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float)
@@ -194,11 +215,29 @@ int Datenbank::execute(const QString &sql, const Params &params) {
     return translated([&] { return prepare(sql, params).exec(); });
 }
 
-std::int16_t fnc_DatenbankÖffnen() {
+void Datenbank::together(const std::function<void()> &statements) {
+    execute("SAVEPOINT Zusammen");
+    auto undo = qScopeGuard([this] {
+        if (!mDatabase)
+            return;
+        mDatabase->tryExec("ROLLBACK TO Zusammen");
+        mDatabase->tryExec("RELEASE Zusammen");
+    });
+    statements();
+    execute("RELEASE Zusammen");
+    undo.dismiss();
+}
+
+std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) {
+    static int gemeldet = 0;
     try {
         gDatenbank.openFile(datenbankName);
     } catch (const Fehler &fehler) {
+        if (gSprache == 0)
+            gSprache = 1; // nobody can be asked for it any more
         fehlerMerken(fehler);
+        if (fehler.number() == std::exchange(gemeldet, fehler.number()) && nochEinmal)
+            return 0;
         meldung({"Fehler 1002-" + Str(fehler.number()) + ' ' + gFehlerText,
                  "Error 1002-" + Str(fehler.number()) + ' ' + gFehlerText},
                 Critical, {"Fehler", "Error"});

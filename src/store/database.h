@@ -9,6 +9,7 @@
 #include <QString>
 #include <QVariant>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -22,7 +23,8 @@ class Statement;
 
 class Datenbank {
   public:
-    using Params = std::vector<QVariant>; ///< texts, whole numbers, doubles, or null
+    /// Texts, whole numbers, doubles, yes/no, dates and times, or null.
+    using Params = std::vector<QVariant>;
 
     Datenbank();
     ~Datenbank();
@@ -42,6 +44,8 @@ class Datenbank {
     Recordset open(const QString &sql, const Params &params = {});
     /// Writes and answers how many rows were touched. Raises DuplicateKey besides those of open().
     int execute(const QString &sql, const Params &params = {});
+    /// Runs statements of which all hold or none. What they raise goes on to the caller.
+    void together(const std::function<void()> &statements);
 
   private:
     SQLite::Database &database();
@@ -57,5 +61,5 @@ extern Datenbank gDatenbank;
 inline constexpr const char *datenbankName = "torvena470.mdb";
 
 /// Opens the database of the current directory into gDatenbank. What fails is shown in a box, not
-/// raised. Answers 0 always.
-std::int16_t fnc_DatenbankÖffnen();
+/// raised; on another try not again, if it fails as before. Answers 0 always.
+std::int16_t fnc_DatenbankÖffnen(bool nochEinmal = false);

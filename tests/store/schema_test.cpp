@@ -206,6 +206,57 @@ TEST_F(Schema, RowsOfOneKeyAreFoundWithoutReadingTheTable) {
     }
 }
 
+// A directory of an older build ------------------------------------------------------------------
+
+TEST_F(DemoData, AnOlderDatabaseGetsWhatIsNewAndKeepsItsRows) {
+    const QString path = mDirectory.filePath("torvena470.mdb");
+    const auto made = [] {
+        return listOf("SELECT type || name || sql FROM sqlite_master "
+                      "WHERE name NOT LIKE 'sqlite%' ORDER BY name");
+    };
+    const char *const tables[] = {"SecControl", "SecControl_temp", "System", "EP", "Bericht4"};
+    const auto shape = [&] {
+        QStringList all{listOf("SELECT name FROM sqlite_master ORDER BY name")};
+        for (const char *table : tables)
+            all += definitionOf(table);
+        return all.join('\n');
+    };
+    const QString fresh = made(), whole = shape();
+    bringeDatenbankAufStand(path);
+    EXPECT_EQ(made(), fresh) << "nothing was missing";
+
+    for (const char *older :
+         {"DROP VIEW Bericht3neu", "DROP VIEW Bericht3alt", "DROP VIEW Historie",
+          "CREATE VIEW Historie AS SELECT 1", "DROP TRIGGER ProtokollGelöscht",
+          "DROP INDEX KundenName", "DROP TABLE SecondInterface", "DROP TABLE Bericht4",
+          "CREATE TABLE Bericht4 (ProtokollID, MU)",
+          "ALTER TABLE SecControl DROP COLUMN GeräteableitI_MU",
+          "ALTER TABLE SecControl_temp DROP COLUMN GeräteableitI_MU",
+          "ALTER TABLE System DROP COLUMN Endprüfung", "UPDATE System SET Firmenname = 'Wir'",
+          "DROP TABLE EP",
+          // Half-way this is in the way of an index: then nothing has happened.
+          "DROP INDEX BlutdruckStufe",
+          "INSERT INTO Blutdruck (ProtokollID, Normalanzeige) VALUES (0, 0), (0, 0)"})
+        ASSERT_EQ(raised(older), 0) << older;
+    const QString before = made();
+    EXPECT_THROW(bringeDatenbankAufStand(path), Fehler);
+    EXPECT_EQ(made(), before);
+    gDatenbank.execute("DELETE FROM Blutdruck WHERE ProtokollID = 0");
+    const QString rows = "SELECT Firmenname || count(*) || group_concat(KennNr_STK) "
+                         "FROM System, SecControl";
+    const QString kept = listOf(rows);
+    bringeDatenbankAufStand(path);
+    EXPECT_EQ(shape(), whole);
+    EXPECT_EQ(listOf("SELECT ID || HebelarmNr FROM Historie"), "1HA-1001");
+    EXPECT_EQ(listOf(rows), kept);
+    EXPECT_EQ(listOf("SELECT PortNr FROM SecondInterface"), "4") << "with its delivered row";
+    EXPECT_EQ(valueOf("SELECT Endprüfung FROM System"), 0);
+
+    // Rows could be moved into wrong columns: refused.
+    gDatenbank.execute("ALTER TABLE SecControl ADD COLUMN Neu");
+    EXPECT_THROW(bringeDatenbankAufStand(path), Fehler);
+}
+
 // Measuring results ------------------------------------------------------------------------------
 
 class Results : public Schema {

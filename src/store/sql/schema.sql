@@ -6,7 +6,10 @@
 -- Text compares without regard to case (A to Z only; Ä and ä differ). Dates are ISO text in local
 -- time. Yes/No is -1/0. Identifiers with umlauts must be written in the case used here.
 --
--- Nothing cascades: the program deletes table by table.
+-- Nothing cascades but what hangs on an archived head: the program deletes table by table.
+--
+-- Each column stands on a line of its own: that is how a database of an older build is given what
+-- it lacks. A new column with a default that is no constant cannot be added to rows.
 --
 -- ToDo and Normalkalibrierdaten_neu are missing on purpose. Only an update file has them, and the
 -- absence of ToDo is how a plain database is told from an update.
@@ -236,6 +239,16 @@ CREATE TABLE SecControl (
     IsolationsR_MU      TEXT COLLATE NOCASE,
     GeräteableitI_MU    TEXT COLLATE NOCASE
 );
+
+-- Archived heads are also deleted alone, and the highest number then comes free: nothing must be
+-- left for the next protocol of that number. Working heads have no such trigger: archiving deletes
+-- them before it has moved their rows.
+CREATE TRIGGER ProtokollGelöscht AFTER DELETE ON Protokoll
+BEGIN
+    DELETE FROM Messwerte WHERE ProtokollID = OLD.ProtokollID;
+    DELETE FROM SecControl WHERE ProtokollID = OLD.ProtokollID;
+    DELETE FROM Blutdruck WHERE ProtokollID = OLD.ProtokollID;
+END;
 
 
 -- The stand ------------------------------------------------------------------------------------

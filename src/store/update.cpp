@@ -1,0 +1,132 @@
+// Brings a database of an older build up to date, by comparison with a new one.
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <algorithm>
+
+#include "database.h"
+#include "scripts.h"
+
+using namespace platform;
+
+namespace {
+
+// Cleared and filled by position from a view before each print.
+const QStringList stagingTables{"Bericht1", "Bericht2", "Bericht3", "Bericht4", "EP_Bericht5"};
+
+// Rows move between them by position.
+const std::pair<const char *, const char *> pairs[] = {
+    {"Protokoll_temp", "Protokoll"}, {"Messwerte_temp", "Messwerte"},
+    {"Blutdruck_temp", "Blutdruck"}, {"SecControl_temp", "SecControl"},
+    {"ÄndRez_temp", "Rezepte"},      {"ÄndRez_temp", "EP_Rezepte"},
+};
+
+/// What the script says of a column behind its name; it gives each column a line of its own.
+QString definitionOf(const QString &column, const QString &createTable) {
+    const QRegularExpression line("^\\s*" + QRegularExpression::escape(column) +
+                                      "\\s+(.*?)\\s*,?\\s*(--.*)?$",
+                                  QRegularExpression::MultilineOption);
+    return line.match(createTable).captured(1);
+}
+
+bool same(const QStringList &some, const QStringList &others) {
+    return some.join('|').compare(others.join('|'), Qt::CaseInsensitive) == 0;
+}
+
+class Update {
+  public:
+    Update(Datenbank &store, const QString &model) : mStore(store) {
+        mStore.execute("ATTACH ? AS Model", {model});
+    }
+
+    void run() {
+        dropAll("view");
+        dropAll("trigger");
+        forEach("table", [this](const QString &name, const QString &sql) { table(name, sql); });
+        for (const auto &[from, to] : pairs) {
+            if (!same(columnsOf("main", from), columnsOf("main", to)))
+                throw outOfOrder(to);
+        }
+        for (const char *type : {"index", "view", "trigger"}) {
+            forEach(type, [&](const QString &name, const QString &sql) {
+                if (!exists(type, name))
+                    mStore.execute(sql);
+            });
+        }
+    }
+
+  private:
+    template <class Action>
+    void forEach(const QString &type, Action action) {
+        Recordset things = mStore.open("SELECT name, sql FROM Model.sqlite_master WHERE type = ? "
+                                       "AND name NOT LIKE 'sqlite%' AND sql IS NOT NULL",
+                                       {type});
+        for (; !things.atEnd(); things.moveNext())
+            action(things[0].text(), things[1].text());
+    }
+    bool exists(const QString &type, const QString &name) {
+        return !mStore
+                    .open("SELECT 1 FROM main.sqlite_master WHERE type = ? AND name = ?",
+                          {type, name})
+                    .empty();
+    }
+    QStringList columnsOf(const QString &schema, const QString &name) {
+        QStringList columns;
+        Recordset rows = mStore.open("SELECT name FROM pragma_table_info(?, ?)", {name, schema});
+        for (; !rows.atEnd(); rows.moveNext())
+            columns += rows[0].text();
+        return columns;
+    }
+    void dropAll(const QString &type) {
+        forEach(type, [&](const QString &name, const QString &) {
+            mStore.execute("DROP " + type + " IF EXISTS main.\"" + name + '"');
+        });
+    }
+
+    void table(const QString &name, const QString &sql) {
+        const QStringList wanted = columnsOf("Model", name);
+        QStringList present = columnsOf("main", name);
+        if (stagingTables.contains(name) && !present.isEmpty() && !same(present, wanted)) {
+            mStore.execute("DROP TABLE main.\"" + name + '"');
+            present.clear();
+        }
+        if (present.isEmpty()) {
+            mStore.execute(sql);
+            mStore.execute("INSERT INTO main.\"" + name + "\" SELECT * FROM Model.\"" + name + '"');
+            return;
+        }
+        for (const QString &column : wanted) {
+            if (present.contains(column, Qt::CaseInsensitive))
+                continue;
+            mStore.execute("ALTER TABLE main.\"" + name + "\" ADD COLUMN \"" + column + "\" " +
+                           definitionOf(column, sql));
+            present += column;
+        }
+        const bool paired = std::any_of(std::begin(pairs), std::end(pairs), [&](const auto &pair) {
+            return name == pair.first || name == pair.second;
+        });
+        if (!paired && !same(present.mid(0, wanted.size()), wanted))
+            throw outOfOrder(name);
+    }
+
+    static Fehler outOfOrder(const QString &name) {
+        return {fehlernummer::StatementFailed,
+                {"Die Spalten der Tabelle " + name + " stehen in einer anderen Reihenfolge.",
+                 "The columns of the table " + name + " stand in another order."}};
+    }
+
+    Datenbank &mStore;
+};
+
+} // namespace
+
+void bringeDatenbankAufStand(const QString &path) {
+    const QTemporaryDir directory;
+    const QString model = directory.filePath("model.mdb");
+    legeDatenbankAn(model, false);
+    Datenbank store;
+    store.openFile(path);
+    store.open("SELECT Version FROM System"); // the mark of a current database
+    Update update(store, model);
+    store.together([&] { update.run(); });
+}
