@@ -145,10 +145,12 @@ void frmProtokollNr::cmbVorhanden_KeyPress() try {
 // good for another try, and leaving after a failure cannot clear away a foreign head.
 void frmProtokollNr::pbok_Click() try {
     if (ui.obVorhanden->isChecked()) {
-        if (!kopfNachführen(gProtokollWahl)) {
+        const QStringList gewählt = protokolleMitNummer(gProtokollWahl); // typed without Enter
+        if (gewählt.isEmpty() || !kopfNachführen(gProtokollWahl)) {
             protokollFehlt(*ui.cmbVorhanden, *ui.pbok);
             return;
         }
+        ui.cmbVorhanden->setEditText(gewählt[0]);
         gProtokollID = gProtokollWahl;
     } else if (ui.obNeu->isChecked()) {
         if (ui.txtNeu->text().isEmpty())

@@ -10,8 +10,8 @@ class QPushButton;
 /// Fills the list anew. The box stays empty unless there is exactly one entry.
 void protokollListeFüllen(QComboBox &liste, const QStringList &einträge);
 
-/// Enter in the list: looks gProtokollWahl up among all working protocols, completes the entry and
-/// goes on to the button, or says that there is none.
+/// Enter in the list: looks gProtokollWahl up among those that are offered, completes the entry
+/// and goes on to the button, or says that there is none.
 void protokollNachschlagen(QComboBox &liste, QPushButton &pbok);
 
 /// Says that the protocol does not exist and goes back to the list.

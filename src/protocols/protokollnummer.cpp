@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "auswahl.h"
+#include "clock.h"
 #include "database.h"
 #include "runtime.h"
 #include "sqltext.h"
@@ -50,9 +50,10 @@ QStringList leereProtokolle() {
 }
 
 QStringList protokolleMitNummer(Schlüssel nummer) {
-    return ersteSpalte(gDatenbank.open("SELECT ProtokollID || ' - ' || COALESCE(Protokollname, '') "
-                                       "FROM Protokoll_temp WHERE ProtokollID = ?",
-                                       {nummer}));
+    QStringList gefunden = leereProtokolle();
+    gefunden.removeIf(
+        [nummer](const QString &eintrag) { return protokollNrAus(eintrag) != nummer; });
+    return gefunden;
 }
 
 Schlüssel protokollNrAus(const QString &eintrag) {
@@ -82,17 +83,22 @@ LetztesProtokoll letztesProtokollPrüfen() {
         gleich(kopf["Drehrichtung"], gDrehrichtung) && gleich(kopf["PrüfungsArt"], gToleranzID) &&
         !kopf["Messverfahren"].isNull() && kopf["Messverfahren"].text() == gMessverfahren &&
         !kalibrierung.isNull() && gleich(kopf["NK_ID"], kalibrierung.whole()) &&
-        erstellt.isValid() && datumText(erstellt) == auswahl().datum;
+        erstellt == platform::now().date();
     return letztes;
 }
 
 void kopfAnlegen(Schlüssel nummer, const QString &name) {
     const Feld normal = gDatenbank.open("SELECT MAX(NK_ID) FROM Normalkalibrierdaten")[0];
-    gDatenbank.execute("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, Prüfername, "
-                       "GerätID, KundenID, Drehrichtung, PrüfungsArt, NK_ID, Messverfahren) "
-                       "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)",
-                       {nummer, name, gPrüfer, gGerätID, gKundenID, gDrehrichtung, gToleranzID,
-                        normal.value(), gMessverfahren});
+    gDatenbank.together([&] {
+        gDatenbank.execute("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, Prüfername, "
+                           "GerätID, KundenID, Drehrichtung, PrüfungsArt, NK_ID, Messverfahren) "
+                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)",
+                           {nummer, name, gPrüfer, gGerätID, gKundenID, gDrehrichtung, gToleranzID,
+                            normal.value(), gMessverfahren});
+        // Left over under this number, by a move that ended half-way for instance.
+        for (const QString inhalt : {"Messwerte_temp", "SecControl_temp", "Blutdruck_temp"})
+            gDatenbank.execute("DELETE FROM " + inhalt + " WHERE ProtokollID = ?", {nummer});
+    });
 }
 
 bool kopfNachführen(Schlüssel nummer) {

@@ -14,7 +14,7 @@ Schlüssel nächsteProtokollNr();
 /// Heads without measured values of the chosen customer and unit, as "12 - name".
 QStringList leereProtokolle();
 
-/// The working protocol of this number as "12 - name"; no entry when there is none.
+/// Those of leereProtokolle() that bear this number.
 QStringList protokolleMitNummer(Schlüssel nummer);
 
 /// The number that leads an entry; 0 when none does that a protocol could have.
@@ -22,13 +22,14 @@ Schlüssel protokollNrAus(const QString &eintrag);
 
 struct LetztesProtokoll {
     Schlüssel nummer = 0;     ///< the highest that has measured values; 0 when none has
-    bool fortsetzbar = false; ///< made today with all the settings of this session
+    bool fortsetzbar = false; ///< made today, by the clock, with all the settings of this session
     QString name;
 };
 LetztesProtokoll letztesProtokollPrüfen();
 
-/// Writes the head of a new protocol with the settings of this session. Raises DuplicateKey when
-/// the number has been taken meanwhile.
+/// Writes the head of a new protocol with the settings of this session; nothing that was left under
+/// its number stays in the working tables. Raises DuplicateKey when the number has been taken
+/// meanwhile.
 void kopfAnlegen(Schlüssel nummer, const QString &name);
 
 /// Gives an existing head direction, specification and method of this session; customer, unit and

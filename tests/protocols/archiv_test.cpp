@@ -1,6 +1,7 @@
 // The move into the archive, and what a failure leaves where.
 
 #include "archiv.h"
+#include "protokollnummer.h"
 
 #include "protokolltest.h"
 
@@ -45,6 +46,25 @@ TEST_F(Archiv, MovesAllOfOneProtocol) {
     EXPECT_EQ(anzahl("Protokoll_temp"), 1);
     EXPECT_EQ(anzahl("Messwerte_temp"), 3) << "the other protocol stays";
     EXPECT_TRUE(mBoxes.empty());
+}
+
+TEST_F(Archiv, AFreedNumberMeetsNoForeignRows) {
+    gBerichtProtokoll = 6;
+    fnc_Archivieren();
+    gDatenbank.execute("DELETE FROM Protokoll"); // the head alone
+    messwert(6);                                 // left over by a move that failed
+    gDatenbank.execute("INSERT INTO SecControl_temp (ProtokollID) VALUES (6)");
+    gDatenbank.execute("INSERT INTO Blutdruck_temp (ProtokollID) VALUES (6)");
+    ASSERT_EQ(nächsteProtokollNr(), 6);
+    kopfAnlegen(6, "ein anderes Gerät");
+    messwert(6, "9");
+    gDatenbank.execute("INSERT INTO SecControl_temp (ProtokollID, KennNr_STK) VALUES (6, 'neu')");
+    EXPECT_THROW(kopfAnlegen(6, "noch einmal"), Fehler);
+    fnc_Archivieren();
+    EXPECT_TRUE(mBoxes.empty());
+    EXPECT_EQ(zeilen("SELECT Prüfschritt, KennNr_STK FROM Messwerte JOIN SecControl"), "9|neu");
+    EXPECT_EQ(anzahl("Blutdruck"), 0);
+    EXPECT_EQ(bestand(), "1/0 3/0 1/0 2/0") << "the other protocol stays";
 }
 
 TEST_F(Archiv, SkipsWhatTheProtocolDoesNotHave) {

@@ -143,7 +143,7 @@ TEST_F(ProtokollDialog, ExistingProtocol) {
     enter("cmbVorhanden");
     EXPECT_TRUE(mBoxes.empty()) << "nothing typed, nothing looked up";
 
-    liste().setEditText("99");
+    liste().setEditText("1"); // another customer's
     enter("cmbVorhanden");
     ASSERT_EQ(mBoxes.size(), 1U);
     EXPECT_EQ(mBoxes[0].text, "Dieses Protokoll gibt es nicht!");
@@ -156,13 +156,18 @@ TEST_F(ProtokollDialog, ExistingProtocol) {
     EXPECT_EQ(liste().currentText(), "3 - B");
     EXPECT_TRUE(bereit());
 
-    // Ready, but then typed over: no head, no measurement.
-    liste().setEditText("77");
-    klick("pbok");
-    EXPECT_EQ(mBoxes.size(), 2U);
-    EXPECT_TRUE(loaded(frm::ProtokollNr));
-    EXPECT_FALSE(bereit());
-    EXPECT_EQ(gProtokollID, 4) << "the new number is still good";
+    // Ready, but then typed over: no head, or one that is not offered, no measurement.
+    for (const char *nummer : {"77", "1"}) {
+        mBoxes.clear();
+        control<QPushButton>("pbok").setEnabled(true);
+        liste().setEditText(nummer);
+        klick("pbok");
+        EXPECT_EQ(mBoxes.size(), 1U) << nummer;
+        EXPECT_TRUE(loaded(frm::ProtokollNr));
+        EXPECT_FALSE(bereit());
+        EXPECT_EQ(gProtokollID, 4) << "the new number is still good";
+    }
+    EXPECT_EQ(zeilen("SELECT Drehrichtung FROM Protokoll_temp WHERE ProtokollID = 1"), "1");
 
     liste().setCurrentIndex(0);
     Q_EMIT liste().activated(0);

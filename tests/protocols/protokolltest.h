@@ -6,12 +6,10 @@
 #include <QDate>
 #include <QTemporaryDir>
 
-#include "auswahl.h"
 #include "database.h"
 #include "msgbox.h"
 #include "scripts.h"
 #include "session.h"
-#include "sqltext.h"
 
 class ProtokollTest : public testing::Test {
   protected:
@@ -34,7 +32,6 @@ class ProtokollTest : public testing::Test {
         gToleranzID = 2;
         gMessverfahren = "Verfahren";
         gSeriennummer = "N1";
-        datumZeigen(datumText(QDate::currentDate()));
     }
     ~ProtokollTest() override {
         platform::setBoxAnswerer({});
