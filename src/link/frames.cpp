@@ -29,14 +29,14 @@ QString fnc_Transformation(const QString &text) {
     try {
         QString output;
         QString before;
-        qsizetype start = 0;
+        qsizetype start = -1; // of the digits; no bracket has opened yet
         for (qsizetype i = 0; i < text.size(); ++i) {
             if (text[i] == '[') {
                 start = i + 1;
                 before = output;
             } else if (text[i] == ']') {
                 bool ok = false;
-                const int code = text.mid(start, i - start).toInt(&ok);
+                const int code = start < 0 ? -1 : text.mid(start, i - start).toInt(&ok);
                 if (!ok || code < 0 || code > 255) {
                     throw Fehler(fehlernummer::TypeMismatch,
                                  {"Zwischen den Klammern steht kein Zeichencode: " + text,

@@ -71,8 +71,8 @@ void frmInterface::Form_Unload() {
 
 void frmInterface::fnc_InterfaceAnzeigen() {
     const InterfaceZeile row = interfaceLesen();
-    ui.SbCOM->setValue(row.port); // txtCOM is empty, so nothing is tried
-    ui.txtCOM->setText(QString::number(ui.SbCOM->value()));
+    ui.SbCOM->setValue(row.port);                  // txtCOM is empty, so nothing is tried
+    ui.txtCOM->setText(QString::number(row.port)); // also one above those of the bar
     const Schnittstelle fields = Schnittstelle::ausParameter(row.parameter);
     ui.cmbBaud->setCurrentIndex(ui.cmbBaud->findText(fields.baud));
     ui.cmbParitaet->setCurrentIndex(ui.cmbParitaet->findText(fields.parität));
@@ -111,7 +111,8 @@ void frmInterface::SbCOM_Change() {
         if (MSComm1.PortOpen())
             MSComm1.setPortOpen(false);
         MSComm1.setCommPort(value);
-        fnc_PortPrüfen();
+        if (fnc_PortPrüfen() == fehlernummer::PortSettings)
+            gSS1Vorhanden = true; // there, and its settings are mended here
     }
     ui.txtCOM->setText(QString::number(value));
     if (tryIt)
@@ -129,19 +130,27 @@ void frmInterface::zustandZeigen() {
 }
 
 void frmInterface::pbok_Click() try {
-    fnc_PortPrüfen();
+    const Schnittstelle fields{ui.cmbBaud->currentText(), ui.cmbParitaet->currentText(),
+                               ui.cmbDatenbits->currentText(), ui.cmbStoppbits->currentText()};
+    leitungFreiPrüfen(); // the line is changed under whoever uses it
+    // Tried as it will be stored, so that nothing is stored that the line cannot be set to.
+    if (MSComm1.PortOpen())
+        MSComm1.setPortOpen(false);
+    MSComm1.setCommPort(static_cast<int>(Val(ui.txtCOM->text())));
+    auto zurück = qScopeGuard([vorher = MSComm1.Settings()] { MSComm1.setSettings(vorher); });
+    MSComm1.setSettings(fields.parameter());
+    if (fnc_PortPrüfen() == fehlernummer::PortSettings)
+        return; // told
     if (!gSS1Vorhanden) {
         meldung({"Diese Schnittstelle gibt es nicht!\rBitte ändern Sie die Einstellungen",
                  "This interface does not exist!\rChange the settings, please!"},
                 Exclamation, {"Achtung!", "!Attention!"});
         return;
     }
-    const Schnittstelle fields{ui.cmbBaud->currentText(), ui.cmbParitaet->currentText(),
-                               ui.cmbDatenbits->currentText(), ui.cmbStoppbits->currentText()};
-    SerialSettings::parse(fields.parameter()); // nothing is stored that the line cannot be set to
     fnc_InterfaceSpeichern(ui.txtCOM->text(), fields.baud, fields.datenbits, fields.parität,
                            fields.stoppbits);
     MSComm1.setSettings(interfaceLesen().parameter);
+    zurück.dismiss();
     mGespeichert = true;
     unload();
 } catch (const Fehler &fehler) {

@@ -74,21 +74,22 @@ const QStringList &Schnittstelle::stoppbitzahlen() {
     return list;
 }
 
-void fnc_PortPrüfen() {
+int fnc_PortPrüfen() {
     try {
         leitungFreiPrüfen(); // the trial would close the port under a running exchange
         if (!MSComm1.PortOpen())
             MSComm1.setPortOpen(true);
         MSComm1.setPortOpen(false);
         gSS1Vorhanden = true;
+        return 0;
     } catch (const Fehler &fehler) {
         fehlerMerken(fehler);
-        if (fehler.number() == fehlernummer::NoSuchPort)
-            gSS1Vorhanden = false;
-        else
+        if (fehler.number() == fehlernummer::NoSuchPort ||
+            fehler.number() == fehlernummer::PortSettings)
+            gSS1Vorhanden = false; // of no use before the settings have been mended
+        if (fehler.number() != fehlernummer::NoSuchPort)
             fehlerBox("Fehler mI 2 - ", "ERROR mSI 2 - ", fehler);
-        if (fehler.number() == fehlernummer::PortSettings)
-            gSS1Vorhanden = true; // the port is there, so its settings can be mended
+        return fehler.number();
     }
 }
 

@@ -25,9 +25,10 @@ struct Schnittstelle {
     static const QStringList &stoppbitzahlen();
 };
 
-/// Opens the port of MSComm1 on trial and closes it, also one that was open. Sets gSS1Vorhanden; a
-/// failure other than a missing port is shown and leaves it as it was.
-void fnc_PortPrüfen();
+/// Opens the port of MSComm1 on trial and closes it, also one that was open. Sets gSS1Vorhanden,
+/// false for a missing port and for one that refuses its settings. A failure other than a missing
+/// port is shown, and leaves it as it was. Answers the number of the failure, 0 for none.
+int fnc_PortPrüfen();
 
 /// Writes the row and sets the port number of MSComm1. Raises Fehler.
 void fnc_InterfaceSpeichern(const QString &port, const QString &baud, const QString &data,

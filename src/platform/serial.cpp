@@ -40,7 +40,8 @@ class SystemPort : public SerialDevice {
         if (mLocation.startsWith('/') && !QFileInfo::exists(mLocation))
             throw missing();
         if (!mPort.open(QIODevice::ReadWrite)) {
-            if (mPort.error() == QSerialPort::DeviceNotFoundError)
+            // A name without hardware behind it fails in many ways.
+            if (mPort.error() != QSerialPort::PermissionError)
                 throw missing();
             throw Fehler(fehlernummer::PortInUse,
                          {"Der Anschluss ist belegt oder gesperrt (" + mPort.errorString() + ").",

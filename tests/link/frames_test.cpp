@@ -46,13 +46,12 @@ TEST(Frames, CodesInBrackets) {
     EXPECT_EQ(boxes.count(), 0u);
     EXPECT_EQ(fnc_Transformation("[0]"), QString(QChar(0)));
 
-    for (const char *bad : {"a]", "]", "[]", "[x]", "[256]", "[-1]", "[99999999999]"}) {
+    for (const char *bad :
+         {"a]", "]", "13]", "5]W[13]", "[]", "[x]", "[256]", "[-1]", "[99999999999]"}) {
         boxes.expect("Fehler mSI 4 -  13 …");
         EXPECT_EQ(fnc_Transformation(bad), "") << bad;
         EXPECT_TRUE(boxes.allCame()) << bad;
     }
-    // Digits from the very beginning, remembered output none.
-    EXPECT_EQ(fnc_Transformation("65]"), "A");
 }
 
 TEST(Frames, ParametersOfThePortAndTheirWords) {

@@ -149,6 +149,56 @@ TEST_P(Settings, OfAPortThatIsInUse) {
     run(journey());
 }
 
+/// A port that knows seven and eight data bits only.
+struct Choosy : SerialDevice {
+    void open(const SerialSettings &settings) override {
+        if (settings.dataBits < 7)
+            throw Fehler(fehlernummer::PortSettings, {"geht nicht", "not possible"});
+    }
+    void write(const QByteArray &) override {}
+    QByteArray readAll() override { return {}; }
+    void discard() override {}
+    qsizetype waiting() override { return 0; }
+    bool lost() const override { return false; }
+};
+
+TEST_P(Settings, ThatThePortRefusesAreMendedOnTheScreen) {
+    change("UPDATE Interface SET PortNr = 20, Parameter = '9600,N,5,1'");
+    setSerialDeviceMaker([](const QString &) { return std::make_unique<Choosy>(); });
+    const auto expectRefusal = [this] {
+        expectBox({"Fehler mI 2 -  8012 geht nicht", "ERROR mSI 2 -  8012 not possible"}, Critical,
+                  {"!! Achtung Fehler !!", " !! Attention !!"});
+    };
+    const auto journey = [&]() -> Journey {
+        co_await logIn();
+        co_await chooseDirection();
+        expectRefusal();
+        expectBox({"Die Schnittstellenparameter gibt es nicht. \rBitte korrigieren Sie die "
+                   "Einstellungen!",
+                   "The interface settings do not exist . \rPlease correct it!"},
+                  Exclamation, {"Achtung!", "Attention!"});
+        press(frm::Desktop, "pbMotein");
+        co_await arrive(frm::Interface);
+        EXPECT_EQ(fields(), "20 9600 Keine 5 1") << "a number above those of the bar";
+        choose("cmbDatenbits", "6");
+        expectRefusal();
+        press(frm::Interface, "pbok");
+        EXPECT_EQ(row() + '|' + line1(), "20 9600,N,5,1|20 9600,N,5,1");
+        choose("cmbDatenbits", "8");
+        press(frm::Interface, "pbok");
+        co_await arrive(frm::Desktop);
+        EXPECT_EQ(row() + '|' + line1(), "20 9600,N,8,1|20 9600,N,8,1");
+
+        MSComm1.setSettings("9600,N,5,1");
+        co_await open("mnuSSParameter", frm::Interface);
+        expectRefusal();
+        scrollTo(3);
+        EXPECT_EQ(text(frm::Interface, "txtCOM") + ' ' + state(), "3 " + existing());
+        EXPECT_TRUE(boxes.allCame());
+    };
+    run(journey());
+}
+
 TEST_P(Settings, OfTheLineAreToldWhenTheyCannotBeReadOrStored) {
     const Text title{"!! Achtung Fehler !!", " !! Attention !!"};
     const auto journey = [&]() -> Journey {

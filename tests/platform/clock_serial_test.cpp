@@ -264,6 +264,8 @@ TEST_F(Port, CarriesEveryByteBothWays) {
 TEST_F(Port, MissingOrInUseIsTold) {
     ASSERT_TRUE(QFile::link(directory.filePath("gone"), "COM7"));
     EXPECT_EQ(failure([&] { line.setPortOpen(true); }), fehlernummer::NoSuchPort);
+    ASSERT_TRUE(QFile::remove("COM7") && QFile::link("/dev/null", "COM7")); // no line behind it
+    EXPECT_EQ(failure([&] { line.setPortOpen(true); }), fehlernummer::NoSuchPort);
     EXPECT_FALSE(line.PortOpen());
     plug();
     line.setPortOpen(true);
