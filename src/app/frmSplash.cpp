@@ -17,16 +17,17 @@ void frmSplash::Form_Load() {
         meldung({"Initialisierungsfehler!", "Initializing error!"}, platform::Critical,
                 {"Fehler", "Error"});
     }
+    SystemTitel titel;
     try {
-        const SystemTitel titel = systemLesen();
-        ui.lbFirmenname->setText(titel.firma);
-        ui.lblProductName->setText(titel.produkt);
+        systemLesen(&titel);
     } catch (const Fehler &fehler) {
         // Silent: the login comes all the same, and later messages need a language.
         fehlerMerken(fehler);
         if (gSprache == 0)
             gSprache = 1;
     }
+    ui.lbFirmenname->setText(titel.firma);
+    ui.lblProductName->setText(titel.produkt);
     if (spracheGewählt()) {
         ui.lbMessenMit->setText(
             inSprache({"Messen und Kalibrieren mit", "Measure And Calibrate With"}));

@@ -4,17 +4,18 @@
 #include "session.h"
 #include "sprache.h"
 
-SystemTitel systemLesen() {
+void systemLesen(SystemTitel *titel) {
     const Recordset system = gDatenbank.open("SELECT * FROM System");
     if (system.count() != 1)
-        return {};
+        return;
     gProduktTitel = system[1].text();
+    if (titel)
+        *titel = {system[0].text(), gProduktTitel};
     gLaufzeitMin = gEinlaufMin = static_cast<std::int16_t>(system[2].whole());
     gEinlaufSek = 0;
     gEinlaufzeit = system[3].isNull() ? 10 : system[3].number();
     gEinlaufLeistung = system[8].number();
     gSprache = static_cast<std::int16_t>(system[6].whole());
-    return {system[0].text(), gProduktTitel};
 }
 
 bool endprüfungFreigegeben() {

@@ -8,9 +8,9 @@ struct SystemTitel {
     QString produkt;
 };
 
-/// Takes title, running-in and language into the session. With no row or more than one nothing is
-/// taken and the titles are empty. Raises Fehler.
-SystemTitel systemLesen();
+/// Takes title, running-in and language into the session; the titles first, so that they stay when
+/// a later column is missing. With no row or more than one nothing is taken. Raises Fehler.
+void systemLesen(SystemTitel *titel = nullptr);
 
 /// True when this installation shows reset and final test; false when the setting cannot be read.
 bool endprüfungFreigegeben();

@@ -43,10 +43,6 @@ int meldung(const Text &text, int flags, const Text &titel) {
     return platform::msgBox(inSprache(text), flags, inSprache(titel));
 }
 
-int meldungWennSprache(const Text &text, int flags, const Text &titel) {
-    return spracheGewählt() ? meldung(text, flags, titel) : 0;
-}
-
 void fehlerMerken(const Fehler &fehler) {
     gFehlerNr = static_cast<std::int16_t>(fehler.number());
     gFehlerText = inSprache(fehler.text());

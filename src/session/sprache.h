@@ -11,13 +11,11 @@
 /// German for gSprache 1, English for anything else.
 const QString &inSprache(const Text &text);
 
-/// True for gSprache 1 or 2. Many boxes are not shown under any other value.
+/// True for gSprache 1 or 2.
 bool spracheGewählt();
 
 /// A message box in the language of the session; returns the answer as msgBox does.
 int meldung(const Text &text, int flags, const Text &titel);
-/// As meldung, but without a language (gSprache neither 1 nor 2) there is no box and no answer: 0.
-int meldungWennSprache(const Text &text, int flags, const Text &titel);
 
 /// The standard error box: "Fehler 1050 - " number, blank, description. Keeps number and text in
 /// gFehlerNr and gFehlerText. The tags hold all that stands before the number.

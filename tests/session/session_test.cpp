@@ -41,25 +41,6 @@ TEST_F(Session, GermanForOneEnglishForAnythingElse) {
     }
 }
 
-TEST_F(Session, SomeBoxesDoNotComeWithoutALanguage) {
-    const Text text{"Frage?", "Question?"};
-    const Text title{"Meldung", "Message"};
-    for (const std::int16_t sprache : std::initializer_list<std::int16_t>{0, 3}) {
-        gSprache = sprache;
-        EXPECT_EQ(meldungWennSprache(text, YesNo, title), 0);
-        EXPECT_EQ(boxes.count(), 0u);
-    }
-    gSprache = 1;
-    boxes.expect("Frage?", "Meldung", YesNo | Question, No);
-    EXPECT_EQ(meldungWennSprache(text, YesNo | Question, title), No);
-    gSprache = 2;
-    boxes.expect("Question?", "Message", YesNo, Yes);
-    EXPECT_EQ(meldungWennSprache(text, YesNo, title), Yes);
-    gSprache = 0;
-    boxes.expect("Question?", "Message", 0, OK);
-    EXPECT_EQ(meldung(text, 0, title), OK);
-}
-
 TEST_F(Session, FailureBoxesShowAndKeepNumberAndText) {
     const Fehler fehler(13, {"Typen unverträglich", "Type mismatch"});
     const struct {
@@ -190,10 +171,14 @@ TEST_F(Session, OnlyAChoiceAppliesTheRules) {
     setAuswahlListener([&shown] { ++shown; }, [&chosen] { ++chosen; });
     normalZeigen("Normal");
     datumZeigen("01.02.2026");
+    kundeUmbenennen("Klinik");
+    gerätUmbenennen("ergo 900", {});
+    rezeptErneuern({});
     EXPECT_EQ(chosen, 0); // a failed zero point stays locked
     rezeptWählen("Kurz");
-    EXPECT_EQ(shown, 3);
-    EXPECT_EQ(chosen, 1);
+    gerätUmbenennen("ergo 900", "4711"); // it could not be measured with before
+    EXPECT_EQ(shown, 7);
+    EXPECT_EQ(chosen, 2);
 }
 
 class NamedFront : public Front {

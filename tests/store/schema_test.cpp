@@ -247,7 +247,7 @@ TEST_F(DemoData, AnOlderDatabaseGetsWhatIsNewAndKeepsItsRows) {
     const QString kept = listOf(rows);
     bringeDatenbankAufStand(path);
     EXPECT_EQ(shape(), whole);
-    EXPECT_EQ(listOf("SELECT ID || HebelarmNr FROM Historie"), "1HA-1001");
+    EXPECT_EQ(listOf("SELECT HebelarmNr FROM Historie WHERE ID = 1"), "HA-1001");
     EXPECT_EQ(listOf(rows), kept);
     EXPECT_EQ(listOf("SELECT PortNr FROM SecondInterface"), "4") << "with its delivered row";
     EXPECT_EQ(valueOf("SELECT Endprüfung FROM System"), 0);
