@@ -12,8 +12,8 @@ namespace bench {
 
 namespace {
 
-// Names of customers are made of a kind of house, a place and a number. The
-// archive has the lower half of the protocol numbers, the working tables the upper one.
+// Names of customers are made of a kind of house, a place and a number. The archive
+// has the lower half of the protocol numbers, the working tables the upper one.
 constexpr auto fill = R"sql(
 CREATE TEMP TABLE Haus (Nr INTEGER PRIMARY KEY, Wort);
 INSERT INTO Haus VALUES (0, 'Klinikum'), (1, 'Herzzentrum'), (2, 'Reha-Klinik'), (3, 'Praxis'),

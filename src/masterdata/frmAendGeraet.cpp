@@ -26,7 +26,7 @@ void frmÄndGerät::pbSave_Click() try {
     const Gerätedaten gerät = eingabe();
     gerätÄndern(mGerätID, gerät);
     if (gGerätID == mGerätID)
-        gerätWählen(gerät.typ, gerät.identNr);
+        gerätUmbenennen(gerät.typ, gerät.identNr);
     meldung({" Daten wurden geändert. ", " Data have been changed!"}, platform::Information,
             {"Bestätigung", "MESSAGE"});
     schließen(gerät.identNr);

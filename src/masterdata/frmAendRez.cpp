@@ -10,6 +10,7 @@
 #include "eintrag.h"
 #include "frmRezepte.h"
 #include "msgbox.h"
+#include "satz.h"
 #include "session.h"
 #include "spalte.h"
 #include "sprache.h"
@@ -108,13 +109,21 @@ void frmÄndRez::beschriften() {
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
     setCaption(recipe);
+}
+
+// What a person has typed since stays, whatever came to the front meanwhile.
+void frmÄndRez::Form_Activate() try {
+    beschriften();
+    if (!mGezeigt)
+        zeigen();
+} catch (const Fehler &fehler) {
+    fehlerBox("Fehler 1122 - ", "ERROR 1122 - ", fehler);
+}
+
+void frmÄndRez::zeigen() {
     ui.cmbPrArt->clear();
     ui.cmbPrArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
     mGitter.beschriften();
-}
-
-void frmÄndRez::Form_Activate() try {
-    beschriften();
     fnc_Fill_CmbToleranz();
     if (const auto *list = loaded<frmRezepte>()) {
         mToleranz = list->toleranz();
@@ -129,8 +138,7 @@ void frmÄndRez::Form_Activate() try {
     fnc_SchrittAnzeigen();
     ui.cmbToleranz->setFocus();
     msAltToleranz = ui.cmbToleranz->currentText();
-} catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1122 - ", "ERROR 1122 - ", fehler);
+    mGezeigt = true;
 }
 
 bool frmÄndRez::Form_QueryUnload() {
@@ -216,8 +224,8 @@ void frmÄndRez::cmbToleranz_Click() try {
     const QString name = ui.cmbToleranz->currentText();
     const Recordset row =
         gDatenbank.open("SELECT id FROM Toleranzen WHERE Bezeichnung = ?", {name});
-    gDatenbank.execute("UPDATE Rezeptnamen SET ToleranzID = ? WHERE Rezeptid = ?",
-                       {row["id"].value(), gRezeptID});
+    satzÄndern("UPDATE Rezeptnamen SET ToleranzID = ? WHERE Rezeptid = ?",
+               {row["id"].value(), gRezeptID});
     mToleranz = name;
 } catch (const Fehler &fehler) {
     eintragSetzen(ui.cmbToleranz, mToleranz); // the one that is in force still
@@ -225,8 +233,11 @@ void frmÄndRez::cmbToleranz_Click() try {
 }
 
 void frmÄndRez::cmbToleranz_LostFocus() {
-    if (ui.cmbToleranz->currentText() != msAltToleranz)
+    const QString name = ui.cmbToleranz->currentText();
+    if (name != msAltToleranz)
         mbGeändert = true;
+    if (name != mToleranz)
+        eintragSetzen(ui.cmbToleranz, mToleranz); // the one that is in force
 }
 
 // The fields of the step --------------------------------------------------------------------------

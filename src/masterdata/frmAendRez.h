@@ -26,6 +26,7 @@ class frmÄndRez : public Screen {
 
     void felderVerdrahten();
     void beschriften();
+    void zeigen();
     void aktualisieren();
     Schritt eingegeben() const;
     void altWerteMerken();
@@ -71,6 +72,7 @@ class frmÄndRez : public Screen {
     Abschluss mnAbschluss = Abschluss::Offen;
     bool mNurKopie = false;     ///< the stored steps are gone and not replaced yet
     QString mToleranz;          ///< the specification as it is stored
+    bool mGezeigt = false;      ///< recipe and copy stand on the screen
     bool mOhneSchritt = true;   ///< no step is shown that could be saved, moved or deleted
     bool mNeuerSchritt = false; ///< the step shown is not stored yet
 

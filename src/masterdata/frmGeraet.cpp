@@ -131,6 +131,7 @@ void frmGerät::identnummernLesen() {
             : gDatenbank.open("select identnr from ergometer where gerätetyp = ? And kundenid = ?",
                               {typ, gKundenID});
     mSuche.füllen(spalte(rows, 0));
+    mOhneNummer = rows.count() - static_cast<int>(mSuche.namen().size());
     if (rows.count() == 1) {
         mSuche.leeren();
         mSuche.übernehmen(rows[0].text());
@@ -191,8 +192,10 @@ void frmGerät::zeigen(const Recordset &row) {
 }
 
 void frmGerät::aktualisieren() {
+    const bool gefiltert = mSuche.anzahl() < mSuche.namen().size() ||
+                           (mSuche.name().isEmpty() && !mSuche.text().trimmed().isEmpty());
     ui.Label->setText(inSprache({"Ergometeranzahl: ", "Number Of Units In The List: "}) +
-                      QString::number(mSuche.anzahl()));
+                      QString::number(mSuche.anzahl() + (gefiltert ? 0 : mOhneNummer)));
 }
 
 void frmGerät::cmbTyp_Click() try {

@@ -48,6 +48,7 @@ class frmGerät : public Suchmaske {
     void pbok_Click();
 
     Ui::frmGerät ui;
+    int mOhneNummer = 0; ///< units that the list of ident numbers cannot show
     Schlüssel mGerätID = 0;
     bool mGeladen = false; ///< the first activation follows the loading and reads nothing
 };

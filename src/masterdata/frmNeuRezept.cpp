@@ -2,6 +2,8 @@
 
 #include <QShortcut>
 
+#include <utility>
+
 #include "database.h"
 #include "frmRezepte.h"
 #include "msgbox.h"
@@ -100,7 +102,7 @@ void frmNeuRezept::Form_Load() {
 }
 
 void frmNeuRezept::Form_Activate() try {
-    if (ui.txtRezName->isHidden()) { // back from the copy
+    if (std::exchange(mbKopiert, false)) {
         fnc_NavigationFreigeben();
         pbFirst_Click();
     }
@@ -178,6 +180,11 @@ bool frmNeuRezept::fnc_RezeptnameVorhanden() try {
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1041 - ", "ERROR 1041 - ", fehler);
     return true;
+}
+
+void frmNeuRezept::fnc_GitterAktualisieren() {
+    mbKopiert = true;
+    gitterZeigen(0);
 }
 
 void frmNeuRezept::schritteFreigeben() {

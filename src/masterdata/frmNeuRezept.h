@@ -16,7 +16,7 @@ class frmNeuRezept : public Screen {
     frmNeuRezept();
 
     // For the copy of another recipe's steps
-    void fnc_GitterAktualisieren() { gitterZeigen(0); }
+    void fnc_GitterAktualisieren();
     void neuenSchrittFreigeben() { ui.pbAddNew->setEnabled(true); }
 
   protected:
@@ -47,7 +47,8 @@ class frmNeuRezept : public Screen {
     Schritt gezeigterSchritt() const;
     void schrittnummerZeigen(int nummer);
     void felderLeeren();
-    static void ohneTausenderpunkte(QLineEdit *feld, const QString &gezeigt);
+    static void ohneTausenderpunkte(QLineEdit *feld);
+    bool neuerSchritt() const;
     void gitterZeigen(int zeile);
     /// What a failed statement has left; a second failure is not told.
     void gitterNachFehler();
@@ -86,11 +87,11 @@ class frmNeuRezept : public Screen {
 
     Ui::frmNeuRezept ui;
     Schrittgitter mGitter;
-    Schritt mGezeigt;           ///< as last loaded into the fields
     std::int16_t mnSchritt = 0; ///< number of the step being entered; 0 for none
     std::int16_t mnPrüfart = Prüfart::Keine;
     QString msPrArtTaste;      ///< last key in cmbPrArt
     bool mbPrArtTaste = false; ///< a key was pressed in cmbPrArt
     bool mbNavigation = false; ///< a stored step is shown: leaving txtDrehzahl is not checked once
+    bool mbKopiert = false;    ///< back from the copy, to be shown at the activation
     bool mbFertig = false;     ///< closes by pbok
 };

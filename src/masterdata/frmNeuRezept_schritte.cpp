@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "msgbox.h"
+#include "runtime.h"
 #include "session.h"
 #include "sprache.h"
 #include "sqltext.h"
@@ -68,7 +69,6 @@ void frmNeuRezept::schrittnummerZeigen(int nummer) {
 }
 
 void frmNeuRezept::felderLeeren() {
-    mGezeigt = {};
     ui.txtDrehzahl->clear();
     ui.txtLeistung->clear();
     ui.cmbPrArt->setCurrentIndex(-1);
@@ -86,7 +86,7 @@ void frmNeuRezept::gitterZeigen(int zeile) {
 void frmNeuRezept::fnc_SchrittAnzeigen() try {
     if (mGitter.leer())
         return;
-    const Schritt schritt = mGezeigt = schrittAus(mGitter.aktuell());
+    const Schritt schritt = schrittAus(mGitter.aktuell());
     schrittnummerZeigen(schritt.nummer);
     ui.txtDrehzahl->setText(schritt.drehzahl);
     ui.txtLeistung->setText(schritt.leistung);
@@ -97,15 +97,14 @@ void frmNeuRezept::fnc_SchrittAnzeigen() try {
     fehlerBox("Fehler 1025 - ", "ERROR 1025 - ", fehler);
 }
 
-/// Points are thousands points to a person. What the program has shown holds none: a point in it is
-/// the decimal sign of the session, and without it the step would ask for ten times as much.
-void frmNeuRezept::ohneTausenderpunkte(QLineEdit *feld, const QString &gezeigt) {
-    if (feld->text() != gezeigt)
+/// Where the decimal sign is a point, the step would ask for ten times as much without it.
+void frmNeuRezept::ohneTausenderpunkte(QLineEdit *feld) {
+    if (numberLocale().decimalPoint() == ",")
         feld->setText(fnc_OhnePunkt(feld->text()));
 }
 
 bool frmNeuRezept::txtDrehzahl_LostFocus() try {
-    ohneTausenderpunkte(ui.txtDrehzahl, mGezeigt.drehzahl);
+    ohneTausenderpunkte(ui.txtDrehzahl);
     if (std::exchange(mbNavigation, false) || ui.txtDrehzahl->text().isEmpty())
         return true;
     return wertAnnehmen(ui.txtDrehzahl, drehzahlPrüfen(ui.txtDrehzahl->text(), grenzenNeuRezept),
@@ -121,7 +120,7 @@ bool frmNeuRezept::txtDrehzahl_LostFocus() try {
 bool frmNeuRezept::txtLeistung_LostFocus() try {
     if (ui.txtLeistung->text().isEmpty())
         return true;
-    ohneTausenderpunkte(ui.txtLeistung, mGezeigt.leistung);
+    ohneTausenderpunkte(ui.txtLeistung);
     return wertAnnehmen(
         ui.txtLeistung, leistungPrüfen(ui.txtLeistung->text(), grenzenNeuRezept),
         {"Leistung muss ein nummerischer Wert sein!", "Power has to be a numeric value!"},
@@ -344,8 +343,15 @@ void frmNeuRezept::pbNext_Click() try { gehen(mGitter.zeile() + 1); } catch (con
     fehlerBox("Fehler 1028 - ", "ERROR 1028 - ", fehler);
 }
 
+/// A step is being entered that is not stored yet: it stands behind the last.
+bool frmNeuRezept::neuerSchritt() const {
+    Recordset rows = mGitter.schritte();
+    rows.moveLast();
+    return !rows.empty() && mnSchritt > rows["Prüfschritt"].whole();
+}
+
 void frmNeuRezept::pbPrevious_Click() try {
-    gehen(mGitter.zeile() - 1);
+    gehen((neuerSchritt() ? mGitter.schritte().count() : mGitter.zeile()) - 1);
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1029 - ", "ERROR 1029 - ", fehler);
 }

@@ -61,8 +61,8 @@ void frmToleranzen::verdrahten() {
     }
     onGotFocus(ui.txtMessverfahren, [this] { altWertMerken(); });
     onEnter(ui.txtMessverfahren, [this] {
-        ui.pbSave->setEnabled(true);
-        ui.pbSave->setFocus();
+        if (speichernFreigeben())
+            ui.pbSave->setFocus();
     });
     onLostFocus(ui.txtTolBez, [this] { txtTolBez_LostFocus(); });
     onLostFocus(ui.txtTolProz, [this] { txtTolProz_LostFocus(); });
@@ -76,7 +76,7 @@ void frmToleranzen::verdrahten() {
     on(ui.cmbGKlasse->lineEdit(), &QLineEdit::textEdited, [this] { cmbGKlasse_Change(); });
     on(ui.cmbGKlasse, &QComboBox::activated, [this] {
         if (eingabe().vollständig())
-            ui.pbSave->setEnabled(true);
+            speichernFreigeben();
     });
     onClick(ui.pbNew, [this] { pbNew_Click(); });
     onClick(ui.pbEdit, [this] { pbEdit_Click(); });
@@ -295,6 +295,8 @@ void frmToleranzen::pbSave_Click() try {
     else if (mbBearbeiten)
         änderungSpeichern();
 } catch (const Fehler &fehler) {
+    ui.cmbBezTol->setFocus(); // the input cannot be saved any more; the picker leads on
+    ui.pbSave->setEnabled(mbNeu || mbBearbeiten);
     fehlerBox("Fehler Tol08 - ", "ERROR Tol08 - ", fehler);
 }
 

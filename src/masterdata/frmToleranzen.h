@@ -37,6 +37,7 @@ class frmToleranzen : public Screen {
     void altWertMerken();
     void änderungPrüfen(const QLineEdit *feld);
     void vollständigkeitPrüfen();
+    bool speichernFreigeben();
     void zurückweisen(QLineEdit *feld, const QString &text);
     void zahlPrüfen(QLineEdit *feld, double größter, const Text &text, const Text &titel,
                     const std::function<void(const QString &)> &runden);

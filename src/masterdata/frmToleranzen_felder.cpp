@@ -32,6 +32,13 @@ void frmToleranzen::vollständigkeitPrüfen() {
         ui.pbSave->setEnabled(eingabe().vollständig());
 }
 
+/// What a failed saving has ended cannot be saved.
+bool frmToleranzen::speichernFreigeben() {
+    const bool möglich = mbNeu || mbBearbeiten;
+    ui.pbSave->setEnabled(möglich);
+    return möglich;
+}
+
 void frmToleranzen::zurückweisen(QLineEdit *feld, const QString &text) {
     feld->setText(text);
     feld->setFocus();
@@ -94,10 +101,8 @@ void frmToleranzen::txtAbw_LostFocus() try {
 }
 
 void frmToleranzen::txtMessverfahren_LostFocus() {
-    if (!eingabe().vollständig())
-        return;
-    ui.pbSave->setEnabled(true);
-    ui.pbSave->setFocus();
+    if (eingabe().vollständig() && speichernFreigeben())
+        ui.pbSave->setFocus();
 }
 
 void frmToleranzen::func_Round_Procent(const QString &text) try {
@@ -120,5 +125,5 @@ void frmToleranzen::cmbGKlasse_Change() {
         ui.cmbGKlasse->lineEdit()->selectAll();
     }
     if (eingabe().vollständig())
-        ui.pbSave->setEnabled(true);
+        speichernFreigeben();
 }

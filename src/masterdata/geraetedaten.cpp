@@ -1,27 +1,30 @@
 #include "geraetedaten.h"
 
 #include "database.h"
+#include "satz.h"
 
-Text fehlendeAngaben(const Gerätedaten &gerät) {
+Fehlendes fehlendeAngaben(const Gerätedaten &gerät, const std::optional<Gerätedaten> &vorher) {
     struct Angabe {
-        const QString &wert;
+        QString Gerätedaten::*wert;
         const char *alsErste;
         const char *weitere;
     };
-    const Angabe angaben[] = {
-        {gerät.typ, "Typ", ""},
-        {gerät.hersteller, " Hersteller", ", Hersteller"},
-        {gerät.serienNr, "Serien-Nr.", ", Serien-Nr."},
-        {gerät.identNr, " Ident-Nr.", ", Ident-Nr."},
+    static constexpr Angabe angaben[] = {
+        {&Gerätedaten::typ, "Typ", ""},
+        {&Gerätedaten::hersteller, " Hersteller", ", Hersteller"},
+        {&Gerätedaten::serienNr, "Serien-Nr.", ", Serien-Nr."},
+        {&Gerätedaten::identNr, " Ident-Nr.", ", Ident-Nr."},
     };
-    QString liste;
-    for (const Angabe &angabe : angaben) {
-        if (angabe.wert.trimmed().isEmpty())
-            liste += liste.isEmpty() ? angabe.alsErste : angabe.weitere;
+    const auto leer = [](const QString &wert) { return wert.trimmed().isEmpty(); };
+    Fehlendes fehlendes{{}, {"Bitte ergänzen Sie ", "Input is incomplete! Please complete!"}};
+    for (int i = 0; const Angabe &angabe : angaben) {
+        if (leer(gerät.*angabe.wert) && !(vorher && leer((*vorher).*angabe.wert))) {
+            fehlendes.text.german += fehlendes.erste ? angabe.weitere : angabe.alsErste;
+            fehlendes.erste = fehlendes.erste.value_or(i);
+        }
+        ++i;
     }
-    if (liste.isEmpty())
-        return {};
-    return {"Bitte ergänzen Sie " + liste, "Input is incomplete! Please complete!"};
+    return fehlendes;
 }
 
 Gerätedaten gerätLesen(Schlüssel gerätID) {
@@ -43,7 +46,7 @@ void gerätEinfügen(Schlüssel kundenID, const Gerätedaten &gerät) {
 }
 
 void gerätÄndern(Schlüssel gerätID, const Gerätedaten &gerät) {
-    gDatenbank.execute("update Ergometer set Gerätetyp = ?, Hersteller = ?, SerienNr = ?, "
-                       "IdentNr = ? where GerätID = ?",
-                       {gerät.typ, gerät.hersteller, gerät.serienNr, gerät.identNr, gerätID});
+    satzÄndern("update Ergometer set Gerätetyp = ?, Hersteller = ?, SerienNr = ?, "
+               "IdentNr = ? where GerätID = ?",
+               {gerät.typ, gerät.hersteller, gerät.serienNr, gerät.identNr, gerätID});
 }

@@ -1,6 +1,8 @@
 // What is entered about a unit, and its row of the table. No widget.
 #pragma once
 
+#include <optional>
+
 #include "session.h"
 #include "text.h"
 
@@ -11,8 +13,13 @@ struct Gerätedaten {
     QString identNr;
 };
 
-/// What to complete, in words; empty when all four are there. A blank one is missing.
-platform::Text fehlendeAngaben(const Gerätedaten &gerät);
+struct Fehlendes {
+    std::optional<int> erste; ///< the first of the four that is missing, from 0
+    platform::Text text;      ///< what to complete, in words
+};
+/// A blank one is missing, unless it was blank before.
+Fehlendes fehlendeAngaben(const Gerätedaten &gerät,
+                          const std::optional<Gerätedaten> &vorher = std::nullopt);
 
 /// Raises NoCurrentRecord when there is no such unit.
 Gerätedaten gerätLesen(Schlüssel gerätID);

@@ -52,6 +52,7 @@ void Gerätemaske::eintragen(const Gerätedaten &gerät) {
     ui.txtHersteller->setText(gerät.hersteller);
     ui.txtSerienNr->setText(gerät.serienNr);
     ui.txtIdentNr->setText(gerät.identNr);
+    mVorher = eingabe();
     ui.txtTyp->setCursorPosition(0); // a long name shows its start
 }
 
@@ -62,17 +63,16 @@ Gerätedaten Gerätemaske::eingabe() const {
 
 bool Gerätemaske::prüfen(Schlüssel gerätID) {
     const Gerätedaten gerät = eingabe();
-    if (const Text fehlt = fehlendeAngaben(gerät); !fehlt.german.isEmpty()) {
-        meldung(fehlt, Exclamation, {"Eingabefehler", "Error"});
-        for (QLineEdit *feld : {ui.txtTyp, ui.txtHersteller, ui.txtSerienNr, ui.txtIdentNr}) {
-            if (feld->text().trimmed().isEmpty()) {
-                feld->setFocus();
-                break;
-            }
-        }
+    const Fehlendes fehlendes = fehlendeAngaben(gerät, mVorher);
+    if (fehlendes.erste) {
+        meldung(fehlendes.text, Exclamation, {"Eingabefehler", "Error"});
+        QLineEdit *const felder[] = {ui.txtTyp, ui.txtHersteller, ui.txtSerienNr, ui.txtIdentNr};
+        felder[*fehlendes.erste]->setFocus();
         return false;
     }
-    if (identnummerVergeben(gerät.identNr, gerätID)) {
+    const bool gleich =
+        mVorher && gerät.identNr.compare(mVorher->identNr, Qt::CaseInsensitive) == 0;
+    if (!gleich && identnummerVergeben(gerät.identNr, gerätID)) {
         meldung({"Diese Identifikationsnummer ist bereits vergeben!",
                  "This identification number has already been allocated!"},
                 Exclamation, {"MESSAGE!", "MESSAGE!"});

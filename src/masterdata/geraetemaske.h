@@ -7,6 +7,8 @@
 #include "text.h"
 #include "ui_geraetemaske.h"
 
+#include <optional>
+
 class Gerätemaske : public Screen {
   protected:
     explicit Gerätemaske(const platform::Text &titel);
@@ -17,8 +19,8 @@ class Gerätemaske : public Screen {
     void vorbereiten();
     void eintragen(const Gerätedaten &gerät);
     Gerätedaten eingabe() const;
-    /// False, and told why, when something is missing or another unit has the ident number.
-    /// `gerätID` is the unit that is changed, 0 for a new one.
+    /// False, and told why, when something is missing or another unit has the ident number; not if
+    /// it was so before. `gerätID` is the unit that is changed, 0 for a new one.
     bool prüfen(Schlüssel gerätID);
     /// Closes, and lets the list of units show this one.
     void schließen(const QString &identNr);
@@ -29,4 +31,5 @@ class Gerätemaske : public Screen {
   private:
     Ui::Gerätemaske ui;
     platform::Text mTitel;
+    std::optional<Gerätedaten> mVorher; ///< of the unit that is changed
 };

@@ -1,6 +1,7 @@
 #include "kundendaten.h"
 
 #include "database.h"
+#include "satz.h"
 
 Kundendaten kundeLesen(Schlüssel kundenID) {
     const Recordset row = gDatenbank.open("select * from Kunden where KundenID = ?", {kundenID});
@@ -20,7 +21,6 @@ void kundeEinfügen(const Kundendaten &kunde) {
 }
 
 void kundeÄndern(Schlüssel kundenID, const Kundendaten &kunde) {
-    gDatenbank.execute(
-        "update Kunden set Name = ?, Straße = ?, PLZ = ?, Ort = ? where KundenID = ?",
-        {kunde.name, kunde.straße, kunde.plz, kunde.ort, kundenID});
+    satzÄndern("update Kunden set Name = ?, Straße = ?, PLZ = ?, Ort = ? where KundenID = ?",
+               {kunde.name, kunde.straße, kunde.plz, kunde.ort, kundenID});
 }

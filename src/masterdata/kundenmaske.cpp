@@ -55,6 +55,7 @@ void Kundenmaske::eintragen(const Kundendaten &kunde) {
     ui.txtStraße->setText(kunde.straße);
     ui.txtPLZ->setText(kunde.plz);
     ui.cmbOrt->setEditText(kunde.ort);
+    mVorher = eingabe();
     ui.txtName->setCursorPosition(0); // a long name shows its start
 }
 
@@ -64,6 +65,8 @@ Kundendaten Kundenmaske::eingabe() const {
 
 bool Kundenmaske::prüfen(Schlüssel kundenID) {
     const QString name = ui.txtName->text();
+    if (kundenID != 0 && name.compare(mVorher.name, Qt::CaseInsensitive) == 0)
+        return true;
     if (name.trimmed().isEmpty())
         meldung({" Keine Daten zum Speichern vorhanden! ", " No data to be saved! "}, Exclamation,
                 eingabefehler);

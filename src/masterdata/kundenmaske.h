@@ -17,8 +17,8 @@ class Kundenmaske : public Screen {
     void vorbereiten();
     void eintragen(const Kundendaten &kunde);
     Kundendaten eingabe() const;
-    /// False, and told why, when there is no name or another customer bears it. `kundenID` is the
-    /// customer that is changed, 0 for a new one.
+    /// False, and told why, when there is no name or another customer bears it; not if it was so
+    /// before. `kundenID` is the customer that is changed, 0 for a new one.
     bool prüfen(Schlüssel kundenID);
     /// Closes, and lets the list of customers show this one.
     void schließen(const QString &name);
@@ -27,4 +27,5 @@ class Kundenmaske : public Screen {
   private:
     Ui::Kundenmaske ui;
     platform::Text mTitel;
+    Kundendaten mVorher; ///< of the customer that is changed
 };

@@ -1,6 +1,5 @@
 #include "rezept.h"
 
-#include "auswahl.h"
 #include "database.h"
 #include "schluessel.h"
 #include "schrittliste.h"
@@ -39,18 +38,10 @@ void rezeptLöschen(Schlüssel rezeptID) {
     gDatenbank.execute("DELETE FROM Rezeptnamen WHERE Rezeptid = ?", {rezeptID});
 }
 
-void rezeptEinsetzen(const RezeptKopf &kopf) {
-    gRezeptID = kopf.rezeptID;
-    gToleranzID = kopf.toleranzID;
-    gRezeptName = kopf.toleranz;
-    gMessverfahren = kopf.messverfahren;
-}
-
 void sitzungsrezeptEinsetzen() try {
-    if (auswahl().rezept.isEmpty())
-        return;
-    rezeptEinsetzen(rezeptKopf(auswahl().rezept));
-    rezeptWählen(auswahl().rezept); // its specification may be called otherwise now
+    rezeptZurückholen();
+    if (!auswahl().rezept.isEmpty())
+        rezeptErneuern(rezeptKopf(auswahl().rezept));
 } catch (const Fehler &fehler) {
     if (fehler.number() == platform::fehlernummer::NoCurrentRecord)
         rezeptWählen({});

@@ -3,15 +3,8 @@
 
 #include <QString>
 
+#include "auswahl.h"
 #include "recordset.h"
-#include "session.h"
-
-struct RezeptKopf {
-    Schlüssel rezeptID = 0;
-    Schlüssel toleranzID = 0;
-    QString toleranz; ///< name of the specification
-    QString messverfahren;
-};
 
 /// Head of a recipe with its specification. Raises NoCurrentRecord when there is no such recipe or
 /// its specification was deleted.
@@ -27,9 +20,7 @@ Recordset rezeptSchritte(Schlüssel rezeptID);
 /// Steps first, then the name. Protocols that were measured with it are not looked at.
 void rezeptLöschen(Schlüssel rezeptID);
 
-/// Into gRezeptID, gToleranzID, gRezeptName, gMessverfahren.
-void rezeptEinsetzen(const RezeptKopf &kopf);
-
-/// Puts the recipe that the desktop shows back in force, as the database tells it now. One that is
-/// gone, or whose specification is, is no longer chosen.
+/// Puts the recipe that the desktop shows back in force, as the database tells it now, or as it
+/// was chosen when that cannot be read. One that is gone, or whose specification is, is no longer
+/// chosen.
 void sitzungsrezeptEinsetzen();

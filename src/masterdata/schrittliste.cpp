@@ -2,6 +2,7 @@
 
 #include "database.h"
 #include "runtime.h"
+#include "satz.h"
 #include "sprache.h"
 
 namespace {
@@ -80,10 +81,11 @@ void Schrittliste::anlegen(Schlüssel rezeptID, const Schritt &schritt) const {
 
 void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
     prüfen(schritt);
-    execute("UPDATE %1 SET Drehzahl = ?, Leistung = ?, Prüfart = ? "
-            "WHERE Val(Prüfschritt) = ? AND RezeptID = ?",
-            {schritt.drehzahl, CDbl(schritt.leistung), QString::number(schritt.prüfart),
-             schritt.nummer, rezeptID});
+    satzÄndern(QString("UPDATE %1 SET Drehzahl = ?, Leistung = ?, Prüfart = ? "
+                       "WHERE Val(Prüfschritt) = ? AND RezeptID = ?")
+                   .arg(mTabelle),
+               {schritt.drehzahl, CDbl(schritt.leistung), QString::number(schritt.prüfart),
+                schritt.nummer, rezeptID});
 }
 
 void Schrittliste::umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const {

@@ -2,6 +2,7 @@
 
 #include "database.h"
 #include "runtime.h"
+#include "satz.h"
 #include "sprache.h"
 #include "sqltext.h"
 
@@ -106,10 +107,10 @@ void toleranzEinfügen(const Toleranz &toleranz) {
 }
 
 void toleranzÄndern(Schlüssel id, const Toleranz &toleranz) {
-    gDatenbank.execute("UPDATE Toleranzen SET Bezeichnung = ?, Prozent = ?, Watt = ?, "
-                       "GrenzAbw = ?, GKlasse = ?, Messverfahren = ? WHERE ID = ?",
-                       {toleranz.bezeichnung, CDbl(toleranz.prozent), CDbl(toleranz.watt),
-                        CDbl(toleranz.grenzAbw), toleranz.gKlasse, toleranz.messverfahren, id});
+    satzÄndern("UPDATE Toleranzen SET Bezeichnung = ?, Prozent = ?, Watt = ?, "
+               "GrenzAbw = ?, GKlasse = ?, Messverfahren = ? WHERE ID = ?",
+               {toleranz.bezeichnung, CDbl(toleranz.prozent), CDbl(toleranz.watt),
+                CDbl(toleranz.grenzAbw), toleranz.gKlasse, toleranz.messverfahren, id});
 }
 
 void toleranzLöschen(Schlüssel id) {

@@ -3,6 +3,7 @@
 namespace {
 
 Auswahl gewählt;
+RezeptKopf gewähltesRezept;
 std::function<void()> showListener;
 std::function<void()> choiceListener;
 
@@ -40,9 +41,16 @@ void gerätWählen(const QString &typ, const QString &ident) {
     chosen();
 }
 
+void gerätUmbenennen(const QString &typ, const QString &ident) {
+    const bool regelnBleiben = gewählt.gerätID.isEmpty() == ident.isEmpty();
+    gewählt.gerät = typ;
+    gewählt.gerätID = ident;
+    regelnBleiben ? shown() : chosen();
+}
+
 void kundeUmbenennen(const QString &name) {
     gewählt.kunde = name;
-    chosen();
+    shown();
 }
 
 void kundeAbwählen() {
@@ -55,9 +63,29 @@ void gerätAbwählen() {
     gerätWählen({}, {});
 }
 
+void rezeptEinsetzen(const RezeptKopf &kopf) {
+    gRezeptID = kopf.rezeptID;
+    gToleranzID = kopf.toleranzID;
+    gRezeptName = kopf.toleranz;
+    gMessverfahren = kopf.messverfahren;
+}
+
 void rezeptWählen(const QString &name) {
+    if (name.isEmpty())
+        rezeptEinsetzen({});
+    gewähltesRezept = {gRezeptID, gToleranzID, gRezeptName, gMessverfahren};
     gewählt.rezept = name;
     chosen();
+}
+
+void rezeptErneuern(const RezeptKopf &kopf) {
+    gewähltesRezept = kopf;
+    rezeptEinsetzen(kopf);
+    shown();
+}
+
+void rezeptZurückholen() {
+    rezeptEinsetzen(gewähltesRezept);
 }
 
 void normalZeigen(const QString &text) {

@@ -22,14 +22,32 @@ const Auswahl &auswahl();
 /// Another customer than the chosen one takes the chosen unit away. Sets gKundenID, and gGerätID
 /// to 0 then.
 void kundeWählen(const QString &name, Schlüssel kundenID);
-/// The chosen customer is called otherwise now; the unit stays.
+/// The chosen customer is called otherwise now; the unit stays. This is no choice.
 void kundeUmbenennen(const QString &name);
 /// The chosen customer is gone, and the unit with it. Sets gKundenID and gGerätID to 0.
 void kundeAbwählen();
 void gerätWählen(const QString &typ, const QString &ident);
+/// The chosen unit is called otherwise now. This is no choice, unless it has an ident number only
+/// now, or none any more.
+void gerätUmbenennen(const QString &typ, const QString &ident);
 /// The chosen unit is gone. Sets gGerätID to 0.
 void gerätAbwählen();
+
+struct RezeptKopf {
+    Schlüssel rezeptID = 0;
+    Schlüssel toleranzID = 0;
+    QString toleranz; ///< name of the specification
+    QString messverfahren;
+};
+/// A recipe to be looked at or changed: into gRezeptID, gToleranzID, gRezeptName, gMessverfahren.
+void rezeptEinsetzen(const RezeptKopf &kopf);
+/// The recipe that was put there last is the chosen one; without a name there is none.
 void rezeptWählen(const QString &name);
+/// The chosen recipe reads like this now, and is put there. This is no choice.
+void rezeptErneuern(const RezeptKopf &kopf);
+/// Puts the chosen recipe there as it was chosen, whichever was looked at meanwhile.
+void rezeptZurückholen();
+
 void normalZeigen(const QString &text);
 void datumZeigen(const QString &text);
 

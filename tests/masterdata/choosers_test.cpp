@@ -168,17 +168,25 @@ TEST_P(Units, AndTheOthersAreLeftWithoutAChoice) {
     const auto journey = [&, this]() -> Journey {
         co_await select();
         const QList<int> chosen = session();
+        front().setMessenEnabled(false); // after a failed correction: only a choice helps
         for (const auto &c : choosers) {
             for (const char *way : {c.cancel, "Escape", ""}) {
                 co_await open(c.button, c.name);
                 paste(c.name, c.field, c.entry);
+                const bool unread = c.name == frm::Rezepte && !*way;
+                if (unread) {
+                    change("ALTER TABLE Toleranzen RENAME TO fort");
+                    expectFailure("1015");
+                }
                 leaveBy(c.name, way);
                 co_await arrive(frm::Desktop);
+                if (unread)
+                    change("ALTER TABLE fort RENAME TO Toleranzen");
                 EXPECT_FALSE(loaded(c.name)) << way;
                 EXPECT_EQ(desktop(),
                           "Klinikum Ährenfeld|KE 200 med|AEH-001|Kurzprüfung|medizinische Geräte");
                 EXPECT_EQ(session(), chosen) << c.button << way;
-                EXPECT_TRUE(canPress(frm::Desktop, "pbMessen"));
+                EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));
             }
         }
     };
@@ -210,6 +218,8 @@ TEST_P(Units, AreChosenByIdentOrByTheOnlyOneOfAType) {
                   (QStringList{"", "Kardio L4", "KE 200 med", "Ohne Nummer"}));
         EXPECT_EQ(listed(frm::Gerät, "lstIdent"),
                   (QStringList{"AEH-001", "AEH-002", "AEH-003", "AEH-017"}));
+        const QString count = english() ? "Number Of Units In The List: " : "Ergometeranzahl: ";
+        EXPECT_EQ(text(frm::Gerät, "Label"), count + '5');
         for (const auto &c : refused) {
             pick(frm::Gerät, "cmbTyp", c.type);
             paste(frm::Gerät, "cmbIdent", c.ident);
@@ -219,8 +229,7 @@ TEST_P(Units, AreChosenByIdentOrByTheOnlyOneOfAType) {
             EXPECT_EQ(gGerätID, 0);
             EXPECT_EQ(text(frm::Gerät, "txtTyp"), "");
         }
-        EXPECT_EQ(text(frm::Gerät, "Label"),
-                  english() ? "Number Of Units In The List: 3" : "Ergometeranzahl: 3");
+        EXPECT_EQ(text(frm::Gerät, "Label"), count + '3');
         type(frm::Gerät, "cmbIdent", "aeh-003");
         EXPECT_EQ(text(frm::Gerät, "txtSerienNr"), "200-05120");
         EXPECT_EQ(text(frm::Gerät, "txtHersteller"), "Radolin");

@@ -8,6 +8,7 @@
 #include "frmGeraet.h"
 #include "frmKunden.h"
 #include "frmRezepte.h"
+#include "front.h"
 #include "msgbox.h"
 #include "session.h"
 #include "workplace.h"
@@ -70,6 +71,16 @@ class Choosing : public support::Workplace, public testing::WithParamInterface<i
             co_await logIn();
         support::press(from, button);
         co_await arrive(name);
+    }
+    /// Another screen comes to the front and goes again by itself.
+    Journey interruption() {
+        const Screen *below = platform::frontScreen();
+        ::screen(frm::Meldung1).show();
+        co_await arrive(frm::Meldung1);
+        const support::Until back =
+            support::until("the way back", [below] { return platform::frontScreen() == below; });
+        co_await back;
+        co_await support::pass(100);
     }
     /// By a button, by "Escape", or by the close box, which has no name.
     static void leaveBy(frm name, const char *way) {

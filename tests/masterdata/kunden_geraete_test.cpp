@@ -122,7 +122,10 @@ TEST_P(Editing, ACustomerIsEnteredAndChanged) {
             refused(frm::ÄndKund, *name == 'p' ? nameTaken : noName, error, "txtName");
         }
         fill(frm::ÄndKund, {{"txtName", "KLINIKUM*"}, {"txtStraße", ""}, {"cmbOrt", "Großlohe"}});
+        // which another bears already
+        change("INSERT INTO Kunden (KundenID, Name) VALUES (500, 'klinikum*')");
         co_await saved(frm::ÄndKund, frm::Kunden);
+        change("DELETE FROM Kunden WHERE KundenID = 500");
         EXPECT_EQ(customerRow("KLINIKUM*"), "KLINIKUM*||01|Großlohe");
         EXPECT_EQ(text(frm::Kunden, "lbName"), "KLINIKUM*");
 
@@ -131,6 +134,10 @@ TEST_P(Editing, ACustomerIsEnteredAndChanged) {
         co_await open("pbchange", frm::ÄndKund, frm::Kunden);
         paste(frm::ÄndKund, "txtName", "Herzhaus");
         failed(frm::ÄndKund, "1140", "UPDATE", "Kunden");
+        change("UPDATE Kunden SET KundenID = 500 WHERE KundenID = 2"); // gone meanwhile
+        expectFailure("1140", {" 3021 …", " 3021 …"});
+        press(frm::ÄndKund, "pbSave");
+        change("UPDATE Kunden SET KundenID = 2 WHERE KundenID = 500");
         EXPECT_EQ(desktop(), "Herzzentrum Talbrück|KE 300 BD|HZT-2||");
         co_await saved(frm::ÄndKund, frm::Kunden);
         EXPECT_EQ(desktop(), "Herzhaus|KE 300 BD|HZT-2||");
@@ -160,9 +167,9 @@ TEST(UnitEntry, TellsWhatIsMissing) {
     };
     for (const auto &[entered, box] : cases) {
         const auto value = [&](int i) { return QString(entered[i] == 'x' ? "x" : " "); };
-        const Text told = fehlendeAngaben({value(0), value(1), value(2), value(3)});
-        EXPECT_EQ(told.german, box);
-        EXPECT_EQ(told.english, *box ? "Input is incomplete! Please complete!" : "");
+        const Fehlendes told = fehlendeAngaben({value(0), value(1), value(2), value(3)});
+        EXPECT_EQ(told.erste ? told.text.german : QString(), box);
+        EXPECT_EQ(told.text.english, "Input is incomplete! Please complete!");
     }
 }
 
@@ -209,10 +216,19 @@ TEST_P(Editing, AUnitIsEnteredAndChanged) {
         EXPECT_EQ(text(frm::Gerät, "txtTyp"), "Velo 2");
         EXPECT_EQ(desktop(), "Klinikum Ährenfeld|Velo 2|ü'1||");
 
-        // Another one; or taken off the desktop by another customer, it does not come back.
+        // Another one, with what it lacked and shared before; or taken off the desktop by another
+        // customer, it does not come back.
+        change("UPDATE Ergometer SET Hersteller = NULL WHERE IdentNr = 'AEH-001'");
+        change("INSERT INTO Ergometer (KundenID, Gerätetyp, IdentNr) VALUES (2, 'X', 'AEH-001')");
         type(frm::Gerät, "cmbIdent", "AEH-001");
         co_await open("pbchange", frm::ÄndGerät, frm::Gerät);
+        paste(frm::ÄndGerät, "txtSerienNr", " ");
+        refused(frm::ÄndGerät,
+                {"Bitte ergänzen Sie Serien-Nr.", "Input is incomplete! Please complete!"}, error,
+                "txtSerienNr");
+        paste(frm::ÄndGerät, "txtSerienNr", "S/2");
         co_await saved(frm::ÄndGerät, frm::Gerät);
+        EXPECT_TRUE(unitRow("AEH-001").startsWith("1|KE 200 med||S/2|"));
         EXPECT_EQ(desktop(), "Klinikum Ährenfeld|Velo 2|ü'1||");
         press(frm::Gerät, "pbexit");
         co_await arrive(frm::Desktop);

@@ -162,6 +162,7 @@ TEST_P(StepTable, NumbersStayWithoutGapOrDouble) {
         EXPECT_THROW(steps.ändern(own, bad), Fehler);
         EXPECT_EQ(powers(own), model) << "nothing has moved";
     }
+    EXPECT_THROW(steps.ändern(own, step(99, 1)), Fehler) << "no such step";
 }
 
 TEST_P(StepTable, NumbersAreReadUnderAnyFormat) {

@@ -103,7 +103,10 @@ TEST_P(Specifications, FollowTheirStates) {
         {"New;txtTolWatt=abc;noNumber Tol05 abc;tab", "---- [ /abc/]  @txtAbw"},
         {"New;txtAbw=abc;noNumber Tol05 abc;tab", "---- [ //abc]  @cmbGKlasse"},
         // an empty number cannot be stored, and the edit mode is over by then
-        {"pick Beta;txtAbw=;tab;noNumber Tol08 ;Save;Save", "N-DS [Beta 10/5/] Beta @pbSave"},
+        {"pick Beta;txtAbw=;tab;noNumber Tol08 ;Save;txtMessverfahren=;cmbGKlasse=m;txtAbw=1;tab",
+         "N-D- [Beta 10/5/1] Beta @cmbGKlasse"},
+        {"New;fill;txtTolWatt=abc;noNumber Tol05 abc;tab;noNumber Tol08 abc;Save",
+         "---- [Neu 4/abc/1]  @cmbBezTol"},
     };
     const auto journey = [&, this]() -> Journey {
         for (const Case &c : cases) {
@@ -235,8 +238,9 @@ TEST_P(Specifications, TellWhatCannotBeReadOrWritten) {
         go("pick Alpha");
         EXPECT_EQ(control<QComboBox>(screenName, "cmbBezTol")->currentIndex(), 1)
             << "the one whose fields are shown";
+        go("delete? yes");
         expectMissing("Tol06");
-        go("delete? yes;Delete;New;txtTolBez=X");
+        go("Delete;New;txtTolBez=X");
         expectMissing("Tol05");
         go("tab");
         expectMissing("Tol03");

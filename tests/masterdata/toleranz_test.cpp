@@ -128,6 +128,7 @@ TEST_F(Specification, IsWrittenWholeOrNotAtAll) {
     EXPECT_EQ(rows(), QStringList{id + "  8 2.5 0  "});
     toleranzLöschen(key);
     EXPECT_EQ(rows(), QStringList());
+    EXPECT_THROW(toleranzÄndern(key, good), Fehler) << "gone meanwhile";
 }
 
 } // namespace
