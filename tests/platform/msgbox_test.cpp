@@ -1,5 +1,4 @@
 // Real message boxes: which button the keyboard presses, and how the text is shown.
-
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -19,46 +18,40 @@ TEST(MsgBox, KeysAnswerByTheFlags) {
         int flags;
         Qt::Key key;
         int answer;
+        QMessageBox::Icon icon = QMessageBox::NoIcon;
+        bool stays = false; // until a button is pressed
     } cases[] = {
-        {OKOnly, Qt::Key_Return, OK},
-        {OKOnly, Qt::Key_Escape, OK},
+        {OKOnly | Information, Qt::Key_Return, OK, QMessageBox::Information},
+        {OKOnly | Critical, Qt::Key_Escape, OK, QMessageBox::Critical},
         {YesNo, Qt::Key_Enter, Yes},
-        {YesNo | SecondButtonDefault | Exclamation, Qt::Key_Enter, No},
+        {YesNo | SecondButtonDefault | Exclamation, Qt::Key_Enter, No, QMessageBox::Warning},
+        {YesNo, Qt::Key_Escape, Yes, QMessageBox::NoIcon, true},
         {YesNoCancel | ThirdButtonDefault, Qt::Key_Enter, Cancel},
         {YesNoCancel, Qt::Key_Escape, Cancel},
-        {OKCancel | Question, Qt::Key_Return, OK},
+        {OKCancel | Question, Qt::Key_Return, OK, QMessageBox::Question},
         {OKCancel, Qt::Key_Escape, Cancel},
         {RetryCancel, Qt::Key_Escape, Cancel},
         {AbortRetryIgnore | SecondButtonDefault, Qt::Key_Return, Retry},
+        {AbortRetryIgnore, Qt::Key_Escape, Abort, QMessageBox::NoIcon, true},
         {OKOnly | SecondButtonDefault, Qt::Key_Return, OK}, // no such button
     };
     for (const auto &c : cases) {
-        QString shown;
+        SCOPED_TRACE(testing::Message() << c.flags << ' ' << c.key);
         QTimer::singleShot(0, [&] {
             auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             ASSERT_TRUE(box);
-            shown = box->text();
+            EXPECT_EQ(box->text().toStdString(), "first\nsecond\nthird <b>");
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            EXPECT_EQ(box->icon(), c.icon);
+            EXPECT_EQ(box->windowTitle().toStdString(), "Title");
             QTest::keyClick(box, c.key);
-        });
-        EXPECT_EQ(msgBox("first\rsecond\r\nthird <b>", c.flags, "Title"), c.answer)
-            << c.flags << ' ' << c.key;
-        EXPECT_EQ(shown, "first\nsecond\nthird <b>");
-    }
-}
-
-TEST(MsgBox, AYesNoQuestionMustBeAnswered) {
-    for (const int flags : {int(YesNo), int(AbortRetryIgnore)}) {
-        QTimer::singleShot(0, [] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            ASSERT_TRUE(box);
-            QTest::keyClick(box, Qt::Key_Escape);
-            box->close();
-            EXPECT_TRUE(box->isVisible());
+            if (c.stays)
+                box->close();
+            EXPECT_EQ(box->isVisible(), c.stays);
             if (box->isVisible())
                 box->buttons().at(0)->click();
         });
-        const int answer = msgBox("?", flags, "Title");
-        EXPECT_EQ(answer, flags == YesNo ? Yes : Abort);
+        EXPECT_EQ(msgBox("first\rsecond\r\nthird <b>", c.flags, "Title"), c.answer);
     }
 }
 

@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+
+#include "cases.h"
+
 namespace support {
 
 Boxes::Boxes() {
@@ -11,13 +16,11 @@ Boxes::Boxes() {
 Boxes::~Boxes() {
     platform::setBoxAnswerer({});
     for (const Expected &missing : mExpected)
-        ADD_FAILURE() << "this box did not come: " << missing.text.toStdString();
+        ADD_FAILURE() << "this box did not come: " << missing.text;
 }
 
 bool Boxes::Expected::matches(const platform::Box &box) const {
-    const bool sameText =
-        text.endsWith(QString("…")) ? box.text.startsWith(text.chopped(1)) : box.text == text;
-    return sameText;
+    return text.endsWith(QString("…")) ? box.text.startsWith(text.chopped(1)) : box.text == text;
 }
 
 void Boxes::expect(const QString &text, int answer, std::function<void()> meanwhile) {
@@ -28,20 +31,29 @@ void Boxes::expect(const QString &text, const QString &title, int flags, int ans
     mExpected.push_back({text, title, flags, answer, {}});
 }
 
+void Boxes::expectNext(const QString &text, const QString &title, int flags, int answer,
+                       std::function<void()> meanwhile) {
+    mExpected.push_back({text, title, flags, answer, std::move(meanwhile), true});
+}
+
 void Boxes::allow(const QString &text, int answer) {
     mAllowed.push_back({text, {}, -1, answer, {}});
 }
 
 int Boxes::answer(const platform::Box &box) {
     mSeen.push_back(box);
-    for (auto it = mExpected.begin(); it != mExpected.end(); ++it) {
-        if (!it->matches(box))
-            continue;
-        const Expected expected = *it;
-        mExpected.erase(it);
+    const auto due = [&] {
+        bool first = true; // of those in order
+        return std::find_if(mExpected.begin(), mExpected.end(), [&](const Expected &awaited) {
+            return (!awaited.inOrder || std::exchange(first, false)) && awaited.matches(box);
+        });
+    }();
+    if (due != mExpected.end()) {
+        const Expected expected = *due;
+        mExpected.erase(due);
         if (expected.flags >= 0) {
-            EXPECT_EQ(box.flags, expected.flags) << box.text.toStdString();
-            EXPECT_EQ(box.title.toStdString(), expected.title.toStdString());
+            EXPECT_EQ(box.flags, expected.flags) << box.text;
+            EXPECT_EQ(box.title, expected.title);
         }
         if (expected.meanwhile)
             expected.meanwhile();
@@ -51,8 +63,8 @@ int Boxes::answer(const platform::Box &box) {
         if (allowed.matches(box))
             return allowed.answer;
     }
-    ADD_FAILURE() << "unexpected box: \"" << box.title.toStdString() << "\" \""
-                  << box.text.toStdString() << '"';
+    ADD_FAILURE() << "unexpected box: \"" << box.title << "\" \"" << box.text << "\" " << box.flags
+                  << (mExpected.empty() ? QString() : "; awaited: " + mExpected.front().text);
     return (box.flags & 15) == platform::YesNo ? platform::No : platform::OK;
 }
 

@@ -19,8 +19,11 @@ class Boxes {
     Boxes(const Boxes &) = delete;
     Boxes &operator=(const Boxes &) = delete;
 
-    /// The next unexplained box whose text is (or, with a "…" at its end, begins with) this one.
-    /// Expected boxes may come in any order. `meanwhile` runs while the box is open.
+    /// This box comes next, after those that are expected so before it. `meanwhile` runs while it
+    /// is open. A text with a "…" at its end needs to begin the box's own.
+    void expectNext(const QString &text, const QString &title, int flags, int answer = platform::OK,
+                    std::function<void()> meanwhile = {});
+    /// In any order; what remains of these becomes expectNext.
     void expect(const QString &text, int answer = platform::OK,
                 std::function<void()> meanwhile = {});
     /// The same with everything that a person sees.
@@ -40,6 +43,7 @@ class Boxes {
         int flags = -1;
         int answer = platform::OK;
         std::function<void()> meanwhile;
+        bool inOrder = false;
         bool matches(const platform::Box &box) const;
     };
     int answer(const platform::Box &box);

@@ -1,6 +1,9 @@
 // A person's way through the program, written down in order. The program waits deep inside its own
 // loops, so a journey is a coroutine: co_await until(...) lets the program run, and the journey
 // goes on, inside whatever pumps then, as soon as the condition holds.
+//
+// A trap of GCC 12: a temporary with a destructor, a lambda with captures say, that stands inside
+// `co_await f(...)` may be destroyed twice. Bind the Until, or the Journey, to a name first.
 #pragma once
 
 #include <coroutine>

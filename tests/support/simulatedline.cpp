@@ -19,8 +19,8 @@ class SimulatedLine::Device : public SerialDevice {
         discard();
     }
     void write(const QByteArray &bytes) override {
-        mLine.mStand.receive(std::string_view(bytes.constData(), size_t(bytes.size())),
-                             mLine.mClock.elapsed());
+        mLine.mFarEnd->receive(std::string_view(bytes.constData(), size_t(bytes.size())),
+                               mLine.mClock.elapsed());
     }
     QByteArray readAll() override {
         collect();
@@ -35,7 +35,7 @@ class SimulatedLine::Device : public SerialDevice {
 
   private:
     void collect() {
-        mLine.mArrived += QByteArray::fromStdString(mLine.mStand.take(mLine.mClock.elapsed()));
+        mLine.mArrived += QByteArray::fromStdString(mLine.mFarEnd->take(mLine.mClock.elapsed()));
     }
 
     SimulatedLine &mLine;
@@ -48,9 +48,9 @@ SimulatedLine::SimulatedLine(TestClock &clock) : mClock(clock) {
             throw Fehler(fehlernummer::NoSuchPort, {"fehlt", "missing"});
         return std::make_unique<Device>(*this);
     });
-    mClock.nextOutside = [this] { return mStand.nextEvent(); };
+    mClock.nextOutside = [this] { return mFarEnd->nextEvent(); };
     mClock.outside = [this] {
-        const std::string bytes = mStand.take(mClock.elapsed());
+        const std::string bytes = mFarEnd->take(mClock.elapsed());
         if (mPlugged)
             mArrived += QByteArray::fromStdString(bytes);
     };
@@ -62,8 +62,8 @@ SimulatedLine::~SimulatedLine() {
 }
 
 simulator::Stand &SimulatedLine::stand() {
-    mStand.advance(mClock.elapsed());
-    return mStand;
+    mStand.stand.advance(mClock.elapsed());
+    return mStand.stand;
 }
 
 void SimulatedLine::unplug() {

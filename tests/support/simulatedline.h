@@ -1,10 +1,10 @@
-// The simulated stand behind COM1, on virtual time.
+// The line behind COM1, on virtual time; the simulated stand answers unless a test plays the bytes.
 #pragma once
 
 #include <QByteArray>
 
+#include "farend.h"
 #include "serial.h"
-#include "stand.h"
 #include "testclock.h"
 
 namespace support {
@@ -18,6 +18,8 @@ class SimulatedLine {
 
     /// The stand, brought up to the present.
     simulator::Stand &stand();
+    /// Another one answers instead of the stand.
+    void connect(FarEnd &other) { mFarEnd = &other; }
     /// A line that is unplugged while open is lost; plugged again, it can be opened anew.
     void unplug();
     void plug() { mPlugged = true; }
@@ -28,7 +30,8 @@ class SimulatedLine {
     class Device;
 
     TestClock &mClock;
-    simulator::Stand mStand;
+    StandEnd mStand;
+    FarEnd *mFarEnd = &mStand;
     QByteArray mArrived;
     bool mPlugged = true;
     bool mOccupied = false;

@@ -1,13 +1,8 @@
 #include "workplace.h"
 
-#include <QDir>
-
 #include "auswahl.h"
 #include "controller.h"
-#include "einlauf.h"
 #include "interface.h"
-#include "runtime.h"
-#include "scripts.h"
 #include "session.h"
 #include "sprache.h"
 #include "start.h"
@@ -16,75 +11,17 @@ namespace support {
 
 using namespace platform;
 
-Workshop::Workshop()
-    : previousDirectory(QDir::currentPath()), clock(TestClock::install()), line(clock) {
-    QDir::setCurrent(directory.path());
-    setNumberLocale(QLocale(QLocale::German, QLocale::Germany));
-    legeDatenbankAn(datenbankName, true);
-    forgetSession();
-    gSprache = 1;
-    gDesktopAktiv = true;
-    controllerVorbereiten();
-    einlaufVorbereiten();
-    setBeeper([this] { ++beeps; });
+// No two are alike, so that a value from another row, column, protocol or direction shows.
+Workplace::Workplace() {
+    for (const char *unlike :
+         {"UPDATE Normalkalibrierdaten SET Offset = 9000, Gain_R = 8000, Gain_L = 9000, VK1_R = 2, "
+          "VK1_L = 3 WHERE NK_ID = 1",
+          "UPDATE Normalkalibrierdaten SET Gain_L = 12490, VK1_L = 1.1 WHERE NK_ID = 2",
+          "INSERT INTO Messwerte_temp (ProtokollID, Prüfschritt, Ist_P_torvena) "
+          "VALUES (9000, '1', 'fremd')"})
+        change(unlike);
 }
 
-Workshop::~Workshop() {
-    setBeeper({});
-    programmAufräumen();
-    QDir::setCurrent(previousDirectory);
-}
-
-void Workshop::forgetSession() {
-    gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
-    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
-    gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
-    gEinlaufzeit = gEinlaufLeistung = 0;
-    gPrüfer.clear();
-    gProduktTitel.clear();
-    gSeriennummer.clear();
-    gNKGerätetyp.clear();
-    gHebelarmDatum = gHebelarmFällig = gKalibrierdatum = {};
-    kundeWählen({}, 0);
-    gerätWählen({}, {});
-    rezeptWählen({});
-    normalZeigen({});
-    datumZeigen({});
-}
-
-QStringList Workshop::column(const QString &sql, const Datenbank::Params &params) {
-    const Recordset rows = gDatenbank.open(sql, params);
-    QStringList values;
-    for (int row = 0; row < rows.count(); ++row)
-        values += rows.at(row, 0).toString();
-    return values;
-}
-
-void Workshop::change(const QString &sql, const Datenbank::Params &params) {
-    Datenbank other;
-    other.openFile(datenbankName);
-    other.execute(sql, params);
-}
-
-void Workshop::setLanguage(int language) {
-    change("UPDATE System SET Sprache = ?", {language});
-    setNumberLocale(language == 1 ? QLocale(QLocale::German, QLocale::Germany)
-                                  : QLocale(QLocale::English, QLocale::UnitedStates));
-}
-
-bool Workshop::english() {
-    return gSprache == 2;
-}
-
-void Workshop::expectBox(const Text &text, int flags, const Text &title, int answer) {
-    boxes.expect(inSprache(text), inSprache(title), flags, answer);
-}
-
-void Workshop::run(Journey journey) {
-    support::run(clock, std::move(journey), [] { gDesktopAktiv = false; });
-}
-
-Workplace::Workplace() = default;
 Workplace::~Workplace() = default;
 
 void Workplace::start() {
@@ -95,12 +32,6 @@ void Workplace::start() {
 
 DemoNames demoNames() {
     return {"Klinikum Ährenfeld", "AEH-001", "Kurzprüfung"};
-}
-
-Journey Workplace::arrive(frm name) {
-    co_await until("screen " + std::to_string(static_cast<int>(name)),
-                   [name] { return inFront(name); });
-    co_await pass(20);
 }
 
 Journey Workplace::logIn() {
@@ -191,17 +122,6 @@ Journey Workplace::measure() {
     co_await select();
     co_await correctZeroPoint();
     co_await newProtocol("Abnahme");
-}
-
-Journey Workplace::settled(const char *step, double speed) {
-    const auto complete = [step, speed] {
-        return inFront(frm::Messen) && text(frm::Messen, "laPrSchritt") == step &&
-               !text(frm::Messen, "txtIST_P_torvena").isEmpty() &&
-               std::abs(CDbl(text(frm::Messen, "txtIST_n_torvena")) - speed) < 0.1;
-    };
-    const Until reached = until(std::string("step ") + step, complete);
-    co_await reached;
-    co_await pass(20);
 }
 
 void Workplace::expectRecipeEnd() {

@@ -1,57 +1,18 @@
-// A whole workplace for a test: a database of its own in a directory of its own, the simulated
-// stand behind the line, virtual time, and the message boxes scripted.
+// A whole workplace for a test: a workshop with the program started, and the roads that journeys
+// have in common.
 #pragma once
 
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include "boxes.h"
-#include "controls.h"
-#include "database.h"
-#include "journey.h"
-#include "simulatedline.h"
-#include "testclock.h"
+#include "way.h"
 
 namespace support {
 
-/// Without screens: database, clock, line, boxes, and a session in German.
-class Workshop : public testing::Test {
-  protected:
-    Workshop();
-    ~Workshop() override;
-
-    /// The session as in a process that has just begun.
-    static void forgetSession();
-    /// Rows of the one column that the statement names.
-    QStringList column(const QString &sql, const Datenbank::Params &params = {});
-    /// Another program writes to the database.
-    static void change(const QString &sql, const Datenbank::Params &params = {});
-    /// The language of the next start, and the number format that goes with it: 1 German, 2
-    /// English.
-    static void setLanguage(int language);
-    static bool english();
-    /// The box to the letter, in the language of the session.
-    void expectBox(const Text &text, int flags, const Text &title, int answer = platform::OK);
-    void run(Journey journey);
-
-    QTemporaryDir directory;
-    QString previousDirectory;
-    TestClock &clock;
-    SimulatedLine line;
-    Boxes boxes;
-    int beeps = 0;
-};
-
 /// With the program started, at its first screen.
-class Workplace : public Workshop {
+class Workplace : public Way {
   protected:
     Workplace();
     ~Workplace() override;
 
     void start();
-    /// Until the screen has the front and has had its activation.
-    static Journey arrive(frm name);
     Journey logIn();
     /// Customer, unit and recipe by what the desktop offers.
     Journey choose(const QString &customer, const QString &ident, const QString &recipe);
@@ -67,8 +28,6 @@ class Workplace : public Workshop {
     Journey newProtocol(const QString &name);
     /// All of the above with the demo customer and the short recipe.
     Journey measure();
-    /// Until the step is measured at this speed and its live values are complete.
-    static Journey settled(const char *step, double speed);
     /// Saves the step at hand. The journey stays where it was: a box may have come.
     static void save() { press(frm::Messen, "pbSpeichern"); }
     void expectRecipeEnd();

@@ -1,0 +1,123 @@
+// The message boxes of the screens to the letter, one row a box: key, flags, titles and texts in
+// both languages. %1, %2 take what a test names in brackets behind the key, "failure(1018)"; a "…"
+// at the end stands for anything.
+#pragma once
+
+#include "msgbox.h"
+
+namespace support {
+
+struct KnownBox {
+    const char *key;
+    int flags;
+    const char *title, *titleEnglish, *german, *english;
+};
+
+namespace boxflags {
+using namespace platform;
+// clang-format off
+inline constexpr KnownBox boxTexts[] = {
+    // failures
+    {"failure", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 - …", "ERROR %1 - …"},
+    {"failed", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  %2 …", "ERROR %1 -  %2 …"},
+    {"noRecord", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  3021 Kein aktueller Datensatz.", "ERROR %1 -  3021 No current record."},
+    {"noNumber", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  13 Typen unverträglich: \"%2\" ist keine Zahl.", "ERROR %1 -  13 Type mismatch: \"%2\" is not a number."},
+    {"noTable", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  3078 Die Tabelle wurde nicht gefunden: no such table: %2", "ERROR %1 -  3078 Table not found: no such table: %2"},
+    {"locked", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  3045 Die Datenbank ist von einem anderen Programm gesperrt. Bitte schließen Sie es.", "ERROR %1 -  3045 The database is locked by another program. Please close it."},
+    {"notOpen", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  3420 Die Datenbank ist nicht geöffnet.", "ERROR %1 -  3420 The database is not open."},
+    {"unreadRow", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 - ( 3021) Kein aktueller Datensatz.", "ERROR %1 - ( 3021) No current record."},
+    {"twoSpecifications", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  3021 Diese Spezifikation gibt es mehrmals.", "ERROR %1 -  3021 There are several specifications of this name."},
+    {"zeroPower", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler 3018 -  11 Division durch Null: Bei 0 W gibt es keine relative Messunsicherheit.", "ERROR 3018 -  11 Division by zero: at 0 W there is no relative uncertainty."},
+    {"lineLost", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler 3002 -  8020 Die Verbindung ist unterbrochen. Bitte prüfen Sie Kabel und Anschluss.", "ERROR 3002 -  8020 The connection is lost. Please check cable and port."},
+    {"portInUse", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler mI 2 -  8005 belegt", "ERROR mSI 2 -  8005 in use"},
+    {"startFailed", Critical, "Fehler", "Error", "Fehler 1002- %1 …", "Error 1002- %1 …"},
+    {"lineFailed", Critical, "Error", "Error", "Error %1- %2 …", "Error %1- %2 …"},
+    {"noPort", Critical, "Error", "Error", "Error 5007- 8002 fehlt", "Error 5007- 8002 missing"},
+    // the desktop, the line and the motor
+    {"end", YesNo + Question, "Programmende", "End Of Program", "Wollen Sie das Programm wirklich beenden?", "Do you really want to terminate the program?"},
+    {"login", Critical, "Anmeldung", "Registration", "Ungültige Anmeldung! Bitte versuchen Sie es noch einmal!", "Invalid registration! Please try it again!"},
+    {"noDirection", Exclamation, "Meldung", "Message", "Sie haben keine Drehrichtung gewählt!\r\nDer Motor kann nicht eingeschaltet werden.", "Please select a direction of rotation for the motor!\r\nIt is not possible to switch the motor on."},
+    {"directionFirst", Exclamation, "Vorbereiten der Messung", "Preparation For The Measurement", "Bitte wählen Sie zuerst eine Motor-Drehrichtung", "Please select a direction of rotation for the motor first!"},
+    {"notRunIn", YesNo + Exclamation + SecondButtonDefault, "Messen starten", "Start The Measurement", "Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung beginnen ?", "The unit under test has not completed the run-up yet!\rDo you still want to start the measurement?"},
+    {"noController", Critical, "Fehlermeldung", "Error Message", "1 - Keine Kommunikation mit dem Controller möglich!", "Communication with the controller is not possible!"},
+    {"motorOn", Critical, "Motor ein", "Motor On", "Fehler", "Error"},
+    {"motorOff", Critical, "Motor aus", "Motor Off", "Fehler", "Error"},
+    {"motorOffAtEnd", Exclamation, "Motor aus", "Motor Off", "Fehler", "Error"},
+    {"motorNotOn", Critical, "Motor ein", "Motor On", "Motor konnte nicht eingeschaltet werden", "It was not possible to switch the motor on."},
+    {"noSettings", Exclamation, "Achtung!", "Attention!", "Die Schnittstellenparameter gibt es nicht. \rBitte korrigieren Sie die Einstellungen!", "The interface settings do not exist . \rPlease correct it!"},
+    {"noSuchPort", Exclamation, "Achtung!", "!Attention!", "Diese Schnittstelle gibt es nicht!\rBitte ändern Sie die Einstellungen", "This interface does not exist!\rChange the settings, please!"},
+    {"parameter", Critical, "Eingabefehler", "Attention", "Mindestens ein Parameter konnte nicht gespeichert werden!", "At least one parameter could not be saved!"},
+    // customers, units
+    {"unitNow", YesNo + Question, "Stammdaten auswählen", "Select Master Data", "Wollen Sie jetzt ein Gerät zu diesem Kunden auswählen?", "Do you want to select a unit for this customer now?"},
+    {"recipeNow", YesNo + Question, "Stammdaten auswählen", "Select Master Data", "Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
+    {"chooseCustomer", Exclamation, "Achtung!", "Attention", "Bitte wählen sie zuerst einen Kunden aus!", "Please select a customer first!"},
+    {"changeCustomer", Exclamation, "Achtung!", "Attention", "Wählen sie zuerst einen Kunden aus!", "Please select a customer first!"},
+    {"changeUnit", Exclamation, "Achtung!", "Attention!", "Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"},
+    {"searchText", Exclamation, "Suchen", "Search", "Bitte geben Sie den Suchtext im Feld Kundenname ein!", "To search, enter the text into the field 'Customer'!"},
+    {"nothingFound", Information, "Suchen", "Search", "Es wurden keine Daten gefunden! ", "No data found! "},
+    {"notHis", Exclamation, "Achtung!", "Attention!", "Kunde besitzt kein Gerät mit dieser ID-Nummer!", "The customer does not have a unit with this ID number!"},
+    {"several", Exclamation, "Achtung!", "Attention!", "Es gibt mehrere Geräte diesen Typs!\rWählen sie zur genauen Bestimmung eine ID-Nummer aus!", "There are several units of this type!\rSelect an ID number in order to exactly define the unit!"},
+    {"saved", Information, "Bestätigung", "MESSAGE", "Daten wurden gespeichert!", "Data have been saved!"},
+    {"changed", Information, "Bestätigung", "MESSAGE", " Daten wurden geändert. ", " Data have been changed!"},
+    {"customerDeleted", Information, "Bestätigung", "Confirmation", "Die Daten wurden gelöscht!", "Data have been deleted!"},
+    {"unitDeleted", Information, "Bestätigung", "Confirmation", "Daten wurden gelöscht!", "Data have been deleted!"},
+    {"noName", Exclamation, "Eingabefehler", "Error", " Keine Daten zum Speichern vorhanden! ", " No data to be saved! "},
+    {"nameTaken", Exclamation, "Eingabefehler", "Error", " Dieser Kunde existiert schon!", " This customer is already existent!"},
+    {"unitIncomplete", Exclamation, "Eingabefehler", "Error", "Bitte ergänzen Sie %1", "Input is incomplete! Please complete!"},
+    {"identTaken", Exclamation, "MESSAGE!", "MESSAGE!", "Diese Identifikationsnummer ist bereits vergeben!", "This identification number has already been allocated!"},
+    // specifications
+    {"percent", Critical, "Eingabefehler!", "Input Error!", "Der angegebene Wert liegt außerhalb des gültigen Bereichs!", "Value is not within the permissible interval!"},
+    {"watt", Critical, "Eingabfehler!", "Input Error", "Der angegebene Wert liegt außerhalb des gültigen Bereichs!", "Your indications are out of the permissible intervals!"},
+    {"speed", Critical, "Eingabfehler!", "Input Error!", "Der angegebene Wert liegt außerhalb des gültigen Bereichs!", "The value is not within the permissible interval."},
+    {"double", Critical, "Doppelter Eintrag", "Input Error", "Diese Bezeichnung für eine Toleranz gibt es bereits.\rBitte wählen Sie eine andere!", "This name for a tolerance already exists!\rPlease try again!"},
+    {"incomplete", Exclamation, "Unvollständige Angaben", "Incomlete Data", "Die Daten sind unvollständig.\rBitte vervollständigen Sie ihre Angaben!", "Data are incomplete.\rPlease complete it!"},
+    {"inserted", Information, "Meldung", "Information", "Eingaben wurden gespeichert!", "Input data have been changed!"},
+    {"updated", Information, "Meldung", "Information", "Eingaben wurden gespeichert!", "Data have been saved!"},
+    {"delete?", YesNo + Question, "Löschen", "Delete", "Sollen diese Daten jetzt gelöscht werden?", "Shall data be deleted?"},
+    {"changed?", YesNo + Question, "Änderungen speichern?", "Save changes?", "Wollen Sie die Änderungen speichern?", "Do you want to save the changes?"},
+    {"new?", YesNoCancel + Exclamation, "Daten speichern?", "Save data?", "Wollen Sie die Daten speichern?\rKlicken Sie auf Abbrechen, um ihre Eingabe zu beenden!", "Shall data be saved?\rPush 'Cancel' to determine your input!"},
+    {"leaveEdit?", YesNo + Exclamation, "Änderungen speichern?", "Save changes?", "Sollen die Änderungen gespeichert werden?", "Shall changes be saved?"},
+    {"leaveNew?", YesNo + Exclamation, "Daten speichern?", "Save data?", "Sollen die Daten vor Verlassen den Formulars gespeichert werden?", "Shall data be saved before exit?"},
+    {"taken", Critical, "Meldung", "Information", "Diese Bezeichnung für eine Toleranz ist bereits vorhanden.", "That name for a tolerance already exists."},
+    {"combination", Information, "Information", "Information", "Diese Kombination von Watt und Prozent ist bereits vorhanden. Sie heißt %1", "This combination of Watt and percent already exists: %1"},
+    {"interval", Critical, "Eingabefehler", "Input Error", "Die Angaben befinden sich außerhalb des erlaubten Intervals!!\rBitte überprüfen Sie Ihre Eingabe.", "Your indications are out of the permissible intervals!!\rPlease check your entry."},
+    // recipes
+    {"noRecipeFound", Information, "Rezepte", "Recipes", "Es wurden keine Daten gefunden! ", "No data found! "},
+    {"deleteRecipe", YesNo + Question, "Achtung!", "ATTENTION", "Wollen sie die Tabelle %1 wirklich löschen?", "Do you really want to delete the table '%1'?"},
+    {"saveName", YesNo + Question, "Message!", "MESSAGE!", "Wollen sie diesen Rezeptnamen speichern?", "Do you want to save this recipe name?"},
+    {"recipeTaken", Critical, "Message", "MESSAGE", " Diesen Rezeptnamen gibt es bereits!\rWählen Sie einen anderen!", "This recipe name is already existent!\rChoose another name!"},
+    {"discard", YesNo + Question, "Message", "MESSAGE", "Rezept wurde nicht gespeichert!\rSollen die Daten verworfen werden? ", "Recipe has not been saved! \rShall data be discarded?"},
+    {"saveSteps", YesNo + Question, "Message!", "Message!", "Änderungen in den Prüfschritten speichern?", "Do you want to save the changes in the test steps?"},
+    {"newIncomplete", Critical, "Achtung!", "Attention!", "Die Angaben zum aktuellen Prüfschritt sind unvollständig!\rBitte ergänzen Sie%1!", "The informations about the actual test step are incomplete!"},
+    {"editIncomplete", Exclamation, "Achtung!", "Attention!", "Die Angaben zum aktuellen Prüfschritt sind unvollständig!\rBitte ergänzen Sie%1!", "The information about the actual step are incomplete!\rPlease complete!"},
+    {"newSpeedNumber", Critical, "Eingabefehler", "Input Error", "Drehzahl muss ein nummerischer Wert sein!", "Number of revolutions has to be a numeric value!"},
+    {"newSpeedRange", Critical, "Eingabefehler", "Input Error", "Drehzahl liegt außerhalb des gültigen Bereiches.", "Number of revolution is outside the valid range."},
+    {"newPowerNumber", Critical, "Eingabefehler", "Input Error", "Leistung muss ein nummerischer Wert sein!", "Power has to be a numeric value!"},
+    {"newPowerRange", Critical, "Eingabefehler", "Input Error", "Leistung liegt außerhalb des gültigen Bereiches", "Power is outside the valid range!"},
+    {"editSpeedNumber", Exclamation, "Eingabefehler", "Input Error", "Drehzahl muss ein nummerischer Wert sein!", "Number of revolutions must be a numerical value!"},
+    {"editSpeedRange", Exclamation, "Eingabefehler", "Input Error", "Drehzahl liegt außerhalb des gültigen Bereiches!", "Number of revolutions is outside the valid range!"},
+    {"editPowerNumber", Exclamation, "Eingabefehler!", "Input Error!", "Leistung muss ein nummerischer Wert sein!", "Power must be a numerical value!"},
+    {"editPowerRange", Exclamation, "Eingabefehler!", "Input Error!", "Leistung liegt außerhalb des gültigen Bereiches!", "Power is outside the valid range!"},
+    {"torque", OKOnly, "Drehmoment<=60Nm", "Torque<=60Nm", "Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!", "The permissible torque has been exeeded!\r\nPlease enter other values!"},
+    // zero point and measurement
+    {"noStream", Exclamation, "Meldung", "Message", "Nach 15 Sek kein Empfang", "No reception after 15 sec!"},
+    {"correctionOff", Exclamation, "Meldung", "Message", "Statische Nullpunkt-Korrektur abgebrochen", "Static zero-point correction has been discontinued!"},
+    {"correctionAborted", Critical, "Fehler", "Error", "Die Nullpunkt-Korrektur wurde abgebrochen!", "The zero-point correction has been discontinued!"},
+    {"refused", Critical, "Fehler", "Error", "Fehler im Gerät oder in der Kommunikation", "Error in the unit under test, or communication error"},
+    {"emptyProtocol", Information, "Beenden", "Message", "Protokoll enthält keine Daten und wird gelöscht!", "Protocol does not contain data and is deleted!"},
+    {"recipeEnd", Information, "Meldung!", "Message!", "Das Rezept ist abgearbeitet!\rBeenden Sie das Messen oder fahren Sie mit freier Eingabe fort!", "The recipe has been run!\rTerminate the measuring, or continue with Free Input!"},
+    {"freeSpeedNumber", Critical, "Eingabefehler", "Input Error", "Drehzahl muss ein nummerischer Wert sein!", "Number of revolutions must be a numeric value!"},
+    {"freeSpeedRange", Critical, "Eingabefehler", "Input Error", "Drehzahl liegt außerhalb des gültigen Bereiches", "The permissible number of revolutions has been exeeded!"},
+    {"freePowerNumber", Critical, "Eingabefehler", "Input Error", "Leistung muss ein nummerischer Wert sein!", "Power must be a numeric value!"},
+    {"freePowerRange", Critical, "Eingabefehler", "Input Error", "Leistung liegt außerhalb des gültigen Bereiches", "Permissible power has been exeeded!"},
+    {"freeTorque", Critical, "Drehmoment<=60Nm", "Torque<=60Nm", "Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!", "The permissible torque has been exeeded!\r\nPlease enter other values!"},
+    {"readingNumber", Exclamation, "Fehler", "Fehler", "Eingabe muss ein nummerischer Wert sein!", "Input must be a numerical value!"},
+    {"noData", Critical, "Kommunikationsfehler", "Communication Error", "Keine Daten bei ca. 3 x 6 Runden!", "No data at ca. 3 x 6 rounds!"},
+    {"noReception", Exclamation, "Meldung", "Message", "Nach 18 Sek kein Empfang", "No reception after 18 sec"},
+};
+// clang-format on
+} // namespace boxflags
+
+using boxflags::boxTexts;
+
+} // namespace support
