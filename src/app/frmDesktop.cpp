@@ -150,13 +150,16 @@ void frmDesktop::verdrahten() {
 void frmDesktop::Form_Load() try {
     // What kept the database from opening at the first screen may have been mended since.
     if (!gDatenbank.isOpen()) {
-        if (fnc_DatenbankÖffnen() == 1) {
+        if (fnc_DatenbankÖffnen(true) == 1) {
             meldung({"Initialisierungsfehler!", "Initializing Error!"}, Critical,
                     {"Fehler", "Error"});
         }
         if (gDatenbank.isOpen())
-            systemLesen();
+            systemNachlesen();
     }
+    const bool endprüfung = endprüfungFreigegeben(); // whatever the reads behind it may find
+    ui.pbReset->setVisible(endprüfung);
+    ui.pbEndprüf->setVisible(endprüfung);
     ohneFehlendeSpalte([] {
         const InterfaceZeile leitung = interfaceLesen();
         MSComm1.setCommPort(leitung.port);
@@ -173,7 +176,6 @@ void frmDesktop::Form_Load() try {
     gUpdateBeimBeenden = false;
     letztesNormalLesen();
     ui.txtKalDat->setText(datumText(gKalibrierdatum));
-    datumZeigen(datumText(now().date()));
     ohneFehlendeSpalte([] {
         if (!fnc_HebelarmDatumLesen()) {
             throw Fehler(fehlernummer::NoCurrentRecord, {"Es gibt noch keine Hebelarmkalibrierung.",
@@ -181,12 +183,18 @@ void frmDesktop::Form_Load() try {
         }
     });
     normalUndHebelarmZeigen();
-    ui.pbReset->setVisible(endprüfungFreigegeben());
-    ui.pbEndprüf->setVisible(endprüfungFreigegeben());
 } catch (const Fehler &fehler) {
     gDesktopAktiv = true; // the window stays up with what it got, and its waits must end by time
     beschriften();
-    fehlerBox("Fehler D_6002 - ", "ERROR D_6002 - ", fehler);
+    if (fehler.number() == fehlernummer::DatabaseNotOpen)
+        fehlerMerken(fehler); // why it is not was told when it did not open
+    else
+        fehlerBox("Fehler D_6002 - ", "ERROR D_6002 - ", fehler);
+}
+
+// As silent as the first reading.
+void frmDesktop::systemNachlesen() try { systemLesen(); } catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
 }
 
 void frmDesktop::normalUndHebelarmZeigen() {
@@ -230,21 +238,50 @@ void frmDesktop::DesktopButton_Freigeben() {
     ui.pbGerät->setEnabled(regeln.gerät);
     ui.pbBlutdruck->setEnabled(regeln.gerät && exists(frm::Blutdruck));
     ui.pbSecControl->setEnabled(regeln.secControl && exists(frm::SecControl));
-    if (!regeln.ohneKunde)
-        setMessenEnabled(regeln.messen);
+    if (!regeln.ohneKunde) {
+        messenFreigeben(regeln.messen);
+        mKorrekturFehlt = false;
+        infoZeigen();
+    }
+}
+
+void frmDesktop::setMoteinEnabled(bool enabled) {
+    ui.pbMotein->setEnabled(enabled && !gMotorEin);
 }
 
 void frmDesktop::setMessenEnabled(bool enabled) {
-    ui.pbMessen->setEnabled(enabled);
-    ui.mnuStartMessen->setEnabled(enabled);
+    messenFreigeben(enabled);
+    mKorrekturFehlt = !enabled;
+    infoZeigen();
+}
+
+void frmDesktop::messenFreigeben(bool frei) {
+    ui.pbMessen->setEnabled(frei);
+    ui.mnuStartMessen->setEnabled(frei);
+}
+
+void frmDesktop::showMotorInfo(const QString &text) {
+    mMotorInfo = text;
+    infoZeigen();
+}
+
+void frmDesktop::infoZeigen() {
+    QStringList lines{mMotorInfo};
+    if (mKorrekturFehlt)
+        lines += inSprache({"Messen ist gesperrt. Bitte Kunde, Gerät oder Rezept neu wählen.",
+                            "Measuring is locked. Please choose customer, unit or recipe again."});
+    lines.removeAll(QString());
+    ui.laInfo->setText(lines.join('\n'));
 }
 
 void frmDesktop::spracheSetzen(std::int16_t sprache) {
     gSprache = sprache;
     beschriften();
+    infoZeigen();
 }
 
 void frmDesktop::Form_Activate() {
+    datumZeigen(datumText(now().date()));
     if (gMessStatus == messstatus::Ende || gMessStatus == messstatus::Verweigert)
         ui.pbDrehR->setEnabled(false);
     switch (std::exchange(gDesktopFolge, std::int16_t{0})) {
@@ -282,9 +319,17 @@ bool frmDesktop::Form_QueryUnload() {
     }
     if (mAntwort == No)
         return false;
-    if (gMotorEin)
-        pbMotaus_Click();
-    return true;
+    if (!gMotorEin)
+        return true;
+    pbMotaus_Click();
+    if (!gMotorEin)
+        return true;
+    return meldung({"Der Motor konnte nicht ausgeschaltet werden und dreht sich vielleicht noch.\r"
+                    "Soll das Programm trotzdem beendet werden?",
+                    "The motor could not be switched off and may still be turning.\r"
+                    "Shall the program be terminated all the same?"},
+                   YesNo + Exclamation + SecondButtonDefault,
+                   {"Programmende", "End Of Program"}) == Yes;
 }
 
 void frmDesktop::Form_Unload() {

@@ -19,14 +19,14 @@ class frmDesktop : public Screen, public Front {
     void Seriennummer_ermitteln() { mSeriennummer.Seriennummer_ermitteln(); }
 
     // Front
-    void setMoteinEnabled(bool enabled) override { ui.pbMotein->setEnabled(enabled); }
+    void setMoteinEnabled(bool enabled) override;
     void setMotausEnabled(bool enabled) override { ui.pbMotaus->setEnabled(enabled); }
     void setDrehREnabled(bool enabled) override { ui.pbDrehR->setEnabled(enabled); }
     void setMessenEnabled(bool enabled) override;
     void showDrehrichtung(const QString &wort) override { ui.lbDrehrichtung->setText(wort); }
     void showEinlauf(const QString &rest) override { ui.lbEinlauf->setText(rest); }
     QString drehrichtung() const override { return ui.lbDrehrichtung->text(); }
-    void showMotorInfo(const QString &text) override { ui.laInfo->setText(text); }
+    void showMotorInfo(const QString &text) override;
     void enableFront() override { enable(); }
     void disableFront() override { disable(); }
     void focusBeenden() override { ui.pbBeenden->setFocus(); }
@@ -42,6 +42,9 @@ class frmDesktop : public Screen, public Front {
     void verdrahten();
     void öffnet(QPushButton *button, QAction *action, frm ziel, void (frmDesktop::*weg)());
     void beschriften();
+    void systemNachlesen();
+    void messenFreigeben(bool frei);
+    void infoZeigen();
     void normalUndHebelarmZeigen();
     void auswahlZeigen();
     void spracheSetzen(std::int16_t sprache);
@@ -62,4 +65,6 @@ class frmDesktop : public Screen, public Front {
     Ui::frmDesktop ui;
     Seriennummer mSeriennummer;
     int mAntwort = 0; ///< to the question whether the program shall end
+    QString mMotorInfo;
+    bool mKorrekturFehlt = false; ///< the zero-point correction failed: measuring is locked
 };

@@ -28,9 +28,6 @@ void frmDesktop::pbMotein_Click() try {
     const QString wirdEin = inSprache({"Motor wird eingeschaltet", "Motor is switched on"});
     showMotorInfo(wirdEin);
     if (fnc_BefehlSenden("E", gDrehrichtung, "60")) {
-        gMotorEin = true;
-        ui.pbMotein->setEnabled(false);
-        ui.pbMotaus->setEnabled(true);
         ui.pbMotaus->setFocus(); // left alone it would fall on the button that ends the program
         einlaufStarten();
         showMotorInfo(wirdEin);
@@ -38,11 +35,10 @@ void frmDesktop::pbMotein_Click() try {
         meldung({"Motor konnte nicht eingeschaltet werden",
                  "It was not possible to switch the motor on."},
                 Critical, {"Motor ein", "Motor On"});
-        ui.pbMotein->setEnabled(true);
+        setMoteinEnabled(true);
         ui.pbMotein->setFocus();
-        ui.pbDrehR->setEnabled(true);
-        ui.pbMotaus->setEnabled(false);
-        gMotorEin = false;
+        ui.pbDrehR->setEnabled(!gMotorEin);
+        setMotausEnabled(gMotorEin);
         showMotorInfo({});
     }
     enable();
@@ -59,8 +55,7 @@ void frmDesktop::pbMotaus_Click() try {
     showMotorInfo(inSprache({"Motor wird ausgeschaltet!", "Motor is switched off!"}));
     tiEinlauf.setEnabled(false);
     if (fnc_BefehlSenden("E", gDrehrichtung, "00")) {
-        gMotorEin = false;
-        ui.pbMotein->setEnabled(true);
+        setMoteinEnabled(true);
         ui.pbMotein->setFocus();
         ui.pbDrehR->setEnabled(true);
         ui.pbMotaus->setEnabled(false);
@@ -76,6 +71,7 @@ void frmDesktop::pbMotaus_Click() try {
     }
     enable();
 } catch (const Fehler &fehler) {
+    setMotausEnabled(gMotorEin);
     enable();
     fehlerBox("Fehler 6004- ", "ERROR 6004 - ", fehler);
 }
@@ -94,14 +90,14 @@ void frmDesktop::pbMessen_Click() {
             gMessenFreigabe = false;
             return;
         }
-        if (gDrehrichtung == 0) {
-            meldung({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
-                     "Please select a direction of rotation for the motor first!"},
-                    Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
-            gMessenFreigabe = true;
-            ::screen(frm::MotorDrehR).showModal();
-            return;
-        }
+    }
+    if (gDrehrichtung == 0) { // also when it was taken back since the running-in
+        meldung({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
+                 "Please select a direction of rotation for the motor first!"},
+                Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
+        gMessenFreigabe = true;
+        ::screen(frm::MotorDrehR).showModal();
+        return;
     }
     gEinlaufStatus = einlaufstatus::NichtBegonnen;
     tiEinlauf.setEnabled(false);

@@ -6,6 +6,7 @@
 #include "database.h"
 #include "einlauf.h"
 #include "fehler.h"
+#include "messablauf.h"
 #include "msgbox.h"
 #include "screens.h"
 #include "screentable.h"
@@ -44,6 +45,13 @@ void reportUncaught(const std::exception &problem) {
         fehlerBox("Fehler - ", "ERROR - ", Fehler(0, {problem.what(), problem.what()}));
 }
 
+/// An empty head goes as it does when the operator leaves.
+void messungStillVerlassen() try {
+    messablauf().beimVerlassen(Weggang::Still);
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
+}
+
 } // namespace
 
 void programmStarten() {
@@ -63,8 +71,10 @@ void beendenOhneFrage() {
             nochmals.onTick = beendenOhneFrage;
         return;
     }
-    if (gDesktopAktiv && gMotorEin)
+    if (gMotorEin)
         motorStillschweigendAus();
+    if (loaded(frm::Messen) && !gMessungLäuft)
+        messungStillVerlassen();
     gDesktopAktiv = false;
     gDatenbank.close();
     QCoreApplication::exit(0);

@@ -4,6 +4,7 @@
 
 #include "fehler.h"
 #include "front.h"
+#include "motorbedienung.h"
 #include "msgbox.h"
 #include "runtime.h"
 #include "screens.h"
@@ -28,6 +29,7 @@ constexpr int resetMilliseconds = 20'000;
 constexpr int frameTries = 3;
 constexpr int requestTries = 2;
 constexpr std::uint8_t leverArmMode = 7;
+constexpr auto standstillDigits = QLatin1String("0000");
 
 bool exchangeRuns = false;
 
@@ -82,14 +84,16 @@ class ExchangePaused {
     bool mRan;
 };
 
-/// Boxes of this line exist in one language only.
+const Text boxTitle{"Error", "Error"};
+
+/// Most boxes of this line exist in one language only.
 void errorBox(const QString &tag, const Fehler &fehler) {
     stopTimer1(fehler);
     fehlerMerken(fehler);
     if (gKeineMeldung >= 1)
         return;
     const ExchangePaused paused;
-    msgBox(tag + Str(fehler.number()) + ' ' + gFehlerText, Critical, "Error");
+    msgBox(tag + Str(fehler.number()) + ' ' + gFehlerText, Critical, boxTitle.english);
 }
 
 void tellStatMessen(const QString &text) {
@@ -120,21 +124,27 @@ bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QStr
             MSComm1.setPortOpen(true);
         send("-");
         longDelay();
-        if (!fnc_FrameSenden(frameText(command, direction, value))) {
+        const QString frame = frameText(command, direction, value);
+        if (!fnc_FrameSenden(frame)) {
             if (gKeineMeldung < 1) {
                 const ExchangePaused paused;
                 meldung({"1 - Keine Kommunikation mit dem Controller möglich!",
                          "Communication with the controller is not possible!"},
                         Critical, {"Fehlermeldung", "Error Message"});
             }
-            front().setMoteinEnabled(true);
+            front().setMoteinEnabled(!gMotorEin);
             return false;
         }
+        const bool stop = frame.endsWith(standstillDigits);
+        if (!stop)
+            welleLäuftAn();
         send(">");
         longDelay();
         send(">");
         longDelay();
         send(">");
+        if (stop)
+            welleSteht();
         return true;
     } catch (const Fehler &fehler) {
         errorBox("Error 5007-", fehler);
@@ -253,7 +263,7 @@ bool fnc_MotorAus() {
             done = fnc_BefehlSenden("A", gDrehrichtung, "00");
         }
         if (done) {
-            front().setMoteinEnabled(true);
+            front().setMoteinEnabled(true); // also when it has been off all the time
             front().setMotausEnabled(false);
             send("-");
             countedDelay(10 * kurzeVerzögerung);
@@ -303,7 +313,7 @@ std::int16_t fnc_BetriebsartLesen() {
         }
     } catch (const Fehler &fehler) {
         stopTimer1(fehler);
-        fehlerBox("Fehler 4000 - ", "ERROR 4000 - ", fehler);
+        fehlerBox({"Fehler 4000 - ", "ERROR 4000 - "}, fehler, boxTitle);
     }
     return 0;
 }
@@ -350,7 +360,7 @@ bool fnc_Reset() {
         }
     } catch (const Fehler &fehler) {
         stopTimer1(fehler);
-        fehlerBox("Fehler 4001 - ", "ERROR 4001 - ", fehler);
+        fehlerBox({"Fehler 4001 - ", "ERROR 4001 - "}, fehler, boxTitle);
     }
     return false;
 }

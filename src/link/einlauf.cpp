@@ -23,7 +23,7 @@ void tick() {
         if (gFormStatus > 0)
             gFormStatus = formstatus::Korrektur;
         platform::beep();
-        screen(frm::Meldung1).show();
+        screen(frm::Meldung1).showNotice();
     }
     if (gFormStatus == 0) {
         front().showEinlauf(gEinlaufRestText);

@@ -20,11 +20,23 @@ double difference(const QString &a, const QString &b) {
     return (hundredths(a) - hundredths(b)) / 100;
 }
 
+double vorhanden(const std::optional<double> &value) {
+    if (!value) {
+        throw Fehler(fehlernummer::InvalidUseOfNull,
+                     {"Unzulässige Verwendung von Null: In der Tabelle der Messunsicherheiten "
+                      "fehlt ein Wert.",
+                      "Invalid use of Null: a value is missing in the table of uncertainties."});
+    }
+    return *value;
+}
+
 /// The row that applies at `value`, or none.
 const Unsicherheit *rowFor(const Unsicherheiten &rows, double value) {
     for (const Unsicherheit &row : rows) {
-        if (value <= row.grenze)
+        if (value <= vorhanden(row.grenze)) {
+            vorhanden(row.wert);
             return &row;
+        }
     }
     return nullptr;
 }
@@ -56,10 +68,10 @@ void leistungBewerten(Urteil &urteil, SchrittTexte &texte, Spezifikation spezifi
     double relative = 0;
     double absolute = 0;
     if (const Unsicherheit *row = rowFor(muLeistung, Val(texte.soll_P))) {
-        relative = row->wert / 100;
-        urteil.muProz = row->wert;
+        relative = *row->wert / 100;
+        urteil.muProz = *row->wert;
         if (row == &muLeistung.front()) {
-            absolute = row->wert;
+            absolute = *row->wert;
             const double base = Val(texte.soll_P);
             if (base == 0) {
                 throw Fehler(fehlernummer::DivisionByZero,
@@ -67,7 +79,7 @@ void leistungBewerten(Urteil &urteil, SchrittTexte &texte, Spezifikation spezifi
                               "Messunsicherheit.",
                               "Division by zero: at 0 W there is no relative uncertainty."});
             }
-            urteil.muProz = row->wert * 100 / base;
+            urteil.muProz = *row->wert * 100 / base;
         }
     }
     texte.ist_n_ergom = "0";
@@ -84,8 +96,8 @@ void drehzahlBewerten(Urteil &urteil, const SchrittTexte &texte, const Spezifika
                       const Unsicherheiten &muDrehzahl) {
     double relative = 0;
     if (const Unsicherheit *row = rowFor(muDrehzahl, Val(texte.soll_n))) {
-        relative = row->wert / 100;
-        urteil.muProz = row->wert;
+        relative = *row->wert / 100;
+        urteil.muProz = *row->wert;
     }
     const double uncertainty = hundredths(texte.ist_n_ergom) / 100 * relative;
     const double deviation = std::fabs(difference(texte.ist_n_ergom, texte.ist_n_torvena));

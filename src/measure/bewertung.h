@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 /// The specification of the session.
@@ -19,10 +20,11 @@ struct Spezifikation {
     std::int16_t grenzAbw = 0; ///< permissible deviation of speed, 1/min
 };
 
-/// A row of the uncertainty tables: applies up to `grenze` (W or 1/min).
+/// A row of the uncertainty tables: applies up to `grenze` (W or 1/min). What the table leaves open
+/// is nothing, not 0.
 struct Unsicherheit {
-    double grenze = 0;
-    double wert = 0; ///< %; in the first row for power W
+    std::optional<double> grenze;
+    std::optional<double> wert; ///< %; in the first row for power W
 };
 using Unsicherheiten = std::vector<Unsicherheit>;
 
@@ -44,12 +46,13 @@ struct Urteil {
 };
 
 /// Judges the power of the working standard against the set-point. Writes "0" to ist_n_ergom.
-/// Raises TypeMismatch for a text that is no number, DivisionByZero at 0 W in the first row.
+/// Raises TypeMismatch for a text that is no number, InvalidUseOfNull for an uncertainty that is
+/// missing, DivisionByZero at 0 W in the first row.
 void leistungBewerten(Urteil &urteil, SchrittTexte &texte, Spezifikation spezifikation,
                       const Unsicherheiten &muLeistung);
 
 /// Judges the reading of the ergometer against the speed of the working standard. Raises
-/// TypeMismatch.
+/// TypeMismatch and InvalidUseOfNull.
 void drehzahlBewerten(Urteil &urteil, const SchrittTexte &texte, const Spezifikation &spezifikation,
                       const Unsicherheiten &muDrehzahl);
 

@@ -154,11 +154,9 @@ void frmMessen::ersteAktivierung() {
 bool frmMessen::Form_QueryUnload() try {
     if (fnc_BefehlSenden("E", gDrehrichtung, "00"))
         front().setDrehREnabled(true);
-    else
-        front().setMotausEnabled(true); // the motor may still run, and the operator must reach it
     gMessStatus = messstatus::Ende;
     gMessenFreigabe = false;
-    messablauf().beimVerlassen();
+    messablauf().beimVerlassen(Weggang::Ordentlich);
     return true;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 3021 - ", "ERROR 3021 - ", fehler);
@@ -193,7 +191,9 @@ void frmMessen::fnc_MesswerteAnzeigen() {
     mRaster.setRecordset(dataMesswerte);
 }
 
-void frmMessen::fnc_Bewerten() try {
+// False when nothing may be stored. A step of 0 W has no relative uncertainty; its row is stored
+// all the same, with the verdicts of the step before.
+bool frmMessen::fnc_Bewerten() try {
     SchrittTexte texte{ui.txtSoll_n->text(), ui.txtSoll_P->text(), ui.txtIST_n_torvena->text(),
                        ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()};
     if (istLeistungsmessung()) {
@@ -203,11 +203,15 @@ void frmMessen::fnc_Bewerten() try {
     } else {
         drehzahlBewerten(mUrteil, texte, mSpezifikation, unsicherheitDrehzahl());
     }
+    return true;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 3018 - ", "ERROR 3018 - ", fehler);
+    return fehler.number() == fehlernummer::DivisionByZero;
 }
 
 void frmMessen::pbSpeichern_Click() {
+    if (mWerte != Werte::Eigene)
+        return; // a second press, before the button went out
     gMessStatus = messstatus::Speichern;
     fnc_MesswertSpeichern();
     // A row that could not be written leaves the measurement running and the step current.
@@ -216,14 +220,16 @@ void frmMessen::pbSpeichern_Click() {
 }
 
 void frmMessen::fnc_MesswertSpeichern() try {
-    fnc_Bewerten();
+    if (!fnc_Bewerten())
+        return;
     const QString schritt = ui.laPrSchritt->text();
     messwertSpeichern({gProtokollID,
                        schritt,
                        {ui.txtSoll_n->text(), ui.txtSoll_P->text(), ui.txtIST_n_torvena->text(),
                         ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()},
                        ui.txtIST_D_torvena->text(),
-                       mUrteil});
+                       mUrteil,
+                       mBasisDrehzahl});
     dataMesswerte = protokollMesswerte(gProtokollID);
     mRaster.setRecordset(dataMesswerte);
     if (schritt == freierSchritt ? dataMesswerte.findLast("Prüfschritt", schritt)
@@ -245,8 +251,10 @@ void frmMessen::fnc_MesswertSpeichern() try {
     }
     gStopMessung = false;
     gMessStatus = messstatus::Messen;
-    if (!mRezeptEnde)
-        ::screen(frm::Meldung).show();
+    if (mRezeptEnde)
+        return; // the stream of the same set-point goes on
+    werteVerwerfen();
+    ::screen(frm::Meldung).show();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 3016 - ", "ERROR 3016 - ", fehler);
 }
@@ -265,6 +273,7 @@ void frmMessen::rezeptAbgearbeitet() {
 
 void frmMessen::pbMessen_Click() {
     gMessStatus = messstatus::Messen;
+    werteVerwerfen();
     fnc_MesswerteLeeren();
     fnc_PrüfschrittAnzeigen();
     ui.pbPlus->setEnabled(true);
@@ -294,6 +303,7 @@ void frmMessen::navigieren(void (frmMessen::*schritt)()) {
     (this->*schritt)();
     fnc_PrüfschrittAnzeigen();
     fnc_EingabeSperren();
+    korrekturErledigt();
     ui.pbPlus->setEnabled(true);
     ui.pbMinus->setEnabled(true);
     aufAusführenWarten();

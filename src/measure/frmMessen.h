@@ -38,6 +38,8 @@ class frmMessen : public Screen, private Messanzeige {
     void durchgang();
     void verteilen();
     void motorAbschalten();
+    bool sollwertZulässig() const;
+    void sollwertAblehnen();
     bool fnc_SollwertSenden();
     void fokusSetzen();
     void fnc_NavigationFreigeben();
@@ -51,7 +53,7 @@ class frmMessen : public Screen, private Messanzeige {
     void ersteAktivierung();
     void fnc_PrüfschrittAnzeigen();
     void fnc_MesswerteAnzeigen();
-    void fnc_Bewerten();
+    bool fnc_Bewerten();
     void rezeptAbgearbeitet();
     void pbSpeichern_Click();
     void pbAbbrechen_Click();
@@ -72,7 +74,11 @@ class frmMessen : public Screen, private Messanzeige {
     void fnc_DrehzahlPlus() { korrigieren(+0.1); }
     void fnc_DrehzahlMinus() { korrigieren(-0.1); }
     void korrigieren(double schritt);
+    void korrFSetzen(double faktor);
+    void korrekturknopf(void (frmMessen::*richtung)());
     void korrekturtaste(void (frmMessen::*richtung)());
+    void korrekturErledigt();
+    void werteVerwerfen();
     void fnc_FreieEingabe();
     void pbAusführen_Click();
     void pbÜbernehmen_Click();
@@ -87,11 +93,19 @@ class frmMessen : public Screen, private Messanzeige {
     void aufAusführenWarten();
     void sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenze, const Text &keineZahl,
                         const Text &außerhalb);
+    bool freieEingabe() const;
     void txtIST_n_ergom_LostFocus();
     void ergometerFeldZeigen(bool zeigen);
     void speichernFreigeben(const QLineEdit *geändert);
     bool istLeistungsmessung() const;
     bool istDrehzahlmessung() const;
+
+    /// Whose the values in the boxes are.
+    enum class Werte {
+        Fremde,     ///< they were measured under another set-point than the one shown
+        Angefragte, ///< the set-point shown is on its way to the controller
+        Eigene,     ///< the set-point shown is driven, and its stream has begun
+    };
 
     Ui::frmMessen ui;
     RecordsetModel mRaster;
@@ -103,6 +117,9 @@ class frmMessen : public Screen, private Messanzeige {
 
     double mBasisDrehzahl = 0; ///< speed of the step before the correction factor, 1/min
     double mKorrF = 1;
+    double mAltKorrF = 1; ///< when txtSoll_n got the keyboard
+    double mGesendeteKorrF = 1;
+    Werte mWerte = Werte::Fremde;
     QString mAltSoll_n;
     QString mAltSoll_P;
     QString mTaste;

@@ -8,6 +8,7 @@
 #include "msgbox.h"
 #include "runtime.h"
 #include "session.h"
+#include "sollwert.h"
 #include "sprache.h"
 #include "sqltext.h"
 #include "waiting.h"
@@ -26,23 +27,26 @@ bool isEither(const QString &text, const Text &words) {
     return text == words.german || text == words.english;
 }
 
-double boxValue(const QLineEdit *box) {
+} // namespace
+
+double boxWert(const QLineEdit *box) {
     QString text = box->text();
     fnc_KommaZuPunkt(text);
     return Val(text);
 }
-
-} // namespace
 
 void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbAusführen, [this] { pbAusführen_Click(); });
     onClick(ui.pbÜbernehmen, [this] { pbÜbernehmen_Click(); });
     onClick(ui.pbFreieEing, [this] { pbFreieEing_Click(); });
     onClick(ui.pbDrehzNull, [this] { pbDrehzNull_Click(); });
-    onClick(ui.pbPlus, [this] { korrekturtaste(&frmMessen::fnc_DrehzahlPlus); });
-    onClick(ui.pbMinus, [this] { korrekturtaste(&frmMessen::fnc_DrehzahlMinus); });
+    onClick(ui.pbPlus, [this] { korrekturknopf(&frmMessen::fnc_DrehzahlPlus); });
+    onClick(ui.pbMinus, [this] { korrekturknopf(&frmMessen::fnc_DrehzahlMinus); });
 
-    onGotFocus(ui.txtSoll_n, [this] { mAltSoll_n = ui.txtSoll_n->text(); });
+    onGotFocus(ui.txtSoll_n, [this] {
+        mAltSoll_n = ui.txtSoll_n->text();
+        mAltKorrF = mKorrF;
+    });
     onGotFocus(ui.txtSoll_P, [this] { mAltSoll_P = ui.txtSoll_P->text(); });
     onEnter(ui.txtSoll_n, [this] { ui.txtSoll_P->setFocus(); });
     onEnter(ui.txtSoll_P, [this] { ui.cmbMessArt->setFocus(); });
@@ -50,8 +54,7 @@ void frmMessen::eingabenVerdrahten() {
         sollwertPrüfen(ui.txtSoll_n, mAltSoll_n, höchsteDrehzahl,
                        {"Drehzahl muss ein nummerischer Wert sein!",
                         "Number of revolutions must be a numeric value!"},
-                       {"Drehzahl liegt außerhalb des gültigen Bereiches",
-                        "The permissible number of revolutions has been exeeded!"});
+                       drehzahlAußerhalb);
     });
     onLostFocus(ui.txtSoll_P, [this] {
         sollwertPrüfen(
@@ -62,13 +65,20 @@ void frmMessen::eingabenVerdrahten() {
     });
     onKey(ui.txtSoll_n, [this](QKeyEvent &taste) {
         if (taste.text() == "+")
-            fnc_DrehzahlPlus();
+            korrekturtaste(&frmMessen::fnc_DrehzahlPlus);
         else if (taste.text() == "-")
-            fnc_DrehzahlMinus();
+            korrekturtaste(&frmMessen::fnc_DrehzahlMinus);
         else
             return false;
         return true;
     });
+
+    for (QLineEdit *box : {ui.txtSoll_n, ui.txtSoll_P}) {
+        on(box, &QLineEdit::textChanged, [this] {
+            if (freieEingabe())
+                ausführenFreigeben();
+        });
+    }
 
     on(ui.cmbMessArt, &QComboBox::activated, [this] { cmbMessArt_Click(); });
     onKey(ui.cmbMessArt, [this](QKeyEvent &taste) { return cmbMessArt_KeyPress(taste); });
@@ -112,7 +122,7 @@ void frmMessen::fnc_MesswerteLeeren() {
 }
 
 bool frmMessen::fnc_DrehmomentPrüfen() {
-    if (drehmoment(boxValue(ui.txtSoll_n), boxValue(ui.txtSoll_P)) <= grenzDrehmoment)
+    if (drehmoment(boxWert(ui.txtSoll_n), boxWert(ui.txtSoll_P)) <= grenzDrehmoment)
         return true;
     meldung({"Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!",
              "The permissible torque has been exeeded!\r\nPlease enter other values!"},
@@ -122,18 +132,46 @@ bool frmMessen::fnc_DrehmomentPrüfen() {
 }
 
 void frmMessen::korrigieren(double schritt) {
-    const double neu = boxValue(ui.txtSoll_n) + schritt;
-    if (mBasisDrehzahl != 0)
-        mKorrF = neu / mBasisDrehzahl;
+    const double neu = boxWert(ui.txtSoll_n) + schritt;
+    if (mBasisDrehzahl != 0 && !freieEingabe()) // the factor is one of the steps of the recipe
+        korrFSetzen(neu / mBasisDrehzahl);
     ui.txtSoll_n->setText(CStr(neu));
+    werteVerwerfen();
+}
+
+void frmMessen::korrFSetzen(double faktor) {
+    mKorrF = faktor;
     ui.laKorrF->setText(Format(mKorrF, "0.0000"));
 }
 
-void frmMessen::korrekturtaste(void (frmMessen::*richtung)()) {
+void frmMessen::korrekturknopf(void (frmMessen::*richtung)()) {
     (this->*richtung)();
     ui.pbÜbernehmen->setEnabled(true);
     setWaiting(ui.pbÜbernehmen, true);
     ui.pbÜbernehmen->setFocus();
+}
+
+// A key gives no button to take the speed over with: on a step of the recipe the step is sent anew.
+void frmMessen::korrekturtaste(void (frmMessen::*richtung)()) {
+    (this->*richtung)();
+    if (freieEingabe())
+        return;
+    ui.pbMessen->setEnabled(true);
+    setWaiting(ui.pbMessen, true);
+}
+
+// What was corrected is being sent, or has given way to another step.
+void frmMessen::korrekturErledigt() {
+    ui.pbÜbernehmen->setEnabled(false);
+    setWaiting(ui.pbÜbernehmen, false);
+    setWaiting(ui.pbMessen, false);
+}
+
+// Everything that changes the set-point comes by here: what was measured is of another one.
+void frmMessen::werteVerwerfen() {
+    mWerte = Werte::Fremde;
+    ui.pbSpeichern->setEnabled(false);
+    setWaiting(ui.pbSpeichern, false);
 }
 
 void frmMessen::pbAusführen_Click() {
@@ -154,19 +192,16 @@ void frmMessen::pbÜbernehmen_Click() {
     gMessStatus = messstatus::Messen;
     fnc_GraphGrenzenSetzen();
     fnc_EingabeSperren();
-    ui.pbÜbernehmen->setEnabled(false);
-    setWaiting(ui.pbÜbernehmen, false);
+    korrekturErledigt();
     ::screen(frm::Meldung).show();
 }
 
 void frmMessen::pbFreieEing_Click() {
-    ui.pbSpeichern->setEnabled(false);
-    setWaiting(ui.pbSpeichern, false);
-    ui.pbAusführen->setEnabled(false);
+    werteVerwerfen();
+    korrekturErledigt();
     setWaiting(ui.pbAusführen, false);
-    setWaiting(ui.pbÜbernehmen, false);
     for (QPushButton *button :
-         {ui.pbDynMess, ui.pbFreieEing, ui.pbPlus, ui.pbMinus, ui.pbÜbernehmen})
+         {ui.pbAusführen, ui.pbDynMess, ui.pbFreieEing, ui.pbPlus, ui.pbMinus})
         button->setEnabled(false);
     if (gMessenFreigabe)
         gMessStatus = messstatus::FreieEingabe;
@@ -252,19 +287,28 @@ void frmMessen::messArtSetzen(int art) {
     ui.cmbMessArt->setEditText(ui.txtMessArt->text());
 }
 
+// In free input: the button follows from the three fields.
 void frmMessen::ausführenFreigeben() {
-    if (ui.txtSoll_n->text().isEmpty() || ui.txtSoll_P->text().isEmpty() ||
-        ui.cmbMessArt->currentText().isEmpty())
+    const bool voll = !ui.txtSoll_n->text().isEmpty() && !ui.txtSoll_P->text().isEmpty() &&
+                      !ui.cmbMessArt->currentText().isEmpty();
+    if (voll) {
+        aufAusführenWarten();
         return;
-    aufAusführenWarten();
+    }
+    ui.pbAusführen->setEnabled(false);
+    setWaiting(ui.pbAusführen, false);
+    werteVerwerfen();
 }
 
-// The set-points shown have not been sent: nothing measured so far belongs to them.
+// The set-points shown have not been sent.
 void frmMessen::aufAusführenWarten() {
     ui.pbAusführen->setEnabled(true);
     setWaiting(ui.pbAusführen, true);
-    ui.pbSpeichern->setEnabled(false);
-    setWaiting(ui.pbSpeichern, false);
+    werteVerwerfen();
+}
+
+bool frmMessen::freieEingabe() const {
+    return ui.laPrSchritt->text() == freierSchritt;
 }
 
 void frmMessen::sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenze,
@@ -278,8 +322,11 @@ void frmMessen::sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenz
         mangel = &außerhalb;
     if (mangel) {
         const QString gut = alterWert;
+        const double faktor = mAltKorrF;
         meldung(*mangel, Critical, {"Eingabefehler", "Input Error"});
         box->setText(gut);
+        if (box == ui.txtSoll_n)
+            korrFSetzen(faktor);
         box->setFocus();
         return;
     }
@@ -336,7 +383,7 @@ void frmMessen::speichernFreigeben(const QLineEdit *geändert) {
         setWaiting(ui.pbSpeichern, false);
         return;
     }
-    if (isWaiting(ui.pbAusführen)) {
+    if (mWerte != Werte::Eigene) {
         ui.pbSpeichern->setEnabled(false);
         setWaiting(ui.pbSpeichern, false);
         return;

@@ -9,13 +9,15 @@
 #include "msgbox.h"
 #include "runtime.h"
 #include "session.h"
+#include "sollwert.h"
 #include "sprache.h"
 
 using namespace platform;
 
 namespace {
 constexpr long sehrKurzeVerzögerung = 10'000; // counted rounds, 0.5 ms
-}
+constexpr double höchsterSollwert = 143;      // 1/min: 130 and 10 % for the correction
+} // namespace
 
 // A pass that is asked for while another waits for the stream does not run inside it. The older
 // one leaves its wait without touching line, boxes or status, and the loop here starts the new one.
@@ -41,16 +43,22 @@ void frmMessen::durchgang() {
     if (gMessStatus == messstatus::Messen) {
         gMessenFreigabe = true;
         fnc_MesswerteLeeren(); // what stands there belongs to another set-point
-        if (ui.laPrSchritt->text() != freierSchritt)
+        if (!freieEingabe())
             fnc_PrüfschrittAnzeigen();
         fnc_EingabeSperren();
+        korrekturErledigt();
         fokusSetzen();
-        if (fnc_SollwertSenden()) {
+        mWerte = Werte::Angefragte;
+        if (!sollwertZulässig()) {
+            sollwertAblehnen();
+        } else if (fnc_SollwertSenden()) {
             countedDelay(sehrKurzeVerzögerung);
             fnc_SechsRundenStarten();
             countedDelay(sehrKurzeVerzögerung);
             if (messablauf().bedient())
                 fnc_NavigationFreigeben();
+            if (mWerte == Werte::Angefragte) // nothing was changed meanwhile
+                mWerte = Werte::Eigene;
             mEmpfang.fnc_SechsRundenEmpfang(*this);
         }
         if (abgelöst())
@@ -105,10 +113,33 @@ void frmMessen::motorAbschalten() {
         meldung({"Fehler", "Error"}, Critical, {"Motor aus", "Motor Off"});
 }
 
+bool frmMessen::sollwertZulässig() const {
+    const double drehzahl = boxWert(ui.txtSoll_n);
+    return drehzahl >= 0 && drehzahl <= höchsterSollwert;
+}
+
+// Nothing goes out and the shaft turns on as it does; another speed or another step leads on.
+void frmMessen::sollwertAblehnen() {
+    meldung(drehzahlAußerhalb, Critical, {"Eingabefehler", "Input Error"});
+    werteVerwerfen();
+    gMessStatus = messstatus::Ruhe;
+    fnc_NavigationFreigeben();
+    ui.pbFreieEing->setEnabled(true);
+    ui.pbAbbrechen->setEnabled(true);
+    if (freieEingabe())
+        return;
+    korrFSetzen(mGesendeteKorrF);
+    ui.txtSoll_n->setText(Format(mBasisDrehzahl * mKorrF, "0.0"));
+    ui.pbPlus->setEnabled(true);
+    ui.pbMinus->setEnabled(true);
+    ui.pbMinus->setFocus();
+}
+
 bool frmMessen::fnc_SollwertSenden() {
     messablauf().vorSollwert();
+    const double korrF = freieEingabe() ? mGesendeteKorrF : mKorrF;
     if (fnc_BefehlSenden("E", gDrehrichtung, ui.txtSoll_n->text())) {
-        gMotorEin = true;
+        mGesendeteKorrF = korrF;
         ui.pbAbbrechen->setEnabled(true);
         if (messablauf().bedient())
             ui.pbFreieEing->setEnabled(true);

@@ -1,5 +1,7 @@
 #include "frmStatMessen.h"
 
+#include <utility>
+
 #include "controller.h"
 #include "database.h"
 #include "einlauf.h"
@@ -64,9 +66,9 @@ void frmStatMessen::Form_Load() try {
     Recordset normal = gDatenbank.open("SELECT * FROM Normalkalibrierdaten ORDER BY NK_ID");
     normal.moveLast();
     const bool rechts = gDrehrichtung == 1;
-    gOffsetSoll = normal["Offset"].number();
-    gGainSoll = normal[rechts ? "Gain_R" : "Gain_L"].number();
-    gMomentFaktor = normal[rechts ? "VK1_R" : "VK1_L"].number();
+    gOffsetSoll = normal["Offset"].requiredNumber();
+    gGainSoll = normal[rechts ? "Gain_R" : "Gain_L"].requiredNumber();
+    gMomentFaktor = normal[rechts ? "VK1_R" : "VK1_L"].requiredNumber();
     mSollGelesen = true;
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 4040 - ", "ERROR 4040 - ", fehler);
@@ -115,14 +117,18 @@ void frmStatMessen::fnc_StatVorbereiten() {
     gErgebnis = fnc_MotorAus();
     enable();
     beep();
-    if (gMessStatus != messstatus::Verweigert && !unloaded())
+    if (gMessStatus == messstatus::Verweigert || unloaded())
+        return;
+    if (gErgebnis)
         ::screen(frm::VorStatNPK).showModal();
+    else
+        pbAbbrechen_Click(); // nobody is told to touch a shaft that may be turning
 }
 
 void frmStatMessen::fnc_StatMessen() {
     gErgebnis = fnc_Messung(codeOffset) && fnc_Messung(codeGain);
-    if (unloaded() || statikZulässig(gOffsetDiff, gGainDiff))
-        return;
+    if (!gErgebnis || unloaded() || statikZulässig(gOffsetDiff, gGainDiff))
+        return; // without a result there are only the drifts of an earlier run
     auto &hinweis = ::screen<frmNachStatNPK>();
     hinweis.anzeigen({"Toleranzüberschreitung", "Tolerance Exeeded"},
                      {"Gerät ausschalten, wieder einschalten,\r"
@@ -172,13 +178,11 @@ bool frmStatMessen::mittelwertEmpfangen(std::uint8_t code, double &mittel) {
 bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
     double mittel = 0;
     const bool empfangen = mittelwertEmpfangen(code, mittel);
-    if (gTimeoutTimer1 && !empfangen) {
-        Timer1.setEnabled(false);
-        gTimeoutTimer1 = false;
+    Timer1.setEnabled(false);
+    if (std::exchange(gTimeoutTimer1, false) && !empfangen && !unloaded()) {
         meldung({"Nach 15 Sek kein Empfang", "No reception after 15 sec!"}, Exclamation,
                 {"Meldung", "Message"});
     }
-    Timer1.setEnabled(false);
     datenstromBeenden();
     if (!empfangen || unloaded())
         return false;

@@ -22,7 +22,7 @@ class OrdentlicherAblauf : public Messablauf {
     void schrittFertig(frmMessen &screen) override { screen.fnc_MesswertSpeichern(); }
     void rezeptEnde(frmMessen &) override { gMessStatus = messstatus::Ruhe; }
 
-    void beimVerlassen() override {
+    void beimVerlassen(Weggang weggang) override {
         if (protokollHatMesswerte(gProtokollID)) {
             gBerichtAntwort = 6;
             return;
@@ -30,6 +30,8 @@ class OrdentlicherAblauf : public Messablauf {
         if (protokollHatBlätter(gProtokollID))
             return;
         protokollkopfLöschen(gProtokollID);
+        if (weggang == Weggang::Still)
+            return;
         meldung({"Protokoll enthält keine Daten und wird gelöscht!",
                  "Protocol does not contain data and is deleted!"},
                 Information, {"Beenden", "Message"});

@@ -9,6 +9,10 @@
 
 class frmMessen;
 
+/// How the measurement is left: by the operator, or by the end of the process, which asks nothing,
+/// tells nothing and prints nothing.
+enum class Weggang { Ordentlich, Still };
+
 /// A flow over the steps of a recipe. All are called by the screen, in the order of a session.
 class Messablauf {
   public:
@@ -30,7 +34,7 @@ class Messablauf {
     /// The recipe has been worked through.
     virtual void rezeptEnde(frmMessen &screen) = 0;
     /// On every way out, when the motor has been told to stop.
-    virtual void beimVerlassen() = 0;
+    virtual void beimVerlassen(Weggang weggang) = 0;
 };
 
 /// The flow in force. The ordinary one unless another was set; nullptr gives the ordinary one back.

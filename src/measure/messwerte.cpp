@@ -1,6 +1,6 @@
 #include "messwerte.h"
 
-#include <algorithm>
+#include <cmath>
 
 #include "database.h"
 #include "runtime.h"
@@ -8,22 +8,32 @@
 
 namespace {
 
+std::optional<double> zahlOderNichts(const Feld &feld) {
+    return feld.isNull() ? std::nullopt : std::optional(feld.number());
+}
+
 Unsicherheiten uncertaintyTable(const QString &table) {
     Recordset rows = gDatenbank.open("SELECT * FROM " + table);
     Unsicherheiten list;
     for (; !rows.atEnd(); rows.moveNext())
-        list.push_back({rows[1].number(), rows[2].number()});
+        list.push_back({zahlOderNichts(rows[1]), zahlOderNichts(rows[2])});
     return list;
 }
 
-bool fnc_SchrittVorhanden(const Messwert &wert) {
-    const Recordset rows = gDatenbank.open(
-        "SELECT Prüfschritt FROM Messwerte_temp WHERE ProtokollID = ?", {wert.protokollID});
-    for (int row = 0; row < rows.count(); ++row) {
-        if (rows.at(row, 0).toString() == wert.prüfschritt)
+/// Leaves the cursor on the row of the step.
+bool fnc_SchrittVorhanden(Recordset &rows, const QString &schritt) {
+    for (; !rows.atEnd(); rows.moveNext()) {
+        if (rows["Prüfschritt"].text() == schritt)
             return true;
     }
     return false;
+}
+
+/// The row was measured under the set-points of another recipe.
+bool andererSchritt(const Recordset &zeile, const Messwert &wert) {
+    const double abstand = std::fabs(zeile["Soll_n"].number() - wert.schrittDrehzahl);
+    return zeile["Soll_P"].number() != Feld(wert.texte.soll_P).number() ||
+           Round(abstand, 6) > Round(wert.schrittDrehzahl / 10, 6);
 }
 
 } // namespace
@@ -65,13 +75,19 @@ void messwertSpeichern(const Messwert &wert) {
     const SchrittTexte &texte = wert.texte;
     const bool german = gSprache == 1;
     const QString ohne = wert.urteil.ohne ? (german ? "ja" : "yes") : (german ? "nein" : "no");
-    if (wert.prüfschritt != freierSchritt && fnc_SchrittVorhanden(wert)) {
-        gDatenbank.execute("UPDATE Messwerte_temp SET IST_n_torvena = ?, IST_P_torvena = ?, "
-                           "IST_D_torvena = ?, IST_n_ergom = ?, MU_ohne = ?, MU_mit = ?, "
-                           "MU_Proz = ? WHERE Prüfschritt = ? AND ProtokollID = ?",
-                           {texte.ist_n_torvena, texte.ist_P_torvena, wert.ist_D_torvena,
-                            texte.ist_n_ergom, ohne, wert.urteil.mit, wert.urteil.muProz,
-                            wert.prüfschritt, wert.protokollID});
+    Recordset zeilen = gDatenbank.open("SELECT Prüfschritt, Soll_n, Soll_P FROM Messwerte_temp "
+                                       "WHERE ProtokollID = ?",
+                                       {wert.protokollID});
+    if (wert.prüfschritt != freierSchritt && fnc_SchrittVorhanden(zeilen, wert.prüfschritt)) {
+        const bool andere = andererSchritt(zeilen, wert);
+        const QVariant soll_n = andere ? texte.soll_n : zeilen["Soll_n"].value();
+        const QVariant soll_P = andere ? texte.soll_P : zeilen["Soll_P"].value();
+        gDatenbank.execute("UPDATE Messwerte_temp SET Soll_n = ?, Soll_P = ?, IST_n_torvena = ?, "
+                           "IST_P_torvena = ?, IST_D_torvena = ?, IST_n_ergom = ?, MU_ohne = ?, "
+                           "MU_mit = ?, MU_Proz = ? WHERE Prüfschritt = ? AND ProtokollID = ?",
+                           {soll_n, soll_P, texte.ist_n_torvena, texte.ist_P_torvena,
+                            wert.ist_D_torvena, texte.ist_n_ergom, ohne, wert.urteil.mit,
+                            wert.urteil.muProz, wert.prüfschritt, wert.protokollID});
         return;
     }
     gDatenbank.execute(

@@ -29,9 +29,12 @@ struct Messwert {
     SchrittTexte texte;
     QString ist_D_torvena; // N m
     Urteil urteil;
+    double schrittDrehzahl = 0; ///< of the recipe's step, uncorrected, 1/min
 };
-/// Overwrites the row of a step that is there, keeping its set-points; inserts otherwise, and for a
-/// free step always. Raises what the store raises.
+/// Overwrites the row of a step that is there; inserts otherwise, and for a free step always. An
+/// overwritten row keeps its set-points, unless its power is not the step's or its speed lies more
+/// than a tenth from the step's: then it is the row of another recipe and takes those of the step.
+/// Raises what the store raises.
 void messwertSpeichern(const Messwert &wert);
 
 /// A protocol with no measured values and no sheet has no content.

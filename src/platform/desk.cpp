@@ -207,7 +207,7 @@ bool Desk::eventFilter(QObject *watched, QEvent *event) {
         return true;
     const bool chosen = event->type() == QEvent::MouseButtonPress || //
                         event->type() == QEvent::KeyPress;
-    if (chosen && screen != mFront && screen->isVisible() && !screen->mUnloaded)
+    if (chosen && screen != mFront && screen->isVisible() && !screen->mUnloaded && !screen->mNotice)
         moveFrontTo(*screen);
     return false;
 }

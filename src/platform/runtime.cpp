@@ -1,6 +1,7 @@
 #include "runtime.h"
 
 #include <cmath>
+#include <optional>
 
 #include "fehler.h"
 
@@ -74,6 +75,14 @@ QString plainNumber(double value) {
     return value < 0 ? '-' + digits : digits;
 }
 
+std::optional<double> numberOfThePerson(const QString &text) {
+    QLocale locale = sessionLocale();
+    locale.setNumberOptions(QLocale::RejectGroupSeparator);
+    bool ok = false;
+    const double value = locale.toDouble(text.trimmed(), &ok);
+    return ok && std::isfinite(value) ? std::optional(value) : std::nullopt;
+}
+
 } // namespace
 
 void setNumberLocale(const QLocale &locale) {
@@ -128,20 +137,17 @@ QString CStr(double value) {
 }
 
 double CDbl(const QString &text) {
-    bool ok = false;
-    const double value = sessionLocale().toDouble(text.trimmed(), &ok);
-    if (!ok || !std::isfinite(value)) {
+    const std::optional<double> value = numberOfThePerson(text);
+    if (!value) {
         throw Fehler(fehlernummer::TypeMismatch,
                      {"Typen unverträglich: \"" + text + "\" ist keine Zahl.",
                       "Type mismatch: \"" + text + "\" is not a number."});
     }
-    return value;
+    return *value;
 }
 
 bool IsNumeric(const QString &text) {
-    bool ok = false;
-    const double value = sessionLocale().toDouble(text.trimmed(), &ok);
-    return ok && std::isfinite(value);
+    return numberOfThePerson(text).has_value();
 }
 
 QString Format(double value, const QString &pattern) {

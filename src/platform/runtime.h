@@ -23,9 +23,9 @@ QString Str(double value);
 /// As Str, with the decimal sign of the session and without the blank.
 QString CStr(double value);
 
-/// The number that stands in the text under the session's number format. Group separators are
-/// accepted only where groups of three end, so that "12.5" is not 125 where the comma is decimal.
-/// Raises TypeMismatch when the text holds no number or more than one.
+/// The number that stands in the text under the session's number format. A text with group
+/// separators is no number: "0.700" could be meant as 0.7 where the comma is decimal. Raises
+/// TypeMismatch when the text holds no number or more than one.
 double CDbl(const QString &text);
 
 /// True when CDbl would succeed.

@@ -18,7 +18,12 @@ namespace platform {
 
 namespace {
 std::function<void(const std::exception &)> uncaughtReporter;
+
+/// The offscreen platform has no order of windows, and says so each time.
+bool hasWindowOrder() {
+    return QGuiApplication::platformName() != "offscreen";
 }
+} // namespace
 
 Running::Running(Screen *screen) : mScreen(screen) {
     ++mScreen->mRunning;
@@ -46,14 +51,29 @@ Screen::~Screen() = default;
 void Screen::show() {
     if (mUnloaded)
         return;
-    if (!isVisible()) {
-        for (QComboBox *box : findChildren<QComboBox *>())
-            filterOf(box); // for the mouse wheel
-        place();
-        QWidget::show();
-    }
+    appear();
     bringForward();
     Desk::instance().moveFrontTo(*this);
+}
+
+void Screen::showNotice() {
+    if (mUnloaded)
+        return;
+    mNotice = true;
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowFlag(Qt::WindowDoesNotAcceptFocus);
+    appear();
+    if (hasWindowOrder())
+        raise();
+}
+
+void Screen::appear() {
+    if (isVisible())
+        return;
+    for (QComboBox *box : findChildren<QComboBox *>())
+        filterOf(box); // for the mouse wheel
+    place();
+    QWidget::show();
 }
 
 // Over the screen that it came from and stacked above it, but whole within the display.
@@ -81,8 +101,8 @@ void Screen::place() {
 }
 
 void Screen::bringForward() {
-    if (QGuiApplication::platformName() == "offscreen")
-        return; // it has no order of windows, and says so each time
+    if (!hasWindowOrder())
+        return;
     raise();
     activateWindow();
 }

@@ -27,6 +27,9 @@ class Screen : public QWidget {
     /// The same, and takes the screens that are visible now out of use until this one closes.
     /// Returns at once.
     void showModal();
+    /// Makes the screen visible without moving the front: what stands below goes on as it was, and
+    /// closing the notice activates nothing. It takes neither keyboard nor place in the order.
+    void showNotice();
     void hide();
     /// Asks Form_QueryUnload, runs Form_Unload, and takes the screen away; the next use starts with
     /// a fresh instance. False when the screen refused. Code of the screen that still runs goes on.
@@ -97,6 +100,7 @@ class Screen : public QWidget {
     };
     FilterHandlers &filterOf(QWidget *control);
     void run(const Handler &handler);
+    void appear();
     void place();
     void bringForward();
     void leaveDesk();
@@ -107,6 +111,7 @@ class Screen : public QWidget {
     int mModalAbove = 0;
     int mRunning = 0;
     bool mInUse = true;
+    bool mNotice = false;
     bool mUnloading = false;
     bool mUnloaded = false;
 };

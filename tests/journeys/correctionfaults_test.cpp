@@ -19,14 +19,13 @@ TEST_P(CorrectionFaults, StoppingBeforeTheCorrection) {
         co_await select();
         line.stand().setFaults({.silent = true});
         expectNoController();
-        co_await startMeasuring();
-        expectNoStream();
-        press(frm::VorStatNPK, "pbok");
-        co_await told(17'000);
-        EXPECT_FALSE(canPress(frm::StatMessen, "pbWeiter"));
+        expectCorrectionAborted();
+        co_await chooseDirection();
+        gEingelaufen = true;
+        press(frm::Desktop, "pbMessen");
+        co_await arrive(frm::StatMessen);
+        co_await arrive(frm::Desktop);
         heal();
-        co_await abortCorrection();
-
         co_await wholeMeasurement("Danach");
     };
     run(journey());

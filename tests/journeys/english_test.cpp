@@ -123,7 +123,8 @@ class English : public Verdicts {
         EXPECT_EQ(text(frm::Desktop, "lbDrehrichtung"), "Right");
         press(frm::Desktop, "pbMotein");
         EXPECT_EQ(text(frm::Desktop, "laInfo"), "Motor is switched on");
-        co_await arrive(frm::Meldung1);
+        const Until over = until("the notice", [] { return loaded(frm::Meldung1) != nullptr; });
+        co_await over;
         expectScreen(frm::Meldung1, "Message");
         EXPECT_EQ(text(frm::Meldung1, "laMeldung1"), "Running-in time");
         EXPECT_EQ(text(frm::Meldung1, "laMeldung2"), "is over.");

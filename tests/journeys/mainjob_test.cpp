@@ -33,7 +33,7 @@ TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
         EXPECT_EQ(text(frm::Desktop, "lbEinlauf"), "08:59");
         EXPECT_NEAR(line.stand().speed(), 60, 0.1);
         co_await until(
-            "the end of running-in", [] { return inFront(frm::Meldung1); }, 700'000);
+            "the end of running-in", [] { return loaded(frm::Meldung1) != nullptr; }, 700'000);
         EXPECT_TRUE(gEingelaufen);
         EXPECT_EQ(text(frm::Meldung1, "laMeldung1"), "Die Einlaufzeit");
         EXPECT_EQ(text(frm::Meldung1, "laMeldung2"), "ist beendet.");

@@ -46,8 +46,8 @@ TEST(RunningIn, EntriesTakeBothDecimalSigns) {
     } cases[] = {
         {"10.30", 10.3, 10.3}, {"10,3", 10.3, 10.3}, {" 0 ", 0, 0},   {"59,99", 59.99, 59.99},
         {"60", {}, {}},        {"-0.1", {}, {}},     {"", {}, {}},    {"zehn", {}, {}},
-        {"7 5", {}, {}},       {"1e999", {}, {}},    {"nan", {}, {}}, {"1.000", {}, 1},
-        {"1,000", 1, {}}};
+        {"7 5", {}, {}},       {"1e999", {}, {}},    {"nan", {}, {}}, {"1.000", 1, 1},
+        {"1,000", 1, 1}};
     for (const bool german : {true, false}) {
         platform::setNumberLocale(german ? QLocale(QLocale::German, QLocale::Germany)
                                          : QLocale(QLocale::English, QLocale::UnitedStates));

@@ -1,0 +1,12 @@
+// What the set-point boxes of the measurement screen have in common.
+#pragma once
+
+#include <QLineEdit>
+
+#include "fehler.h"
+
+inline const Text drehzahlAußerhalb{"Drehzahl liegt außerhalb des gültigen Bereiches",
+                                    "The permissible number of revolutions has been exeeded!"};
+
+/// The number that goes to the controller for the text of a box.
+double boxWert(const QLineEdit *box);
