@@ -72,6 +72,11 @@ void Screen::appear() {
         return;
     for (QComboBox *box : findChildren<QComboBox *>())
         filterOf(box); // for the mouse wheel
+    for (QPushButton *button : findChildren<QPushButton *>()) {
+        if (button->isDefault())
+            button->setAutoDefault(
+                false); // else it is no longer default once the keyboard leaves it
+    }
     place();
     QWidget::show();
 }

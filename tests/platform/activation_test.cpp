@@ -1,7 +1,9 @@
 // Which screen has the front, and which one gets a Form_Activate and when.
 
 #include <QEvent>
-#include <QTest>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <stdexcept>
@@ -15,55 +17,29 @@ namespace {
 
 using namespace platform;
 
-TEST_F(Activation, ComesOnceAndNeverInsideTheCall) {
-    probe(A).show();
-    EXPECT_EQ(front(), A);
-    EXPECT_EQ(journal, std::vector<std::string>{"A.load"});
-    EXPECT_EQ(told(), "A.load A.activate");
-    probe(A).show();
-    EXPECT_EQ(told(), "") << "it had the front already";
-
-    probe(B).show();
-    probe(C).show();
-    probe(B).show();
-    EXPECT_EQ(told(), "B.load C.load B.activate") << "only the last one";
-    probe(A).show();
-    probe(B).show();
-    EXPECT_EQ(told(), "B.activate") << "lost and got back";
-    probe(B).hide();
-    probe(B).show();
-    EXPECT_EQ(told(), "B.activate");
-    probe(A).hide();
-    EXPECT_EQ(told(), "") << "a screen below went away";
+TEST_F(Activation, ComesOnceToTheFrontAndNeverInsideTheCall) {
+    rows("A+ >> A.load =A | > A.activate | A+ > =A | B+ C+ B+ > B.load C.load B.activate =B | "
+         "A+ B+ > B.activate | B- B+ > B.activate | A- > =B");
+    // To the topmost usable one; enabling moves nothing, nor has one that disabled itself been
+    // away.
+    rows("A+ B+ C+ D+ > ... | C~ D- > B.activate =B | C^ > =B | B~ B^ > =B | "
+         "A+ B+ C+ D+ > ... | C~ D! > D.unload B.activate =B | C^ > =B | B~ B^ > =B");
+    // With none left, to the next that is enabled.
+    rows("A+ B+ C+ > ... | A~ B~ C! > C.unload =0 | A^ B^ > A.activate =A");
+    // A notice has neither front nor place.
+    rows("Cn > C.load =A | C@ > C.click =A | C! > C.unload =A");
 }
 
-TEST_F(Activation, FrontPassesToTheTopmostUsableScreen) {
-    for (const bool unload : {false, true}) {
-        lay({A, B, C, D});
-        probe(C).disable();
-        unload ? void(probe(D).unload()) : probe(D).hide();
-        EXPECT_EQ(front(), B);
-        EXPECT_EQ(told(), unload ? "D.unload B.activate" : "B.activate");
-        probe(C).enable();
-        EXPECT_EQ(told(), "") << "enabling alone moves nothing";
-        EXPECT_EQ(front(), B);
-        probe(B).disable();
-        probe(B).enable();
-        EXPECT_EQ(told(), "") << "a screen that disabled itself has not been away";
-    }
+TEST_F(Activation, ModalScreensTakeTheOnesBelowOutOfUse) {
+    rows("A+ B+ > ... | B~ C* > C.load C.activate %C | D* > D.load D.activate %D | "
+         "C! > C.unload %D | D- > A.activate %AD | "
+         "D* A! A+ > ... %AD | D! B^ > D.unload %AB"); // A was gone before the modal one
 }
 
-TEST_F(Activation, WithNothingUsableLeftTheNextThatIsEnabledGetsTheFront) {
-    lay({A, B, C});
-    probe(A).disable();
-    probe(B).disable();
-    probe(C).unload();
-    EXPECT_EQ(told(), "C.unload");
-    EXPECT_EQ(frontScreen(), nullptr);
-    probe(A).enable();
-    probe(B).enable();
-    EXPECT_EQ(front(), A);
-    EXPECT_EQ(told(), "A.activate");
+TEST_F(Activation, HeldBackUntilTheLastHoldEnds) {
+    rows("A+ > ... | { { B+ C+ } > B.load C.load | C- > | } >> | > B.activate");
+    // A person's close is made up for, once, unless the program came first.
+    rows("{ Bx Bx > =B | } > B.unload A.activate | A~ Ax > | A^ { Ax A! } > A.unload");
 }
 
 TEST_F(Activation, BoxesAndOtherProgramsMoveNothing) {
@@ -75,9 +51,6 @@ TEST_F(Activation, BoxesAndOtherProgramsMoveNothing) {
             probe(A).show();
             EXPECT_EQ(told(), "") << "held back under the box";
         });
-        boxes.expect("nothing", OK);
-        EXPECT_EQ(msgBox("nothing", 0, ""), OK);
-        EXPECT_EQ(told(), "");
         EXPECT_EQ(msgBox("question", YesNo, ""), Yes);
     }
     EXPECT_EQ(told(), "A.activate");
@@ -94,58 +67,6 @@ TEST_F(Activation, BoxesAndOtherProgramsMoveNothing) {
     probe(B).hide();
     requestActivation(probe(B));
     EXPECT_EQ(told(), "");
-}
-
-TEST_F(Activation, ModalScreensTakeTheOnesBelowOutOfUse) {
-    const auto usable = [] {
-        std::string names;
-        for (int id = A; id <= D; ++id) {
-            if (loadedScreen(id) && loadedScreen(id)->usable())
-                names += static_cast<char>('A' + id - A);
-        }
-        return names;
-    };
-    lay({A, B});
-    probe(B).disable();
-    probe(C).showModal(); // returns at once
-    EXPECT_EQ(usable(), "C");
-    EXPECT_EQ(told(), "C.load C.activate");
-    probe(D).showModal();
-    EXPECT_EQ(usable(), "D");
-    EXPECT_EQ(told(), "D.load D.activate");
-    probe(C).unload(); // from below
-    EXPECT_EQ(usable(), "D");
-    EXPECT_EQ(told(), "C.unload");
-    probe(D).hide();
-    EXPECT_EQ(usable(), "AD");
-    EXPECT_EQ(told(), "A.activate");
-
-    probe(D).showModal();
-    probe(A).unload(); // one that was taken out of use is gone before the modal screen
-    probe(A).show();
-    told();
-    EXPECT_EQ(usable(), "AD");
-    probe(D).unload();
-    probe(B).enable();
-    EXPECT_EQ(usable(), "AB");
-    EXPECT_EQ(told(), "D.unload");
-}
-
-TEST_F(Activation, HeldBackUntilTheLastHoldEnds) {
-    lay({A});
-    {
-        const HoldActivations outer;
-        {
-            const HoldActivations inner;
-            probe(B).show();
-            probe(C).show();
-        }
-        EXPECT_EQ(told(), "B.load C.load");
-        probe(C).hide();
-        EXPECT_EQ(told(), "");
-    }
-    EXPECT_TRUE(journal.empty()) << "not inside the call that ends the hold";
-    EXPECT_EQ(told(), "B.activate");
 }
 
 TEST_F(Activation, HeldBackWhileAScreenLoadsOrUnloads) {
@@ -183,24 +104,53 @@ TEST_F(Activation, ReachesAScreenInsideItsOwnForm_Activate) {
 }
 
 TEST_F(Activation, InputReachesUsableScreensOnlyAndMovesTheFront) {
-    lay({A, B});
-    QTest::mouseClick(probe(A).button, Qt::LeftButton);
-    EXPECT_EQ(told(), "A.click A.activate");
-    EXPECT_EQ(front(), A);
+    rows("A+ B+ > ... | A@ > A.click A.activate =A | B~ B@ > =A");
+    for (const bool inUse : {false, true}) {
+        probe(B).setInUse(inUse);
+        QTest::keyClicks(probe(B).box, "12");
+        QTest::keyClick(probe(B).box, Qt::Key_Enter);
+        EXPECT_EQ(probe(B).box->text(), QString(inUse ? "12" : ""));
+        rows(inUse ? "> B.enter B.activate =B" : "> =A");
+    }
+    // The wheel picks nothing unseen.
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(probe(B).list, &wheel);
+    EXPECT_EQ(probe(B).list->currentIndex(), 0);
+    // Enter in a field without use for it presses the default button, if that can be pressed,
+    // also when the keyboard has been there.
+    const auto enter = [](Qt::Key key) { QTest::keyClick(probe(C).other, key); };
+    probe(C).button->setDefault(true);
+    rows("C+ > ...");
+    probe(C).button->setFocus();
+    probe(C).other->setFocus();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
+        enter(key);
+        rows(key == Qt::Key_Escape ? "> =C" : "> C.click");
+    }
+    probe(C).button->setEnabled(false);
+    enter(Qt::Key_Return);
+    probe(C).button->setEnabled(true);
+    probe(C).button->hide();
+    enter(Qt::Key_Return);
+    rows("> =C");
+    probe(C).button->show();
+    probe(C).button->setDefault(false);
+    enter(Qt::Key_Return);
+    rows("> =C");
+}
 
-    probe(B).disable();
-    QTest::mouseClick(probe(B).button, Qt::LeftButton);
-    QTest::keyClicks(probe(B).box, "12");
-    QTest::keyClick(probe(B).box, Qt::Key_Return);
-    EXPECT_EQ(told(), "");
-    EXPECT_EQ(front(), A);
-    EXPECT_EQ(probe(B).box->text(), "");
-
-    probe(B).enable();
-    QTest::keyClicks(probe(B).box, "12");
-    QTest::keyClick(probe(B).box, Qt::Key_Enter);
-    EXPECT_EQ(probe(B).box->text(), "12");
-    EXPECT_EQ(told(), "B.enter B.activate");
+TEST_F(Activation, WindowsStandWholeOnTheDisplay) {
+    const QRect display = QGuiApplication::primaryScreen()->availableGeometry();
+    for (const QPoint corner : {display.topLeft(), display.bottomRight()}) {
+        rows("A+ > ...");
+        probe(A).move(corner); // the next one is to come over it
+        rows("B+ > ...");
+        EXPECT_TRUE(display.contains(probe(B).geometry()));
+        EXPECT_LT((probe(B).geometry().center() - corner).manhattanLength(),
+                  (display.center() - corner).manhattanLength());
+        rows("B! A! > ...");
+    }
 }
 
 TEST_F(Activation, OnlyLeavingAFieldForAnotherOneIsLeavingIt) {

@@ -3,14 +3,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 
 #include <map>
 #include <string>
 #include <vector>
 
+#include "cases.h"
 #include "screen.h"
 #include "testclock.h"
 
@@ -38,10 +41,13 @@ class Probe : public Screen {
           mPlan(plans[id]),
           button(new QPushButton(this)),
           box(new QLineEdit(this)),
-          other(new QLineEdit(this)) {
+          other(new QLineEdit(this)),
+          list(new QComboBox(this)) {
         ++living;
         box->move(0, 40);
         other->move(0, 80);
+        list->move(0, 120);
+        list->addItems({"first", "second"});
         onClick(button, [this] { step("click", mPlan.click); });
         onEnter(box, [this] { step("enter", {}); });
         onLostFocus(box, [this] { step("lost", mPlan.lost); });
@@ -68,6 +74,7 @@ class Probe : public Screen {
   public:
     QPushButton *button;
     QLineEdit *box, *other;
+    QComboBox *list;
     Timer timer{100};
 };
 
@@ -94,18 +101,78 @@ class Activation : public testing::Test {
         EXPECT_EQ(living, 0);
     }
     /// The journal since the last question.
-    static std::string told() {
-        deliver();
+    static std::string told(bool delivered = true) {
+        if (delivered)
+            deliver();
         std::string all;
         for (const std::string &entry : std::exchange(journal, {}))
             all += (all.empty() ? "" : " ") + entry;
         return all;
+    }
+    /// Rows of what is done to screens and what is told then, parted by bars: "A+ B- > A.load =A".
+    /// + shows, - hides, ! unloads, * shows modally, n as a notice, ~ takes out of use, ^ back into
+    /// it, x closes, @ clicks its button; { and } begin and end a hold. Behind ">" the journal once
+    /// events are delivered, behind ">>" before, "..." for whatever; "=A" has the front, "%AB" are
+    /// usable.
+    void rows(const QString &table) {
+        for (const QString &row : table.split(" | ")) {
+            SCOPED_TRACE(row.toStdString());
+            const bool atOnce = row.contains(">>");
+            const QString done = row.section('>', 0, 0);
+            for (const QString &step : done.split(' ', Qt::SkipEmptyParts))
+                act(step[0].unicode() - u'A' + A, step.back());
+            const std::string journaled = told(!atOnce);
+            QStringList entries;
+            for (const QString &word : row.section('>', -1).split(' ', Qt::SkipEmptyParts)) {
+                if (word.startsWith('=')) {
+                    EXPECT_EQ(front(), word == "=0" ? 0 : word[1].unicode() - u'A' + A);
+                } else if (word.startsWith('%')) {
+                    EXPECT_EQ('%' + usable(), word);
+                } else {
+                    entries += word;
+                }
+            }
+            EXPECT_EQ(entries == QStringList{"..."} ? "..." : journaled,
+                      entries.join(' ').toStdString());
+        }
     }
     /// Shows them one above the other and forgets about it.
     static void lay(std::initializer_list<int> ids) {
         for (const int id : ids)
             probe(id).show();
         told();
+    }
+
+    support::TestClock &clock = support::TestClock::install();
+
+  private:
+    void act(int id, QChar what) {
+        switch (what.unicode()) {
+        case '+':
+            return probe(id).show();
+        case '-':
+            return probe(id).hide();
+        case '!':
+            return void(probe(id).unload());
+        case '*':
+            return probe(id).showModal();
+        case 'n':
+            return probe(id).showNotice();
+        case '~':
+            return probe(id).disable();
+        case '^':
+            return probe(id).enable();
+        case 'x':
+            return void(probe(id).close());
+        case '@':
+            return QTest::mouseClick(probe(id).button, Qt::LeftButton);
+        case '{':
+            return void(mHolds.push_back(std::make_unique<HoldActivations>()));
+        case '}':
+            return mHolds.pop_back();
+        default:
+            FAIL() << "no such step";
+        }
     }
     static int front() {
         for (int id = A; id <= D; ++id) {
@@ -114,6 +181,13 @@ class Activation : public testing::Test {
         }
         return 0;
     }
-
-    support::TestClock &clock = support::TestClock::install();
+    static QString usable() {
+        QString names;
+        for (int id = A; id <= D; ++id) {
+            if (platform::loadedScreen(id) && platform::loadedScreen(id)->usable())
+                names += QChar('A' + id - A);
+        }
+        return names;
+    }
+    std::vector<std::unique_ptr<HoldActivations>> mHolds;
 };

@@ -15,14 +15,11 @@ TEST_F(Unloading, AScreenMayRefuseToGo) {
     bool agrees = false;
     plans[B].queryUnload = [&agrees](Probe &) { return agrees; };
     lay({A, B});
-    Screen *const first = &probe(B);
     EXPECT_FALSE(probe(B).unload());
-    EXPECT_EQ(told(), "");
-    EXPECT_EQ(front(), B);
-    EXPECT_EQ(&probe(B), first);
+    rows("> =B | B+ > =B"); // the same instance
     agrees = true;
     EXPECT_TRUE(probe(B).unload());
-    EXPECT_EQ(told(), "B.unload A.activate");
+    rows("> B.unload A.activate =A");
 }
 
 TEST_F(Unloading, UnloadingLeavesRunningCodeAlone) {
@@ -61,29 +58,6 @@ TEST_F(Unloading, AnUnloadedScreenHasNoMoreTicks) {
     EXPECT_EQ(told(), "A.click A.unload A.click-end");
 }
 
-TEST_F(Unloading, APersonsCloseDuringAHoldIsMadeUpFor) {
-    lay({A, B});
-    {
-        const HoldActivations hold;
-        probe(B).close();
-        probe(B).close();
-        EXPECT_EQ(told(), "");
-        EXPECT_EQ(front(), B);
-    }
-    EXPECT_EQ(told(), "B.unload A.activate");
-
-    probe(A).disable();
-    probe(A).close();
-    EXPECT_EQ(told(), "") << "a disabled screen cannot be closed";
-    probe(A).enable();
-    {
-        const HoldActivations hold;
-        probe(A).close();
-        probe(A).unload(); // by the program, meanwhile
-    }
-    EXPECT_EQ(told(), "A.unload");
-}
-
 // A notice (B) is on screen, the screen below it (A) is disabled until the notice closes by itself.
 class Notice : public Activation {
   protected:
@@ -98,28 +72,20 @@ class Notice : public Activation {
     }
 };
 
-TEST_F(Notice, ClosingDuringAFailingCommand) {
-    {
+TEST_F(Notice, ClosingDuringAFailingCommandOrABox) {
+    for (const bool command : {true, false}) {
         support::Boxes boxes;
-        boxes.expect("no answer");
-        const HoldActivations command;
-        noticeCloses();
-        msgBox("no answer", Critical, "");
-        deliver();
-        EXPECT_EQ(journal, (std::vector<std::string>{"B.unload", "B.unload-end"}));
+        boxes.expect("?", OK, [] {
+            noticeCloses();
+            EXPECT_EQ(told(), "B.unload B.unload-end");
+        });
+        if (command)
+            rows("{ >");
+        msgBox("?", Critical, "");
+        rows(command ? "> | } > A.activate =A" : "> A.activate =A");
+        lay({D, A, B});
+        probe(A).disable();
     }
-    EXPECT_EQ(told(), "B.unload B.unload-end A.activate");
-}
-
-TEST_F(Notice, ClosingDuringAMessageBox) {
-    support::Boxes boxes;
-    boxes.expect("question", No, [] {
-        noticeCloses();
-        EXPECT_EQ(journal.back(), "B.unload-end");
-    });
-    msgBox("question", YesNo, "");
-    EXPECT_EQ(told(), "B.unload B.unload-end A.activate");
-    EXPECT_EQ(front(), A);
 }
 
 TEST_F(Notice, ClosingWhileTheScreenBelowUnloads) {
