@@ -15,7 +15,11 @@ Boxes::Boxes() {
 
 Boxes::~Boxes() {
     platform::setBoxAnswerer({});
-    for (const Expected &missing : mExpected)
+    expectAllCame();
+}
+
+void Boxes::expectAllCame() {
+    for (const Expected &missing : std::exchange(mExpected, {}))
         ADD_FAILURE() << "this box did not come: " << missing.text;
 }
 

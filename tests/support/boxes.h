@@ -35,6 +35,8 @@ class Boxes {
     /// How many boxes came so far.
     size_t count() const { return mSeen.size(); }
     bool allCame() const { return mExpected.empty(); }
+    /// Each expected one that has not come by now fails the test, and is awaited no more.
+    void expectAllCame();
 
   private:
     struct Expected {

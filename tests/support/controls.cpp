@@ -33,11 +33,9 @@ QStringList headings(const QHeaderView &header) {
 
 } // namespace
 
-QStringList visibleTexts(frm name) {
-    QStringList texts;
-    const Screen *screen = loaded(name);
-    texts += screen->windowTitle();
-    for (const QWidget *widget : screen->findChildren<QWidget *>()) {
+QStringList visibleTexts(const Screen &screen) {
+    QStringList texts{screen.windowTitle()};
+    for (const QWidget *widget : screen.findChildren<QWidget *>()) {
         if (!widget->isVisible())
             continue;
         if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
@@ -52,9 +50,9 @@ QStringList visibleTexts(frm name) {
             texts += headings(*header);
         texts += widget->toolTip();
     }
-    for (const QAction *action : screen->findChildren<QAction *>())
+    for (const QAction *action : screen.findChildren<QAction *>())
         texts += action->text();
-    for (const QMenu *menu : screen->findChildren<QMenu *>())
+    for (const QMenu *menu : screen.findChildren<QMenu *>())
         texts += menu->title();
     texts.removeAll(QString());
     return texts;

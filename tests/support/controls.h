@@ -89,6 +89,9 @@ inline void enter(frm name, const char *box) {
 }
 
 /// All captions of the screen, of menus, headings and hints too, for looking for left-over German.
-QStringList visibleTexts(frm name);
+QStringList visibleTexts(const Screen &screen);
+inline QStringList visibleTexts(frm name) {
+    return visibleTexts(*loaded(name));
+}
 
 } // namespace support

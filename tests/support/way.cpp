@@ -19,7 +19,8 @@ using platform::frontScreen;
 
 namespace {
 
-const QStringList questions{"can", "cannot", "shown", "hidden", "focus", "waits", "readonly"};
+const QStringList questions{"can",   "cannot", "shown",    "hidden",
+                            "focus", "waits",  "readonly", "checked"};
 
 QString nameOf(const Screen *screen) {
     int status = 0;
@@ -50,6 +51,8 @@ bool is(const QString &state, const QString &name) {
         return control->window()->focusWidget() == control;
     if (state == "waits")
         return platform::isWaiting(named<QAbstractButton>(name));
+    if (state == "checked")
+        return named<QAbstractButton>(name)->isChecked();
     if (state == "readonly")
         return named<QLineEdit>(name)->isReadOnly();
     return static_cast<Screen *>(control->window())->usable() && control->isVisible() &&
@@ -336,7 +339,8 @@ Journey Way::go(QString way) {
             if (!problem.empty())
                 throw std::runtime_error(problem + "\n  at: " + steps.toStdString());
         }
-        EXPECT_TRUE(boxes.allCame()) << "after: " << steps;
+        SCOPED_TRACE(steps.toStdString());
+        boxes.expectAllCame();
     }
 }
 

@@ -12,7 +12,7 @@
 //   ?* failure(1077)          this one may come at any time
 //   txtName == a b            what is shown, "deutsch | english";   lstKunden rows a|b+c|d
 //   name ~ ^a.*b              by pattern;   rows~ likewise
-//   can pbOk pbNeu            cannot, shown, hidden, focus, waits likewise; readonly
+//   can pbOk pbNeu            cannot, shown, hidden, focus, waits likewise; readonly, checked
 //   name == value             a view of the fixture: what it tells about the state
 //   stored Soll_n == 60       columns of the rows that the session has stored
 //   until name == value       waits for it;   pass 3000   step 2 80: measured at this speed
