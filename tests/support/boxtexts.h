@@ -19,6 +19,7 @@ using namespace platform;
 inline constexpr KnownBox boxTexts[] = {
     // failures
     {"failure", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 - …", "ERROR %1 - …"},
+    {"failureAt", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1- …", "ERROR %1- …"},
     {"failed", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  %2 …", "ERROR %1 -  %2 …"},
     {"noRecord", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  3021 Kein aktueller Datensatz.", "ERROR %1 -  3021 No current record."},
     {"noNumber", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  13 Typen unverträglich: \"%2\" ist keine Zahl.", "ERROR %1 -  13 Type mismatch: \"%2\" is not a number."},
@@ -34,6 +35,11 @@ inline constexpr KnownBox boxTexts[] = {
     {"startFailed", Critical, "Fehler", "Error", "Fehler 1002- %1 …", "Error 1002- %1 …"},
     {"lineFailed", Critical, "Error", "Error", "Error %1- %2 …", "Error %1- %2 …"},
     {"noPort", Critical, "Error", "Error", "Error 5007- 8002 fehlt", "Error 5007- 8002 missing"},
+    {"uncaught", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler -  %1 %2", "ERROR -  %1 %2"},
+    {"noHelp", Exclamation, "torvena", "torvena", "53 - Die Hilfe …", "53 - The help …"},
+    {"noCalibration", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Es existieren keine Kalibrierdaten zu diesem Gerät in der verwendeten Datenbank!", "There are no calibration data for this device in the database!"},
+    {"noEngine", Exclamation, "Achtung!", "Achtung!", "Der Motor ist noch nicht eingeschaltet oder \rdie Schnittstellenparameter gibt es nicht!\rBitte korrigieren Sie die Einstellungen!\rBitte entfernen Sie ggf. kurzzeitig das Kabel an der USB-Schnittstelle!", "The engine is not yet switched on or \rthe interface parameters do not exist!\rPlease correct the settings!\rPlease remove the cable at the USB interface for a short time!"},
+    {"noSerialNumber", Exclamation, "Achtung!", "Achtung!", "Der Motor ist noch nicht eingeschaltet, \rdie Seriennummer konnte nicht ermittelt werden!\rBitte korrigieren Sie die Einstellungen!", "The engine is not yet switched on, \rthe serial number could not be determined!\rPlease correct the settings!"},
     // the desktop, the line and the motor
     {"end", YesNo + Question, "Programmende", "End Of Program", "Wollen Sie das Programm wirklich beenden?", "Do you really want to terminate the program?"},
     {"login", Critical, "Anmeldung", "Registration", "Ungültige Anmeldung! Bitte versuchen Sie es noch einmal!", "Invalid registration! Please try it again!"},

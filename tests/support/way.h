@@ -3,10 +3,11 @@
 //
 //   @Kunden                   until this screen has the front
 //   pbOk   obNeu   mnuEnde    presses, chooses
-//   txtName = a b             types over what stands there;   := from the clipboard;   + behind it
+//   txtName = a b             types over what stands there (= 0,5 | 0.5);   := pastes;
+//   txtName + c               types behind it
 //   cmbOrt > Bonn   > 2       picks from the list, by entry or number; moves the bar
 //   txtName !                 Enter in it;   ^ turns to it
-//   key Down 2   key Escape   in what has the keyboard;   close   the close box
+//   key Down 2   key Escape   in what has the keyboard;   close   the close box (close Messen)
 //   mouse lstKunden Meier     clicks on this entry;   wheel cmbOrt   turns the wheel over it
 //   ? saved   ? leave yes     this box is to come on this line and in this order; answered OK
 //   ?* failure(1077)          this one may come at any time
@@ -18,7 +19,8 @@
 //   until name == value       waits for it;   pass 3000   step 2 80: measured at this speed
 //   after 500 cannot pbOk     while something else waits
 //   change UPDATE ...         by another program;   sql SELECT ... == value
-//   spoil DELETE Rezepte      such a statement fails until   mend
+//   spoil DELETE Rezepte      such a statement fails until   mend;   after spoil SELECT any does
+//   login   protocol Links    a road of the fixture, with what it needs
 //   stand load 100            a command of the simulated stand;   line out   line in   line taken
 //
 // " # " begins a comment. Boxes that a line announces must have come at its end.
@@ -43,7 +45,11 @@ class Way : public Workshop {
     /// Until the step is measured at this speed and its live values are complete.
     static Journey settled(const char *step, double speed);
 
+    /// Of "deutsch | english" what the session speaks.
+    static QString spoken(const QString &both);
+
     std::map<QString, std::function<QString()>> views;
+    std::map<QString, std::function<Journey(const QString &)>> roads;
 
   private:
     bool holds(const QString &step);

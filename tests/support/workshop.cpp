@@ -2,10 +2,13 @@
 
 #include <QDir>
 
+#include <utility>
+
 #include "auswahl.h"
 #include "boxtexts.h"
 #include "controller.h"
 #include "einlauf.h"
+#include "interface.h"
 #include "runtime.h"
 #include "scripts.h"
 #include "session.h"
@@ -41,7 +44,7 @@ Workshop::~Workshop() {
 
 void Workshop::forgetSession() {
     gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
-    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = false;
+    gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
     gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
     gEinlaufzeit = gEinlaufLeistung = 0;
     gPrüfer.clear();
@@ -82,12 +85,18 @@ void Workshop::change(const QString &sql, const Datenbank::Params &params) {
 }
 
 void Workshop::spoil(const QString &event, const QString &table) {
+    if (event == "SELECT") {
+        change("ALTER TABLE " + table + " RENAME TO fort");
+        unreadable = table;
+        return;
+    }
     change("CREATE TRIGGER fest BEFORE " + event + " ON " + table +
            " BEGIN SELECT RAISE(ABORT, 'x'); END");
 }
 
 void Workshop::mend() {
-    change("DROP TRIGGER fest");
+    change(unreadable.isEmpty() ? QString("DROP TRIGGER fest")
+                                : "ALTER TABLE fort RENAME TO " + std::exchange(unreadable, {}));
 }
 
 void Workshop::setLanguage(int language) {

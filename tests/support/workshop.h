@@ -34,7 +34,7 @@ class Workshop : public testing::Test {
     static QString grid(const QString &sql, const Datenbank::Params &params = {});
     /// Another program writes to the database.
     static void change(const QString &sql, const Datenbank::Params &params = {});
-    /// A statement on this table fails until the database is mended.
+    /// Such a statement on this table fails until the database is mended; after SELECT, all do.
     static void spoil(const QString &event, const QString &table);
     static void mend();
     /// The language of the next start, and the number format that goes with it: 1 German, 2
@@ -56,6 +56,9 @@ class Workshop : public testing::Test {
     SimulatedLine line;
     Boxes boxes;
     int beeps = 0;
+
+  private:
+    static inline QString unreadable; // a table that bears another name
 };
 
 } // namespace support
