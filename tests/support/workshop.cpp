@@ -124,7 +124,7 @@ std::pair<KnownBox, QString> known(const QString &written) {
             continue;
         QString text = inSprache({box.german, box.english});
         const QString inside = written.section('(', 1).chopped(written.contains('(') ? 1 : 0);
-        for (const QString &word : inside.split(", "))
+        for (const QString &word : text.contains("%2") ? inside.split(", ") : QStringList{inside})
             text = text.contains("%1") || text.contains("%2") ? text.arg(word) : text;
         return {box, text};
     }
