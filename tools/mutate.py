@@ -111,6 +111,11 @@ def closing(m, i):
     return -1
 
 
+def closing_open(m, i):
+    """within brackets there"""
+    return sum((c in "([{") - (c in ")]}") for c in m[:i]) > 0
+
+
 def at_top(m, tok):
     d = 0
     for i, c in enumerate(m):
@@ -195,6 +200,7 @@ class Breaker:
             if j >= len(m) or m[j] != ";" or d != 0: continue
             tm = m[a:j]
             if re.match(r"^[%s:<>]+ [%s&*]+" % (ID, ID), tm) and not re.match(r"^[^ ]+ [-+*/|&]?= ", tm): continue
+            if any(tm[i] == "{" and tm[:i].rstrip().endswith(")") and not closing_open(tm, i) for i in range(len(tm))): continue
             if re.search(r"= (delete|default)$", tm) or re.match(r"^[^=(]*\{", tm): continue
             b = k - 1
             while b >= 0 and not m[starts[b]:starts[b] + len(rows[b])].strip(): b -= 1
@@ -245,6 +251,7 @@ def build(files):
         wrong = {(os.path.relpath(m.group(1), TREE), int(m.group(2))) for m in re.finditer(r"^(/[^:\n]+\.cpp):(\d+):\d+: error", r.stdout, re.M)}
         near = {(f, n) for f, l in wrong for n in range(l - 6, l + 2)} if attempt > 3 else wrong | {(f, l - 1) for f, l in wrong}
         more = {(m["file"], m["line"], m["kind"]) for m in b.mutants if (m["file"], m["line"]) in near}
+        if not more - leave: more = {(m["file"], m["line"], m["kind"]) for m in b.mutants if m["file"] in {f for f, _ in wrong}}
         if not more - leave: sys.exit("the broken tree does not build:\n" + r.stdout[-3000:])
         leave |= more; json.dump(sorted(leave), open(leave_file, "w"))
         print(f"{len(more)} mutants do not compile and are left out; building again", flush=True)

@@ -11,7 +11,7 @@ using namespace support;
 class Desktop : public Workplace {
   protected:
     Desktop() {
-        views["direction"] = [] { return QString::number(gDrehrichtung); };
+        views["chosen"] = [] { return QString::number(gDrehrichtung); };
         views["lit"] = [] { // the arrows of the dialog
             QString arrows;
             for (const char *arrow : {"laLinks", "laRechts"})
@@ -51,8 +51,8 @@ JOURNEY_P(Desktop, DirectionOfRotation) {
     co_await logIn();
     co_await go(R"(
         pbDrehR ; @MotorDrehR ; cannot pbok Desktop.pbKunde ; lit == --
-        obLinks ; direction == 2 ; lit == L- ; focus pbok
-        obRechts ; direction == 1 ; lit == -R ; obLinks ; lit == L- ; Desktop.lbDrehrichtung ==
+        obLinks ; chosen == 2 ; lit == L- ; focus pbok
+        obRechts ; chosen == 1 ; lit == -R ; obLinks ; lit == L- ; Desktop.lbDrehrichtung ==
         key Return ; @Desktop ; lbDrehrichtung == Linkslauf | Left ; can pbMotein)");
     // Shown again as it is; a calibration goes on where it waits.
     front().setMoteinEnabled(false);
@@ -62,8 +62,8 @@ JOURNEY_P(Desktop, DirectionOfRotation) {
     EXPECT_EQ(gFormStatus, formstatus::Einlaufen);
     co_await go(R"(
         @Desktop ; lbDrehrichtung == Rechtslauf | Right ; cannot pbMotein
-        pbDrehR ; @MotorDrehR ; ? noDirection ; pbAbbrechen ; @Desktop ; direction == 0
-        pbDrehR ; @MotorDrehR ; cannot pbok ; close ; @Desktop ; direction == 0)");
+        pbDrehR ; @MotorDrehR ; ? noDirection ; pbAbbrechen ; @Desktop ; chosen == 0
+        pbDrehR ; @MotorDrehR ; cannot pbok ; close ; @Desktop ; chosen == 0)");
 }
 
 } // namespace

@@ -46,6 +46,9 @@ TEST_F(Activation, BoxesAndOtherProgramsMoveNothing) {
     lay({A, B});
     {
         support::Boxes boxes;
+        boxes.expect("nothing");
+        msgBox("nothing", 0, "");
+        EXPECT_EQ(told(), "");
         boxes.expect("question", Yes, [&] {
             EXPECT_EQ(told(), "");
             probe(A).show();

@@ -1,0 +1,101 @@
+// The program as a whole: what nobody caught, the buttons of its boxes, the end of the process,
+// help and reset on the desktop, and the working standard in use.
+#include <QApplication>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "msgbox.h"
+#include "seriennummer.h"
+#include "session.h"
+#include "start.h"
+#include "workplace.h"
+
+namespace {
+
+using namespace support;
+using namespace platform;
+
+class Program : public Workplace {
+  protected:
+    Program() {
+        change("UPDATE System SET Endprüfung = -1");
+        views["standard"] = [] {
+            return QString("%1 %2 %3").arg(gSeriennummer).arg(gNormalGainL).arg(gNormalOffset);
+        };
+    }
+    /// The captions of a real box with these buttons.
+    static QString captions(int flags) {
+        QStringList all;
+        setBoxAnswerer({});
+        QTimer::singleShot(0, [&all] {
+            const auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            for (const QAbstractButton *button : box->buttons())
+                all += button->text();
+            box->buttons().at(0)->click();
+        });
+        msgBox("?", flags, "");
+        all.sort();
+        return all.join(' ');
+    }
+};
+
+JOURNEY_P(Program, TellsWhatNobodyCaught) {
+    co_await logIn();
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec(); // else an exit of a case before this one ends the boxes at once
+    expectKnown("uncaught(13, 6)");
+    guarded([] { throw Fehler(13, {"6", "6"}); });
+    expectKnown("uncaught(0, x)");
+    guarded([] { throw std::runtime_error("x"); });
+    co_await go(R"(
+        wire == ; pbReset ; wire == r ; can pbReset
+        ? noHelp ; key F1 ; ? noHelp ; mnuHelp)");
+    EXPECT_EQ(captions(YesNoCancel) + ' ' + captions(AbortRetryIgnore) + ' ' + captions(OKOnly),
+              english() ? "&Cancel &No &Yes &Abort &Ignore &Retry &OK"
+                        : "&Abbrechen &Ja &Nein &Ignorieren &Wiederholen A&bbrechen &OK");
+}
+
+JOURNEY_ROWS(Program, EndsTheProcess, "@Login ; pbCancel", "@Login ; close",
+             "@Desktop ; ? end yes ; pbBeenden", "@Desktop ; from outside") {
+    if (givenRow.startsWith("@Desktop"))
+        co_await logIn();
+    else
+        start();
+    co_await go(givenRow.section(" ; ", 0, 0));
+    QTimer::singleShot(0, [this] {
+        for (const QString &step : givenRow.split(" ; ").mid(1))
+            step == "from outside" ? beendenOhneFrage() : act(step);
+    });
+    QTimer::singleShot(5'000, [] { QCoreApplication::exit(1); });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+}
+
+// By its serial number, with the latest of its rows.
+JOURNEY_ROWS(Program, FindsTheStandard, "", "stand serial XX-1", "stand fault silent on",
+             "line out") {
+    co_await logIn();
+    gSeriennummer.clear();
+    bool found = false;
+    QString told;
+    Seriennummer search([&told](const QString &info) { told = info; }, [&found] { found = true; });
+    co_await go(givenRow);
+    for (const int attempt : {1, 2}) {
+        if (givenRow.contains("XX") && attempt == 1)
+            expectKnown("noCalibration");
+        else if (givenRow.contains("out") && attempt == 2)
+            expectKnown("noEngine");
+        else if (givenRow.contains("silent") && attempt == 2)
+            expectKnown("noSerialNumber");
+        search.Seriennummer_ermitteln();
+        EXPECT_EQ(told, givenRow.contains("out") ? "" : "Die Seriennummer wird ermittelt!");
+        co_await pass(2'100);
+        boxes.expectAllCame();
+        if (givenRow.contains("XX"))
+            break;
+    }
+    EXPECT_EQ(found, givenRow.isEmpty());
+    if (found)
+        co_await go("standard == TN-1001 12490 10000");
+}
+
+} // namespace
