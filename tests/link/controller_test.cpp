@@ -1,81 +1,68 @@
 // Exchanges with the controller: bytes on the wire, waits, and what a person is told.
-
-#include <gtest/gtest.h>
-
-#include "boxes.h"
-#include "controller.h"
-#include "fehler.h"
-#include "interface.h"
 #include "linktest.h"
-#include "session.h"
+#include "standcommands.h"
 
 namespace {
 
 using namespace platform;
-using support::Boxes;
-
-const char *const silentText = "1 - Keine Kommunikation mit dem Controller möglich!";
+using namespace support;
 
 class OnStand : public LinkTest {
   protected:
-    std::string wire() {
-        const std::string all = line.stand().wire();
+    QString wire() {
+        const auto all = QString::fromStdString(line.stand().wire());
         line.stand().clearWires();
         return all;
     }
-    void setFaults(const simulator::Faults &faults) { line.stand().setFaults(faults); }
-    support::SimulatedLine line{clock};
+    void fault(const QString &what) {
+        EXPECT_EQ(simulator::runCommand("fault " + what.toStdString(), line.stand(), {}), "ok\n");
+    }
 };
 
 TEST_F(OnStand, CommandsOnTheWire) {
-    const struct {
-        const char *command;
-        std::int16_t direction;
-        const char *speed, *wire;
-        simulator::Faults faults = {};
-        int beeps = 0;
-    } cases[] = {
-        {"E", 1, "60", "-*E-2100+>>>"},
-        {"A", 2, "00", "-*A 0000+>>>"},
-        {"E", 0, "12,5", "-*E 0437+>>>"},
-        {"E", 1, "290", "-*E-10150+>>>"},
-        {"E", 1, "60", "-*E-2100+--*E-2100+--*E-2100+>>>", {.deafFrames = 2}, 2},
-        {"E", 1, "60", "-*E-2100+>>>", {.echoDelay = 1900}}, // in time, only just
-        // Arrives during the second try, whose own echo is left over
-        {"E", 1, "70", "-*E-2450+--*E-2450+>>>", {.echoDelay = 2500}, 1},
-        {"E", 1, "80", "-*E-2800+>>>"},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.wire);
+    for (const Case &c : cases( // gives beeps, seconds, and whether the shaft may be turning
+             "E 1 60 -> -*E-2100+>>> 0 0 on | A 2 00 -> -*A 0000+>>> 0 0 off | "
+             "E 0 12,5 -> -*E 0437+>>> 0 0 on | E 1 290 -> -*E-10150+>>> 0 0 on | "
+             "E 1 60, deaf 2 -> -*E-2100+--*E-2100+--*E-2100+>>> 2 4 on | "
+             "E 1 60, late 1900 -> -*E-2100+>>> 0 2 on | "
+             // Arrives during the second try, whose own echo is left over
+             "E 1 70, late 2500 -> -*E-2450+--*E-2450+>>> 1 3 on | E 1 80 -> -*E-2800+>>> 0 0 on | "
+             "E 1 60, silent on -> -*E-2100+--*E-2100+--*E-2100+-- 3 6 on | "
+             "E 1 00 -> -*E-0000+>>> 0 0 off | "
+             "E 1 60, silent on -> -*E-2100+--*E-2100+--*E-2100+-- 3 6 off")) {
+        SCOPED_TRACE(testing::Message() << c);
+        const bool silent = c.in_(1) == "silent on";
+        fault("none");
+        if (!c.in_(1).isEmpty())
+            fault(c.in_(1));
+        if (silent)
+            expectKnown("noController");
         beeps = 0;
-        setFaults(c.faults);
-        EXPECT_TRUE(fnc_BefehlSenden(c.command, c.direction, c.speed));
-        EXPECT_EQ(wire(), c.wire);
-        EXPECT_EQ(beeps, c.beeps);
+        const double start = clock.elapsed();
+        const QStringList words = c.in_(0).split(' ');
+        EXPECT_EQ(fnc_BefehlSenden(words[0], words[1].toShort(), words[2]), !silent);
+        boxes.expectAllCame();
+        EXPECT_EQ(QString("%1 %2 %3 %4")
+                      .arg(wire())
+                      .arg(beeps)
+                      .arg(qRound((clock.elapsed() - start) / 1000))
+                      .arg(gMotorEin ? "on" : "off"),
+                  c.out);
+        EXPECT_EQ(window.moteinEnabled, !gMotorEin);
+        EXPECT_EQ(window.motausEnabled, gMotorEin);
         EXPECT_FALSE(Timer1.enabled());
     }
     EXPECT_TRUE(MSComm1.PortOpen());
-    EXPECT_FALSE(window.moteinEnabled) << "not touched";
-}
-
-TEST_F(OnStand, ASilentControllerIsToldOnceAfterThreeTries) {
-    setFaults({.silent = true});
-    boxes.expect(silentText, "Fehlermeldung", Critical);
-    EXPECT_FALSE(fnc_BefehlSenden("E", 1, "60"));
-    EXPECT_EQ(wire(), "-*E-2100+--*E-2100+--*E-2100+--");
-    EXPECT_EQ(beeps, 3);
-    EXPECT_TRUE(window.moteinEnabled);
-    EXPECT_NEAR(clock.elapsed(), 6000, 200);
-    EXPECT_FALSE(Timer1.enabled());
     motorStillschweigendAus(); // says nothing
-    EXPECT_EQ(boxes.count(), 1u);
     EXPECT_EQ(gKeineMeldung, 0);
 }
 
 TEST_F(OnStand, ExchangesDoNotInterleave) {
-    setFaults({.deafFrames = 1});
-    for (const char *tag : {"Error 5007- ", "Error 5009- ", "Fehler 4000 -  ", "Fehler 4001 -  "})
-        boxes.allow(QString(tag) + "8021 …");
+    fault("deaf 1");
+    expectKnown("lineFailed(5007, 8021)");
+    boxes.expect("Fehler 4000 -  8021 …", "Error", Critical);
+    boxes.expect("Fehler 4001 -  8021 …", "Error", Critical);
+    expectKnown("lineFailed(5009, 8021)");
     clock.stuck = [] { gDesktopAktiv = false; }; // the time-out of the first was lost
     clock.after(500, [] {
         EXPECT_FALSE(leitungFrei());
@@ -86,7 +73,6 @@ TEST_F(OnStand, ExchangesDoNotInterleave) {
     });
     EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
     EXPECT_EQ(wire(), "-*E-2100+--*E-2100+>>>");
-    EXPECT_EQ(boxes.count(), 4u);
     EXPECT_TRUE(leitungFrei());
     EXPECT_TRUE(gDesktopAktiv);
 }
@@ -98,9 +84,9 @@ TEST_F(OnStand, AWaitEndsWithTheDesktop) {
         [] { EXPECT_FALSE(fnc_Reset()); },
         [] { fnc_FrequenzLesen(); },
     };
-    boxes.allow(silentText);
+    expectKnown("noController");
+    fault("silent on");
     for (const auto &wait : waits) {
-        setFaults({.silent = true});
         gDesktopAktiv = true;
         const double start = clock.elapsed();
         clock.after(300, [] { gDesktopAktiv = false; });
@@ -113,7 +99,7 @@ TEST_F(OnStand, AWaitEndsWithTheDesktop) {
 
 TEST_F(OnStand, MotorOffWaitsForTheStandstill) {
     gDrehrichtung = 1;
-    ASSERT_TRUE(fnc_BefehlSenden("E", 1, "60"));
+    EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
     clock.run(20'000);
     wire();
     EXPECT_GT(line.stand().speed(), 59);
@@ -127,72 +113,42 @@ TEST_F(OnStand, MotorOffWaitsForTheStandstill) {
 
     line.unplug();
     MSComm1.setPortOpen(false);
-    boxes.expect("Error 5011- 8002 …", "Error", Critical);
-    boxes.expect("Error 5007- 8002 …", "Error", Critical);
+    expectKnown("lineFailed(5011, 8002)");
+    expectKnown("lineFailed(5007, 8002)");
     EXPECT_FALSE(fnc_MotorAus());
     EXPECT_EQ(window.enabled, 2) << "the window is usable again all the same";
 }
 
-class OnScript : public LinkTest {
-  protected:
-    ScriptedLine line{clock};
-};
+using OnScript = ScriptTest;
 
 TEST_F(OnScript, OnlyTheExactEchoCounts) {
-    const struct {
-        const char *what;
-        std::vector<QByteArray> pieces; // 20 ms apart
-        bool matches;
-    } cases[] = {
-        {"byte by byte", {"E", "-", "2", "1", "0", "0"}, true},
-        {"a byte in front", {"\x55", "E-2100"}, false},
-        {"a byte behind", {"E-2100\n"}, false},
-        {"a byte missing", {"E-210"}, false},
-        {"another frame", {"E-2000"}, false},
-    };
-    boxes.allow(silentText);
-    for (const auto &c : cases) {
-        // The first echo as told, the second as it should be.
-        int frames = 0;
-        line.onWrite = [&](const QByteArray &bytes) {
-            if (bytes != "+")
-                return;
-            if (++frames == 1)
-                line.arrive(c.pieces, 20);
-            else
-                line.arrive({"E-2100"});
+    for (const Case &c : cases("E - 2 1 0 0 -> 1 | U E-2100 -> 2 | E-2100. -> 2 | E-210 -> 2 | "
+                               "E-2000 -> 2")) {
+        int frames = 0; // the first echo as told, the second as it should be
+        script.onWrite = [&](const QByteArray &bytes) {
+            if (bytes == "+" && ++frames == 1)
+                arrive(c.in.toLatin1().split(' '), 20);
+            else if (bytes == "+")
+                arrive({"E-2100"});
         };
-        line.written.clear();
-        EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60")) << c.what;
-        EXPECT_EQ(line.written, c.matches ? "-*E-2100+>>>" : "-*E-2100+--*E-2100+>>>") << c.what;
+        EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60")) << c;
+        EXPECT_EQ(frames, c.out.toInt()) << c;
     }
 }
 
-TEST_F(OnScript, LeftoversAreThrownAwayBeforeTheEcho) {
-    MSComm1.setPortOpen(true);
-    line.arrive({"left over"});
-    clock.run(50);
-    line.onWrite = [&](const QByteArray &bytes) {
-        if (bytes == "+")
-            line.arrive({"E 0000"});
-    };
-    EXPECT_TRUE(fnc_BefehlSenden("E", 2, "0"));
-    EXPECT_EQ(beeps, 0);
-}
-
 TEST_F(OnScript, TheWaitsKeepTheirPlaces) {
-    std::vector<double> times;
-    line.onWrite = [&](const QByteArray &bytes) {
+    MSComm1.setPortOpen(true);
+    arrive({"left over"});
+    std::vector<double> times; // - *frame + > > >
+    script.onWrite = [&](const QByteArray &bytes) {
         times.push_back(clock.elapsed());
         if (bytes == "+")
-            line.arrive({"E-2100"});
+            arrive({"E-2100"});
     };
     EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
-    ASSERT_EQ(times.size(), 6u);                // - *frame + > > >
-    EXPECT_NEAR(times[1] - times[0], 50, 0.01); // long
-    EXPECT_NEAR(times[2] - times[1], 1, 0.01);  // short
-    EXPECT_NEAR(times[4] - times[3], 50, 0.01);
-    EXPECT_NEAR(times[5] - times[4], 50, 0.01);
+    ASSERT_EQ(times.size(), 6u);
+    for (const auto &[wait, milliseconds] : {std::pair{1, 50}, {2, 1}, {4, 50}, {5, 50}})
+        EXPECT_NEAR(times[size_t(wait)] - times[size_t(wait) - 1], milliseconds, 0.01) << wait;
 }
 
 TEST_F(OnScript, MotorOffGivesUpWaitingForTheStandstill) {
@@ -202,28 +158,27 @@ TEST_F(OnScript, MotorOffGivesUpWaitingForTheStandstill) {
     Timer stream(100);
     stream.onTick = [&] {
         if (streaming)
-            line.arrive({QByteArray("\xFF\xFB\x13\x88", 4)}); // 5 Hz, for ever
+            arrive({QByteArray("\xFF\xFB\x13\x88", 4)}); // 5 Hz, for ever
     };
     stream.setEnabled(true);
     QByteArray frame;
-    line.onWrite = [&](const QByteArray &bytes) {
+    script.onWrite = [&](const QByteArray &bytes) {
         if (bytes == "g") // a byte that is there just when the time is over
-            line.arrive({"\xFF"}, 12'001);
+            arrive({"\xFF"}, 12'001);
         streaming = bytes == "g" || (streaming && bytes != "-");
         if (bytes.startsWith('*'))
             frame = bytes.mid(1);
         else if (bytes == "+")
-            line.arrive({frame});
+            arrive({frame});
     };
     EXPECT_TRUE(fnc_MotorAus());
-    EXPECT_EQ(line.written, "-*E 0000+>>>-g-*A 0000+>>>-");
-    EXPECT_GT(clock.elapsed(), 12'000);
-    EXPECT_LT(clock.elapsed(), 12'600);
+    EXPECT_EQ(script.written, "-*E 0000+>>>-g-*A 0000+>>>-");
+    EXPECT_NEAR(clock.elapsed(), 12'300, 300);
     EXPECT_EQ(statMessen.last(), "Timer");
     EXPECT_FALSE(tiDrehzahl.enabled());
 
     // With nothing coming at all it is as long, and nothing is shown.
-    line.onWrite = {};
+    script.onWrite = {};
     const double start = clock.elapsed();
     fnc_FrequenzLesen();
     EXPECT_NEAR(clock.elapsed() - start, 12'000, 50);
@@ -231,47 +186,37 @@ TEST_F(OnScript, MotorOffGivesUpWaitingForTheStandstill) {
 }
 
 TEST_F(OnScript, ModeAndReset) {
-    const auto mode = [] { return int(fnc_BetriebsartLesen()); };
-    const auto reset = [] { return int(fnc_Reset()); };
-    const struct {
-        int (*request)();
-        std::vector<std::vector<QByteArray>> answers; // to each try, pieces 100 ms apart
-        int result;
-        const char *wire;
-        double milliseconds;
-    } cases[] = {
-        {mode, {{"\x07"}}, 1, "#", 0},
-        {mode, {{"\x01"}}, 2, "#", 0},
-        {mode, {{QByteArray(1, '\0')}}, 2, "#", 0},
-        {mode, {{"\x07\x07", "\x07"}}, 1, "#", 200},
-        {mode, {{"\x07\x07"}, {"\x07"}}, 1, "#-#", 10'000},
-        {mode, {}, 0, "#-#-", 20'000},
-        {reset, {{"O", "k", "1"}}, 1, "r", 300},
-        {reset, {{"Ok1\r"}, {"Ok1"}}, 1, "r--r", 20'000},
-        {reset, {{"Ok"}, {"Ok1"}}, 1, "r--r", 20'000},
-        {reset, {{"Ok2"}, {"Err"}}, 0, "r--r--", 40'000},
-    };
-    for (const auto &c : cases) {
-        SCOPED_TRACE(c.wire);
+    for (const Case &c : cases( // the pieces of each answer, 100 ms apart
+             "mode, 7 -> 1 # 0 | mode, 1 -> 2 # 0 | mode, 0 -> 2 # 0 | mode, 77 7 -> 1 # 200 | "
+             "mode, 77/7 -> 1 #-# 10000 | mode -> 0 #-#- 20000 | reset, O k 1 -> 1 r 300 | "
+             "reset, Ok1./Ok1 -> 1 r--r 20000 | reset, Ok/Ok1 -> 1 r--r 20000 | "
+             "reset, Ok2/Err -> 0 r--r-- 40000")) {
+        SCOPED_TRACE(testing::Message() << c);
+        const bool mode = c.in_(0) == "mode";
+        const QStringList wanted = c.out.split(' ');
+        QStringList answers = c.in_(1).split('/');
         Told statMessen(frm::StatMessen);
-        size_t asked = 0;
-        line.onWrite = [&](const QByteArray &bytes) {
-            if (bytes != "-" && asked < c.answers.size())
-                line.arrive(c.answers[asked++], 100);
+        script.onWrite = [&](const QByteArray &bytes) {
+            if (bytes == "-" || answers.isEmpty())
+                return;
+            QByteArrayList pieces = answers.takeFirst().toLatin1().split(' ');
+            for (QByteArray &piece : pieces) {
+                for (char &byte : piece)
+                    byte = mode ? char(byte - '0') : byte;
+            }
+            arrive(pieces, 100);
         };
-        line.written.clear();
-        if (c.result == 0)
-            boxes.expect(c.wire[0] == '#' ? "Keine Daten empfangen!" : "Kein Reset möglich!",
-                         "Meldung", Exclamation);
+        script.written.clear();
+        if (wanted[0] == "0")
+            expectKnown(mode ? "noMode" : "noReset");
         const double start = clock.elapsed();
-        EXPECT_EQ(c.request(), c.result);
-        EXPECT_TRUE(boxes.allCame());
-        EXPECT_EQ(line.written, c.wire);
-        EXPECT_NEAR(clock.elapsed() - start, c.milliseconds, 500);
+        EXPECT_EQ(mode ? fnc_BetriebsartLesen() : fnc_Reset(), wanted[0].toInt());
+        boxes.expectAllCame();
+        EXPECT_EQ(script.written, wanted[1]);
+        EXPECT_NEAR(clock.elapsed() - start, wanted[2].toDouble(), 500);
         EXPECT_FALSE(Timer1.enabled());
-        if (c.milliseconds == 40'000) {
-            EXPECT_EQ(statMessen.last(), "2 Timeout");
-        }
+        const auto timeouts = wanted[1].count("--");
+        EXPECT_EQ(statMessen.last(), timeouts ? QString("%1 Timeout").arg(timeouts) : QString());
     }
 }
 

@@ -1,84 +1,67 @@
 // The running-in countdown.
-
-#include <gtest/gtest.h>
-
 #include "einlaufwert.h"
 #include "linktest.h"
 #include "runtime.h"
 
 namespace {
 
+using namespace support;
+
 TEST(RunningIn, TimeIsMinutesAndSeconds) {
-    const struct {
-        double time;
-        int minutes, seconds;
-    } cases[] = {{0, 0, 0},     {10.75, 10, 75}, {59.99, 59, 99}, {0.29, 0, 29},
-                 {0.57, 0, 57}, {1.15, 1, 15},   {5, 5, 0},       {10.305, 10, 30}};
-    for (const auto &c : cases) {
-        gEinlaufzeit = c.time;
+    for (const Case &c : cases("0 -> 0 0 | 10.75 -> 10 75 | 59.99 -> 59 99 | 0.29 -> 0 29 | "
+                               "0.57 -> 0 57 | 1.15 -> 1 15 | 5 -> 5 0 | 10.305 -> 10 30")) {
+        gEinlaufzeit = c.in.toDouble();
         einlaufzeitSetzen();
-        EXPECT_EQ(gEinlaufMin, c.minutes) << c.time;
-        EXPECT_EQ(gEinlaufSek, c.seconds) << c.time;
+        EXPECT_EQ(QString("%1 %2").arg(gEinlaufMin).arg(gEinlaufSek), c.out) << c;
     }
 }
 
 TEST(RunningIn, IsOverOneTickAfterZero) {
-    const struct {
-        std::int16_t minutes, seconds;
-        int ticks;
-    } cases[] = {{0, 0, 1}, {0, 1, 2}, {1, 0, 61}, {10, 75, 676}, {59, 99, 3640}};
-    for (const auto &c : cases) {
-        gEinlaufMin = c.minutes;
-        gEinlaufSek = c.seconds;
+    for (const Case &c : cases("0 0 -> 1 | 0 1 -> 2 | 1 0 -> 61 | 10 75 -> 676 | 59 99 -> 3640")) {
+        gEinlaufMin = c.in.section(' ', 0, 0).toShort();
+        gEinlaufSek = c.in.section(' ', 1).toShort();
         int ticks = 1;
         while (!einlaufSekunde())
             ++ticks;
-        EXPECT_EQ(ticks, c.ticks) << c.minutes << ':' << c.seconds;
+        EXPECT_EQ(ticks, c.out.toInt()) << c;
         EXPECT_EQ(gEinlaufMin, 0);
         EXPECT_EQ(gEinlaufSek, 0);
     }
 }
 
 TEST(RunningIn, EntriesTakeBothDecimalSigns) {
-    const struct {
-        const char *text;
-        std::optional<double> german, english;
-    } cases[] = {
-        {"10.30", 10.3, 10.3}, {"10,3", 10.3, 10.3}, {" 0 ", 0, 0},   {"59,99", 59.99, 59.99},
-        {"60", {}, {}},        {"-0.1", {}, {}},     {"", {}, {}},    {"zehn", {}, {}},
-        {"7 5", {}, {}},       {"1e999", {}, {}},    {"nan", {}, {}}, {"1.000", 1, 1},
-        {"1,000", 1, 1}};
-    for (const bool german : {true, false}) {
-        platform::setNumberLocale(german ? QLocale(QLocale::German, QLocale::Germany)
-                                         : QLocale(QLocale::English, QLocale::UnitedStates));
-        for (const auto &c : cases)
-            EXPECT_EQ(einlaufWert(c.text, einlaufzeitGrenze), german ? c.german : c.english)
-                << c.text;
+    for (const QLocale::Language language : {QLocale::German, QLocale::English}) {
+        platform::setNumberLocale(QLocale(language));
+        for (const Case &c :
+             cases("10.30 -> 10.3 | 10,3 -> 10.3 | \" 0 \" -> 0 | 59,99 -> 59.99 | 60 -> | "
+                   "-0.1 -> | -> | zehn -> | 7 5 -> | 1e999 -> | nan -> | 1.000 -> 1 | 1,000 -> 1"))
+            EXPECT_EQ(einlaufWert(c.in, einlaufzeitGrenze),
+                      c.out.isEmpty() ? std::nullopt : std::optional(c.out.toDouble()))
+                << c;
     }
-    platform::setNumberLocale(QLocale());
 }
 
 class Countdown : public LinkTest {
   protected:
+    void begin(double time) {
+        gEinlaufzeit = time;
+        einlaufzeitSetzen();
+        einlaufStarten();
+    }
     Told notice{frm::Meldung1};
 };
 
 TEST_F(Countdown, RunsOnTheWindowOfTheMotor) {
-    gEinlaufzeit = 1.01;
-    einlaufzeitSetzen();
-    einlaufStarten();
-    clock.run(1500);
-    EXPECT_EQ(window.einlauf, "01:00");
+    begin(1.01);
+    for (const auto &[milliseconds, shown] :
+         {std::pair{1500, "01:00"}, {1000, "00:59"}, {59'000, "00:00"}}) {
+        clock.run(milliseconds);
+        EXPECT_EQ(window.einlauf, shown);
+    }
+    EXPECT_FALSE(gEingelaufen || loaded(frm::Meldung1)->isVisible());
     clock.run(1000);
-    EXPECT_EQ(window.einlauf, "00:59");
-    clock.run(59'000);
+    EXPECT_TRUE(gEingelaufen && loaded(frm::Meldung1)->isVisible());
     EXPECT_EQ(window.einlauf, "00:00");
-    EXPECT_FALSE(gEingelaufen);
-    EXPECT_FALSE(loaded(frm::Meldung1)->isVisible());
-    clock.run(1000);
-    EXPECT_TRUE(gEingelaufen);
-    EXPECT_EQ(window.einlauf, "00:00");
-    EXPECT_TRUE(loaded(frm::Meldung1)->isVisible());
     EXPECT_EQ(beeps, 1);
     EXPECT_FALSE(tiEinlauf.enabled());
     EXPECT_EQ(gFormStatus, 0);
@@ -89,22 +72,18 @@ TEST_F(Countdown, RunsOnTheWindowOfTheMotor) {
 
 TEST_F(Countdown, RunsOnTheCalibrationWhileThatIsInFront) {
     Told calibration(frm::Kalibrierung);
-    gFormStatus = 3;
-    gEinlaufzeit = 0.01;
-    einlaufzeitSetzen();
-    einlaufStarten();
+    gFormStatus = formstatus::Einlaufen;
+    begin(0.01);
     clock.run(1500);
     EXPECT_EQ(calibration.last(), "00:00");
-    EXPECT_EQ(gFormStatus, 3);
+    EXPECT_EQ(gFormStatus, formstatus::Einlaufen);
     clock.run(1000);
-    EXPECT_EQ(gFormStatus, 4);
+    EXPECT_EQ(gFormStatus, formstatus::Korrektur);
     EXPECT_EQ(window.einlauf, "");
 }
 
 TEST_F(Countdown, EndsWithTheDesktop) {
-    gEinlaufzeit = 1;
-    einlaufzeitSetzen();
-    einlaufStarten();
+    begin(1);
     clock.after(500, [] { gDesktopAktiv = false; });
     clock.run(3000);
     EXPECT_FALSE(tiEinlauf.enabled());

@@ -1,22 +1,15 @@
 // The receiving end of the six-round stream: what is shown, what ends it, what a person is told.
+#include "empfang.h"
 
 #include "../link/linktest.h"
-#include "empfang.h"
 
 namespace {
 
-using namespace platform;
+const QByteArray frame = QByteArray::fromHex("ffff17700bb8004650"); // 60.00, 30.00, 180.00
 
-const QByteArray frame("\xFF\xFF\x17\x70\x0B\xB8\x00\x46\x50", 9); // 60.00, 30.00, 180.00
-
-class Reception : public LinkTest, protected Messanzeige {
+class Reception : public support::ScriptTest, protected Messanzeige {
   protected:
-    Reception() {
-        gMessStatus = 0;
-        gStopMessung = false;
-        gTimeoutTimer1 = false;
-        MSComm1.setPortOpen(true);
-    }
+    Reception() { MSComm1.setPortOpen(true); }
     void zeigeDrehzahl(double value) override { show("n", value); }
     void zeigeDrehmoment(double value) override { show("D", value); }
     void zeigeLeistung(double value) override { show("P", value); }
@@ -26,11 +19,10 @@ class Reception : public LinkTest, protected Messanzeige {
     void show(const QString &what, double value) {
         shown += what + QString::number(value) + ' ';
         if (what == endsAt)
-            gMessStatus = 1;
+            gMessStatus = messstatus::Speichern;
     }
     void receive() { reception.fnc_SechsRundenEmpfang(*this); }
 
-    ScriptedLine line{clock};
     SechsRundenEmpfang reception;
     QString shown;
     QString endsAt = "frame"; // the value that makes a person save
@@ -38,68 +30,64 @@ class Reception : public LinkTest, protected Messanzeige {
 };
 
 TEST_F(Reception, ShowsEachValueAsItComes) {
-    line.arrive({frame.left(5)}); // left over from before
+    arrive({frame.left(5)}); // left over from before
     clock.run(50);
-    line.arrive({frame.left(4), frame.mid(4) + frame}, 100);
+    arrive({frame.left(4), frame.mid(4) + frame}, 100);
     receive();
     EXPECT_EQ(shown, "n60 D30 P180 frame0 ") << "nothing behind the end";
 
-    gMessStatus = 0;
+    gMessStatus = messstatus::Messen;
     shown.clear();
     endsAt = "n";
-    line.arrive({frame});
+    arrive({frame});
     receive();
     EXPECT_EQ(shown, "n60 ") << "a frame half read is abandoned";
-    EXPECT_EQ(line.written, "") << "the stream is ended by who began it";
+    EXPECT_EQ(script.written, "") << "the stream is ended by who began it";
 }
 
 TEST_F(Reception, EndsWhenANewerPassOrTheEndOfTheProgramWantsIt) {
     const std::function<void()> ends[] = {[this] { superseded = true; },
-                                          [] { gDesktopAktiv = false; }, [] { gMessStatus = 4; }};
+                                          [] { gDesktopAktiv = false; },
+                                          [] { gMessStatus = messstatus::Ende; }};
     for (const auto &end : ends) {
         superseded = false;
         gDesktopAktiv = true;
-        gMessStatus = 0;
         const double start = clock.elapsed();
         clock.after(5000, end);
         receive();
         EXPECT_NEAR(clock.elapsed() - start, 5000, 1);
     }
-    EXPECT_EQ(boxes.count(), 0u) << "nor is silence reported";
-    clock.run(40'000);
+    clock.run(40'000); // nor is silence reported
 }
 
 TEST_F(Reception, AFrameThatDoesNotEndIsReportedAndTheReceptionGoesOn) {
     // Bytes go on coming; the time runs from the first.
-    line.arrive({frame.left(3), "\x01", "\x02"}, 5000);
-    boxes.expect("Keine Daten bei ca. 3 x 6 Runden!", OK, [this] {
+    arrive({frame.left(3), "\x01", "\x02"}, 5000);
+    expectKnown("noData", platform::OK, [this] {
         EXPECT_NEAR(clock.elapsed(), 23'000, 10);
-        line.arrive({frame.mid(5), frame}, 1000); // ends the spoilt one
+        arrive({frame.mid(5), frame}, 1000); // ends the spoilt one
     });
     endsAt = "";
-    clock.after(40'000, [] { gMessStatus = 4; });
+    clock.after(40'000, [] { gMessStatus = messstatus::Ende; });
     receive();
     EXPECT_TRUE(gStopMessung);
-    EXPECT_EQ(boxes.seen().back().title, "Kommunikationsfehler");
-    EXPECT_EQ(boxes.seen().back().flags, Critical);
-    EXPECT_TRUE(shown.endsWith("n60 D30 P180 frame0 ")) << shown.toStdString();
+    EXPECT_TRUE(shown.endsWith("n60 D30 P180 frame0 ")) << shown;
 }
 
-TEST_F(Reception, ATimeOutLeftRunningEndsIt) {
+TEST_F(Reception, TimeOutsAndALostLineAreTold) {
     gSprache = 2;
-    clock.after(1000, [] { gTimeoutTimer1 = true; });
-    boxes.expect("No reception after 18 sec", "Message", Exclamation);
+    clock.after(1000, [] { gTimeoutTimer1 = true; }); // left running
+    expectKnown("noReception");
     receive();
     EXPECT_FALSE(gTimeoutTimer1);
-    EXPECT_EQ(gMessStatus, 0);
-}
-
-TEST_F(Reception, ALostLineIsReported) {
-    clock.after(1000, [this] { line.gone = true; });
-    boxes.expect("Fehler 3002 -  8020 …");
+    EXPECT_EQ(gMessStatus, messstatus::Messen);
+    arrive({frame.left(5)}); // the watch over it ends with the reception
+    clock.after(1000, [this] { line.unplug(); });
+    expectKnown("lineLost");
     receive();
     EXPECT_FALSE(MSComm1.PortOpen());
-    boxes.expect("Fehler 3001 -  8018 …");
+    clock.run(40'000);
+    expectKnown("failed(3001, 8018)");
     fnc_SechsRundenStarten();
 }
 
