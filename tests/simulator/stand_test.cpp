@@ -7,9 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <numeric>
+#include <numbers>
 #include <utility>
-#include <vector>
 
 using namespace simulator;
 using std::string;
@@ -54,48 +53,18 @@ unsigned number(const string &bytes, std::size_t at, std::size_t size) {
     return value;
 }
 
-/// The values of records that begin with two marks and are `size` long.
-std::vector<double> values(const string &bytes, const string &marks, std::size_t size,
-                           double scale) {
-    std::vector<double> found;
-    EXPECT_EQ(bytes.size() % size, 0u);
-    for (std::size_t at = 0; at + size <= bytes.size(); at += size) {
-        EXPECT_EQ(bytes.substr(at, 2), marks);
-        found.push_back(number(bytes, at + 2, size - 2) / scale);
-    }
-    return found;
-}
-
 /// The mean of the 25 samples from there on.
-double mean(Bench &bench, char command, std::ptrdiff_t from) {
+double mean(Bench &bench, char command, std::size_t from) {
     bench.send(string(1, command));
     const string bytes = bench.events(3600);
     bench.send("-");
     bench.wait(10);
-    const auto all = values(bytes, command == 'f' ? "\xFF\xFA" : "\xFF\xFD", 5, 10);
-    return std::accumulate(all.begin() + from, all.begin() + from + 25, 0.0) / 25;
-}
-
-struct SixRounds {
-    double time, speed, torque, power;
-};
-
-std::vector<SixRounds> sixRounds(Bench &bench, double ms) {
-    std::vector<SixRounds> frames;
-    bench.send("6");
-    const double begin = bench.now;
-    for (const double end = begin + ms; bench.now < end;) {
-        bench.now = std::min(end, bench.stand.nextEvent().value_or(end));
-        const string bytes = bench.stand.take(bench.now);
-        if (bytes.empty())
-            continue;
-        EXPECT_EQ(bytes.size(), 9u);
-        EXPECT_EQ(bytes.substr(0, 2), "\xFF\xFF");
-        frames.push_back({bench.now - begin, number(bytes, 2, 2) / 100.0,
-                          number(bytes, 4, 2) / 100.0, number(bytes, 6, 3) / 100.0});
+    double sum = 0;
+    for (std::size_t at = 5 * from; at < 5 * (from + 25); at += 5) {
+        EXPECT_EQ(bytes.substr(at, 2), command == 'f' ? "\xFF\xFA" : "\xFF\xFD");
+        sum += number(bytes, at + 2, 3) / 10.0;
     }
-    bench.send("-");
-    return frames;
+    return sum / 25;
 }
 
 } // namespace
@@ -175,14 +144,6 @@ TEST(Stand, StaticReadingsSettleOnTheirValues) {
         EXPECT_NEAR(centre, Stand::CentreRaw + offset, 0.5) << "10 mN m";
         EXPECT_NEAR(mean(bench, 't', 150) - centre, Stand::GainRaw + gain, 0.5);
     }
-    Bench lever;
-    lever.stand.setLeverMode(true);
-    for (const auto &[side, moment] :
-         {std::pair{LeverArm::Left, -30.0}, {LeverArm::Right, 30.0}, {LeverArm::None, 0.0}}) {
-        lever.stand.setLeverArm(side); // here no sample is thrown away
-        const double raw = mean(lever, 'f', 0);
-        EXPECT_NEAR((raw - Stand::CentreRaw) / Stand::RawPerNm, moment, 0.01);
-    }
 }
 
 TEST(Stand, SixRoundsMeasureSpeedTorqueAndPower) {
@@ -192,31 +153,30 @@ TEST(Stand, SixRoundsMeasureSpeedTorqueAndPower) {
         bench.stand.setTorqueError(0.5);
         bench.stand.setCoupled(coupled);
         bench.drive("E-2100", 20000);
-        const std::vector<SixRounds> frames = sixRounds(bench, 12100);
-        ASSERT_EQ(frames.size(), 2u);
-        const double omega = 2 * std::numbers::pi;
-        const double torque = coupled ? 180 / omega + 0.5 : 0;
-        EXPECT_NEAR(frames[0].time, 6000, 6);
-        EXPECT_NEAR(frames[1].speed, 60, 0.05);
-        EXPECT_NEAR(frames[1].torque, torque, 0.05);
-        EXPECT_NEAR(frames[1].power, torque * omega, 0.4);
+        bench.send("6");
+        const string frames = bench.events(6006) + bench.events(6006);
+        ASSERT_EQ(frames.size(), 18u);
+        const double omega = 2 * std::numbers::pi, torque = coupled ? 180 / omega + 0.5 : 0;
+        EXPECT_EQ(frames.substr(9, 2), "\xFF\xFF");
+        EXPECT_NEAR(number(frames, 11, 2) / 100.0, 60, 0.05);
+        EXPECT_NEAR(number(frames, 13, 2) / 100.0, torque, 0.05);
+        EXPECT_NEAR(number(frames, 15, 3) / 100.0, torque * omega, 0.4);
+        bench.send("-");
         bench.drive("E-0000", 20000);
-        EXPECT_EQ(sixRounds(bench, 12100).size(), 2u) << "at rest too";
+        bench.send("6");
+        EXPECT_EQ(bench.events(12100).size(), 18u) << "at rest too";
     }
 }
 
-TEST(Stand, CutFramesAndSilenceInAStream) {
+TEST(Stand, SilenceEndsNoStream) {
     Bench bench;
     bench.drive("E-2100");
-    bench.stand.setFaults({.cutEvery = 2});
     bench.send("6");
-    for (const size_t bytes : {9, 5, 9})
-        EXPECT_EQ(bench.events(6050).size(), bytes);
     bench.stand.setFaults({.silent = true});
     EXPECT_FALSE(bench.stand.nextEvent());
     EXPECT_EQ(bench.wait(30000), "");
     bench.stand.setFaults({});
-    EXPECT_EQ(bench.events(6000).size(), 9u) << "the stream went on underneath";
+    EXPECT_EQ(bench.events(6050).size(), 9u) << "it went on underneath";
 }
 
 TEST(Stand, Requests) {
