@@ -1,269 +1,130 @@
 // Customers and units: found while typing, by a search and by what belongs to them, and chosen.
-#include "choosing.h"
+#include "front.h"
+#include "session.h"
+#include "workplace.h"
 
 namespace {
 
 using namespace support;
-using namespace platform;
 
-class Customers : public Choosing {
+class Choosers : public Workplace {
   protected:
-    static void typed(const char *what) { type(frm::Kunden, "cmbKundenname", what); }
-    static QString box() { return text(frm::Kunden, "cmbKundenname"); }
-    static QString list() { return listed(frm::Kunden, "lstKunden").join('+'); }
-    static QString count() {
-        const QString label = english() ? "Number Of Customers In The List: " : "Kundenanzahl: ";
-        return text(frm::Kunden, "Label").remove(label);
-    }
-    static std::string details() {
-        QStringList shown;
-        for (const char *field : {"lbName", "txtStraße", "txtPLZ", "txtOrt"})
-            shown += text(frm::Kunden, field);
-        return shown.join('|').toStdString();
+    Choosers() {
+        views["session"] = [] {
+            return QString("%1 %2 %3").arg(gKundenID).arg(gGerätID).arg(gRezeptID);
+        };
+        views["found"] = [] { // what is listed, and what is shown of a customer
+            QStringList shown;
+            for (const char *field : {"lbName", "txtStraße", "txtPLZ", "txtOrt"})
+                shown += text(frm::Kunden, field);
+            return rowsOf(control(frm::Kunden, "lstKunden")) + " =" +
+                   text(frm::Kunden, "Label").section(':', 1) + ' ' + shown.join('|');
+        };
     }
 };
-using Units = Choosing;
 
-INSTANTIATE_TEST_SUITE_P(Languages, Customers, testing::Values(1, 2));
-INSTANTIATE_TEST_SUITE_P(Languages, Units, testing::Values(1, 2));
-
-const Text search{"Suchen", "Search"};
-
-TEST_P(Customers, AreFilteredWhileTyping) {
-    const struct {
-        const char *typed, *found, *details = "|||";
-    } cases[] = {
-        {"klinik", "Klinikum Ährenfeld+Reha-Klinik Sonnenhöhe"},
-        {"ahrenfeld", "Klinikum Ährenfeld"},
-        {"ÖZTÜRK-W", "Praxis Dr. Öztürk-Weiß"},
-        {"  malley's ", "O'Malley's Gym & Physio"},
-        {"spo*LIRR", "Sportwissenschaftliches Institut Lirrstadt"},
-        {"h?rz", "Herzzentrum Talbrück"},
-        {"(", ""},
-        {"herzzentrum talbrück", "Herzzentrum Talbrück",
-         "Herzzentrum Talbrück|Am Mühlbach 3|57413|Talbrück"},
-        {"Herzzentrum Talbrücke", ""},
-    };
-    const auto journey = [&, this]() -> Journey {
-        co_await open("pbKunde", frm::Kunden);
-        EXPECT_TRUE(focused(frm::Kunden, "cmbKundenname"));
-        EXPECT_EQ(offered(frm::Kunden, "cmbOrt").mid(0, 4),
-                  (QStringList{"", "Ährenfeld", "Ashcombe Vale", "Bad Quellingen"}));
-        for (const auto &c : cases) {
-            typed(c.typed);
-            EXPECT_EQ(box(), c.typed) << "nothing is typed for the person";
-            EXPECT_EQ(list(), c.found) << c.typed;
-            EXPECT_EQ(details(), c.details) << c.typed;
-            EXPECT_EQ(count().toInt(), listed(frm::Kunden, "lstKunden").size());
-        }
-        // Enter completes; a text that fits nothing is told.
-        expectNothingFound(search);
-        enter(frm::Kunden, "cmbKundenname");
-        typed("klinik");
-        enter(frm::Kunden, "cmbKundenname");
-        EXPECT_EQ(box(), "Klinikum Ährenfeld") << "one of two: to be confirmed";
-        for (int rows = 0; rows < 2; ++rows)
-            key(frm::Kunden, "cmbKundenname", Qt::Key_Down);
-        EXPECT_EQ(details(), "Reha-Klinik Sonnenhöhe|Kurweg 8|83958|Bad Quellingen");
-        key(frm::Kunden, "cmbKundenname", Qt::Key_Up);
-        EXPECT_EQ(details(), "Klinikum Ährenfeld|Lindenallee 12|36902|Ährenfeld");
-
-        pick(frm::Kunden, "cmbOrt", "Großlohe");
-        EXPECT_EQ(box(), "");
-        EXPECT_EQ(count(), "2");
-        typed("klinik");
-        EXPECT_EQ(count(), "0");
-    };
-    run(journey());
+JOURNEY_P(Choosers, FilterCustomersWhileTyping) {
+    co_await logIn();
+    co_await go(R"(
+        pbKunde ; @Kunden ; focus cmbKundenname ; cmbOrt rows~ ^\+Ährenfeld\+Ashcombe Vale\+Bad Quellingen\+
+        Label == Kundenanzahl: 12 | Number Of Customers In The List: 12
+        # Nothing is typed for the person.
+        cmbKundenname = klinik ; found == Klinikum Ährenfeld+Reha-Klinik Sonnenhöhe = 2 ||| ; cmbKundenname == klinik
+        cmbKundenname = ahrenfeld ; found == Klinikum Ährenfeld = 1 |||
+        cmbKundenname = ÖZTÜRK-W ; found == Praxis Dr. Öztürk-Weiß = 1 ||| ; cmbKundenname == ÖZTÜRK-W
+        cmbKundenname =   malley's ; found == O'Malley's Gym & Physio = 1 |||
+        cmbKundenname = spo*LIRR ; found == Sportwissenschaftliches Institut Lirrstadt = 1 |||
+        cmbKundenname = h?rz ; found == Herzzentrum Talbrück = 1 |||
+        cmbKundenname = ( ; found ==  = 0 |||
+        cmbKundenname = herzzentrum talbrück ; cmbKundenname == herzzentrum talbrück
+        found == Herzzentrum Talbrück = 1 Herzzentrum Talbrück|Am Mühlbach 3|57413|Talbrück
+        cmbKundenname = Herzzentrum Talbrücke ; found ==  = 0 ||| ; ? nothingFound ; cmbKundenname !
+        # One of two: to be confirmed.
+        cmbKundenname = klinik ; cmbKundenname ! ; cmbKundenname == Klinikum Ährenfeld ; key Down 2
+        found ~ = 2 Reha-Klinik Sonnenhöhe.Kurweg 8.83958.Bad Quellingen$
+        key Ctrl+Up ; lbName == Reha-Klinik Sonnenhöhe
+        key Up ; found ~ = 2 Klinikum Ährenfeld.Lindenallee 12.36902.Ährenfeld$
+        cmbKundenname = ; key PgDown ; lbName == Sportwissenschaftliches Institut Lirrstadt
+        key PgUp ; lbName == Fitnessstudio Kraftwerk Süd
+        cmbOrt > Großlohe ; cmbKundenname == ; found ~ = 2 ; cmbKundenname = klinik ; found ~ = 0)");
 }
 
-TEST_P(Customers, AreSearchedForByWholeNames) {
-    const auto journey = [this]() -> Journey {
-        co_await open("pbKunde", frm::Kunden);
-        for (const char *nothing : {"", "  "}) {
-            paste(frm::Kunden, "cmbKundenname", nothing);
-            expectTold({"Bitte geben Sie den Suchtext im Feld Kundenname ein!",
-                        "To search, enter the text into the field 'Customer'!"},
-                       search);
-            press(frm::Kunden, "pbSearch");
-        }
-        pick(frm::Kunden, "cmbOrt", "Lirrstadt");
-        // Towns are not searched, and ß is not SS.
-        for (const char *nobody : {"Klinik", "?linik", "*x*y*z*", "*GROSSLOHE*"}) {
-            typed(nobody);
-            expectNothingFound(search);
-            press(frm::Kunden, "pbSearch");
-            EXPECT_EQ(box(), nobody);
-            EXPECT_TRUE(focused(frm::Kunden, "cmbKundenname"));
-        }
-        EXPECT_EQ(text(frm::Kunden, "cmbOrt"), "Lirrstadt");
-        typed("*klinik*");
-        press(frm::Kunden, "pbSearch");
-        EXPECT_EQ(list(), "Klinikum Ährenfeld+Reha-Klinik Sonnenhöhe");
-        EXPECT_EQ(text(frm::Kunden, "cmbOrt"), "") << "all towns were searched";
-        EXPECT_EQ(details(), "|||");
-        EXPECT_EQ(count(), "2");
-        typed("st aldwyn*unit");
-        press(frm::Kunden, "pbSearch");
-        EXPECT_EQ(details(),
-                  "St Aldwyn Hospital, Cardiac Unit|Ashcombe Road|AV1 7QT|Ashcombe Vale");
-        expectUnitQuestion(No);
-        enter(frm::Kunden, "cmbKundenname");
-        co_await arrive(frm::Desktop);
-        EXPECT_EQ(gKundenID, 12);
-    };
-    run(journey());
+JOURNEY_P(Choosers, SearchForWholeNames) {
+    co_await logIn();
+    co_await go(R"(
+        pbKunde ; @Kunden ; ? searchText ; pbSearch ; key Space ; ? searchText ; pbSearch ; cmbOrt > Lirrstadt)");
+    // Towns are not searched, and ß is not SS.
+    for (const char *nobody : {"Klinik", "?linik", "*x*y*z*", "*GROSSLOHE*"})
+        co_await go(QString("cmbKundenname = %1 ; ? nothingFound ; pbSearch ; "
+                            "cmbKundenname == %1 ; focus cmbKundenname")
+                        .arg(nobody));
+    co_await go(R"(
+        cmbOrt == Lirrstadt ; cmbKundenname = *klinik* ; pbSearch ; cmbOrt ==    # all towns were searched
+        found == Klinikum Ährenfeld+Reha-Klinik Sonnenhöhe = 2 |||
+        cmbKundenname = st aldwyn*unit ; pbSearch
+        found ~ = 1 St Aldwyn Hospital, Cardiac Unit.Ashcombe Road.AV1 7QT.Ashcombe Vale$
+        ? unitNow no ; cmbKundenname ! ; @Desktop ; session == 12 0 0
+        # Of two with one name the one of this town.
+        change INSERT INTO Kunden (KundenID, Name, Ort) VALUES (50, 'Klinikum Ährenfeld', 'Talbrück')
+        pbKunde ; @Kunden ; cmbOrt > Talbrück ; cmbKundenname = Klinikum Ährenfeld ; txtOrt == Talbrück
+        ? unitNow no ; lstKunden ! ; @Desktop ; session == 50 0 0)");
 }
 
-TEST_P(Customers, ChoosingChangesTheDesktop) {
-    const auto journey = [this]() -> Journey {
-        co_await logIn();
-        EXPECT_FALSE(canPress(frm::Desktop, "pbGerät"));
-        co_await open("pbKunde", frm::Kunden);
-        expectTold({"Bitte wählen sie zuerst einen Kunden aus!", "Please select a customer first!"},
-                   {"Achtung!", "Attention"});
-        press(frm::Kunden, "pbexit");
-        EXPECT_TRUE(inFront(frm::Kunden));
-        press(frm::Kunden, "pbAbbrechen");
-        co_await arrive(frm::Desktop);
-        co_await recipe("Kurzprüfung");
-        co_await customer("klinikum ährenfeld");
-        EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));
-        co_await unit("AEH-001");
-        // The same customer keeps the unit; another one has to bring a unit of his own.
-        co_await customer("Klinikum Ährenfeld");
-        EXPECT_EQ(desktop(),
-                  "Klinikum Ährenfeld|KE 200 med|AEH-001|Kurzprüfung|medizinische Geräte");
-        EXPECT_TRUE(canPress(frm::Desktop, "pbMessen"));
-        co_await customer("Herzzentrum Talbrück", Yes);
-        EXPECT_EQ(text(frm::Gerät, "laKunde"), "Herzzentrum Talbrück");
-        press(frm::Gerät, "pbexit");
-        co_await arrive(frm::Desktop);
-        EXPECT_EQ(desktop(), "Herzzentrum Talbrück|||Kurzprüfung|medizinische Geräte");
-        EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));
-        EXPECT_FALSE(control<QAction>(frm::Desktop, "mnuStartMessen")->isEnabled());
-        co_await unit("hzt-2", Yes);
-        press(frm::Rezepte, "pbexit");
-        co_await arrive(frm::Desktop);
-        EXPECT_EQ(desktop(),
-                  "Herzzentrum Talbrück|KE 300 BD|HZT-2|Kurzprüfung|medizinische Geräte");
-        EXPECT_TRUE(canPress(frm::Desktop, "pbMessen"));
-        co_await pass(500);
-        EXPECT_TRUE(inFront(frm::Desktop)) << "the next step is taken once";
-    };
-    run(journey());
+JOURNEY_P(Choosers, ChangeTheDesktop) {
+    co_await logIn();
+    co_await go(R"(
+        cannot pbGerät ; pbKunde ; @Kunden ; ? chooseCustomer ; pbexit ; front == Kunden ; pbAbbrechen ; @Desktop
+        pbRezept ; @Rezepte ; cmbRezeptname = Kurzprüfung ; pbok ; @Desktop
+        pbKunde ; @Kunden ; cmbKundenname = klinikum ährenfeld ; ? unitNow no ; pbexit ; @Desktop ; cannot pbMessen
+        pbGerät ; @Gerät ; cmbIdent = AEH-001 ; ? recipeNow no ; pbok ; @Desktop
+        # The same customer keeps the unit; another one has to bring a unit of his own.
+        pbKunde ; @Kunden ; cmbKundenname = Klinikum Ährenfeld ; ? unitNow no ; pbexit ; @Desktop
+        desktop == Klinikum Ährenfeld|KE 200 med|AEH-001|Kurzprüfung|medizinische Geräte ; can pbMessen
+        pbKunde ; @Kunden ; cmbKundenname = Herzzentrum Talbrück ; ? unitNow yes ; pbexit ; @Gerät
+        laKunde == Herzzentrum Talbrück ; pbexit ; @Desktop ; cannot pbMessen mnuStartMessen
+        desktop == Herzzentrum Talbrück|||Kurzprüfung|medizinische Geräte
+        pbGerät ; @Gerät ; cmbIdent = hzt-2 ; ? recipeNow yes ; pbok ; @Rezepte ; pbexit ; @Desktop
+        desktop == Herzzentrum Talbrück|KE 300 BD|HZT-2|Kurzprüfung|medizinische Geräte ; can pbMessen
+        pass 500 ; front == Desktop    # the next step is taken once)");
 }
 
-TEST_P(Units, AndTheOthersAreLeftWithoutAChoice) {
-    const struct {
-        const char *button;
-        frm name;
-        const char *field, *entry, *cancel;
-    } choosers[] = {
-        {"pbKunde", frm::Kunden, "cmbKundenname", "Kantonsspital Seewilen", "pbAbbrechen"},
-        {"pbGerät", frm::Gerät, "cmbIdent", "AEH-002", "pbexit"},
-        {"pbRezept", frm::Rezepte, "cmbRezeptname", "Studio Dauerbetrieb", "pbexit"},
-    };
-    const auto session = [] { return QList<int>{gKundenID, gGerätID, gRezeptID, gToleranzID}; };
-    const auto journey = [&, this]() -> Journey {
-        co_await select();
-        const QList<int> chosen = session();
-        front().setMessenEnabled(false); // after a failed correction: only a choice helps
-        for (const auto &c : choosers) {
-            for (const char *way : {c.cancel, "Escape", ""}) {
-                co_await open(c.button, c.name);
-                paste(c.name, c.field, c.entry);
-                const bool unread = c.name == frm::Rezepte && !*way;
-                if (unread) {
-                    change("ALTER TABLE Toleranzen RENAME TO fort");
-                    expectFailure("1015");
-                }
-                leaveBy(c.name, way);
-                co_await arrive(frm::Desktop);
-                if (unread)
-                    change("ALTER TABLE fort RENAME TO Toleranzen");
-                EXPECT_FALSE(loaded(c.name)) << way;
-                EXPECT_EQ(desktop(),
-                          "Klinikum Ährenfeld|KE 200 med|AEH-001|Kurzprüfung|medizinische Geräte");
-                EXPECT_EQ(session(), chosen) << c.button << way;
-                EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));
-            }
-        }
-    };
-    run(journey());
+JOURNEY_P(Choosers, AreLeftWithoutAChoice) {
+    co_await select();
+    front().setMessenEnabled(false); // after a failed correction: only a choice helps
+    co_await go(R"(
+        pbKunde ; @Kunden ; cmbKundenname := Kantonsspital Seewilen ; key Escape ; @Desktop
+        pbGerät ; @Gerät ; cmbIdent := AEH-002 ; key Escape ; @Desktop
+        pbRezept ; @Rezepte ; cmbRezeptname := Studio Dauerbetrieb ; key Escape ; @Desktop ; session == 1 1 1
+        pbRezept ; @Rezepte ; cmbRezeptname := Studio Dauerbetrieb
+        spoil SELECT Toleranzen ; ? failure(1015) ; close ; @Desktop ; mend ; session == 1 1 1
+        desktop == Klinikum Ährenfeld|KE 200 med|AEH-001|Kurzprüfung|medizinische Geräte ; cannot pbMessen)");
+    EXPECT_EQ(gToleranzID, 1);
 }
 
-TEST_P(Units, AreChosenByIdentOrByTheOnlyOneOfAType) {
+JOURNEY_P(Choosers, TakeUnitsByIdentOrTheOnlyOneOfAType) {
     change("INSERT INTO Ergometer (GerätID, KundenID, Gerätetyp, IdentNr) "
            "VALUES (60090, 1, 'Ohne Nummer', '')");
-    const Text noUnit{"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"};
-    const Text notHis{"Kunde besitzt kein Gerät mit dieser ID-Nummer!",
-                      "The customer does not have a unit with this ID number!"};
-    const Text several{"Es gibt mehrere Geräte diesen Typs!\r"
-                       "Wählen sie zur genauen Bestimmung eine ID-Nummer aus!",
-                       "There are several units of this type!\r"
-                       "Select an ID number in order to exactly define the unit!"};
-    const struct {
-        const char *type, *ident;
-        const Text &why;
-    } refused[] = {
-        {"", "", noUnit},
-        {"", "HZT-1", notHis}, // another customer's
-        {"", "AEH-0", notHis}, // part of several
-        {"KE 200 med", "", several},
-    };
-    const auto journey = [&, this]() -> Journey {
-        co_await customer("Klinikum Ährenfeld", Yes);
-        EXPECT_EQ(offered(frm::Gerät, "cmbTyp"),
-                  (QStringList{"", "Kardio L4", "KE 200 med", "Ohne Nummer"}));
-        EXPECT_EQ(listed(frm::Gerät, "lstIdent"),
-                  (QStringList{"AEH-001", "AEH-002", "AEH-003", "AEH-017"}));
-        const QString count = english() ? "Number Of Units In The List: " : "Ergometeranzahl: ";
-        EXPECT_EQ(text(frm::Gerät, "Label"), count + '5');
-        for (const auto &c : refused) {
-            pick(frm::Gerät, "cmbTyp", c.type);
-            paste(frm::Gerät, "cmbIdent", c.ident);
-            expectTold(c.why, {"Achtung!", "Attention!"});
-            press(frm::Gerät, "pbok");
-            EXPECT_TRUE(focused(frm::Gerät, "cmbIdent")) << c.ident;
-            EXPECT_EQ(gGerätID, 0);
-            EXPECT_EQ(text(frm::Gerät, "txtTyp"), "");
-        }
-        EXPECT_EQ(text(frm::Gerät, "Label"), count + '3');
-        type(frm::Gerät, "cmbIdent", "aeh-003");
-        EXPECT_EQ(text(frm::Gerät, "txtSerienNr"), "200-05120");
-        EXPECT_EQ(text(frm::Gerät, "txtHersteller"), "Radolin");
-
-        // The only one of its type is there at once, also without a number; and a number of
-        // another type than the one that is filtered by is taken.
-        const struct {
-            const char *type, *shown, *typed;
-            int key;
-        } taken[] = {{"Kardio L4", "AEH-017", "", 4},
-                     {"Ohne Nummer", "", "", 60090},
-                     {"KE 200 med", "", "AEH-017", 4}};
-        for (const auto &c : taken) {
-            pick(frm::Gerät, "cmbTyp", c.type);
-            EXPECT_EQ(text(frm::Gerät, "cmbIdent"), c.shown);
-            if (*c.typed)
-                type(frm::Gerät, "cmbIdent", c.typed);
-            expectRecipeQuestion(No);
-            enter(frm::Gerät, "cmbIdent");
-            co_await arrive(frm::Desktop);
-            EXPECT_EQ(gGerätID, c.key);
-            if (c.key == 60090) { // there is no measuring with it
-                EXPECT_EQ(desktop(), "Klinikum Ährenfeld|Ohne Nummer|||");
-                co_await recipe("Kurzprüfung");
-                EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));
-            }
-            co_await open("pbGerät", frm::Gerät);
-        }
-        press(frm::Gerät, "pbexit");
-        co_await arrive(frm::Desktop);
-        co_await customer("St Aldwyn Hospital, Cardiac Unit", Yes);
-        EXPECT_EQ(text(frm::Gerät, "cmbIdent"), "STA-1") << "the only unit of a customer";
-    };
-    run(journey());
+    co_await logIn();
+    co_await go(R"(
+        pbKunde ; @Kunden ; cmbKundenname = Klinikum Ährenfeld ; ? unitNow yes ; pbexit ; @Gerät
+        cmbTyp rows +Kardio L4+KE 200 med+Ohne Nummer ; lstIdent rows AEH-001+AEH-002+AEH-003+AEH-017
+        Label == Ergometeranzahl: 5 | Number Of Units In The List: 5
+        ? changeUnit ; pbok ; focus cmbIdent ; txtTyp ==
+        cmbIdent := HZT-1 ; ? notHis ; pbok ; focus cmbIdent ; txtTyp ==    # another customer's
+        cmbIdent := AEH-0 ; ? notHis ; pbok ; focus cmbIdent ; txtTyp ==    # part of several
+        cmbTyp > KE 200 med ; cmbIdent == ; Label ~ : 3$ ; ? several ; pbok ; focus cmbIdent ; txtTyp ==
+        session == 1 0 0 ; cmbTyp ! ; focus cmbIdent
+        cmbIdent = aeh-003 ; txtSerienNr == 200-05120 ; txtHersteller == Radolin
+        # The only one of its type is there at once, also without a number; and a number of another
+        # type than the one that is filtered by is taken.
+        cmbTyp > Kardio L4 ; cmbIdent == AEH-017 ; ? recipeNow no ; cmbIdent ! ; @Desktop ; session == 1 4 0
+        pbGerät ; @Gerät ; cmbTyp > Ohne Nummer ; cmbIdent == ; ? recipeNow no ; cmbIdent ! ; @Desktop
+        session == 1 60090 0 ; desktop == Klinikum Ährenfeld|Ohne Nummer|||
+        pbRezept ; @Rezepte ; cmbRezeptname = Kurzprüfung ; pbok ; @Desktop ; cannot pbMessen    # without a number
+        pbGerät ; @Gerät ; cmbTyp > KE 200 med ; cmbIdent == ; cmbIdent = AEH-017
+        ? recipeNow no ; cmbIdent ! ; @Desktop ; session == 1 4 1
+        pbKunde ; @Kunden ; cmbKundenname = St Aldwyn Hospital, Cardiac Unit ; ? unitNow yes ; pbexit ; @Gerät
+        cmbIdent == STA-1    # the only unit of a customer)");
 }
 
 } // namespace

@@ -1,14 +1,12 @@
 // Deleting a customer or a unit: what is counted, what is asked, and what is left in every table.
-#include <gtest/gtest.h>
-
 #include "loeschung.h"
-#include "workplace.h"
+#include "workshop.h"
 
 namespace {
 
-using platform::Text;
+using namespace support;
 
-class Records : public support::Workshop {
+class Records : public Workshop {
   protected:
     Records() {
         gDatenbank.openFile(datenbankName);
@@ -21,75 +19,69 @@ class Records : public support::Workshop {
 
     static constexpr int victim = 101;
     static constexpr int bystander = 102;
+    static inline const std::pair<QString, int> tables[] = {
+        {"Messwerte", 1}, {"Blutdruck", 2}, {"SecControl", 4}};
 
     /// One protocol of the record with the sheets that the bits name. The other key is the same
     /// for all, so that a statement that looks at it finds too much or too little.
     static void protocol(int number, bool ofCustomer, int record, int sheets, const QString &end) {
         gDatenbank.execute("INSERT INTO Protokoll" + end +
-                               " (ProtokollID, KundenID, GerätID) "
-                               "VALUES (?, ?, ?)",
+                               " (ProtokollID, KundenID, GerätID) VALUES (?, ?, ?)",
                            {number, ofCustomer ? record : 777, ofCustomer ? 777 : record});
-        const std::pair<QString, int> inserts[] = {{"Messwerte", 1},
-                                                   {"Messwerte", 1},
-                                                   {"Blutdruck", 2},
-                                                   {"Blutdruck", 2},
-                                                   {"SecControl", 4}};
-        for (const auto &[table, bit] : inserts) {
-            if (sheets & bit)
+        for (const auto &[table, bit] : tables) {
+            for (int row = 0; row < rowsOf(sheets & bit); ++row)
                 gDatenbank.execute("INSERT INTO " + table + end + " (ProtokollID) VALUES (?)",
                                    {number});
         }
     }
-    QString keysOf(const QString &table, const QString &key) {
+    /// Of measured values and blood pressure a protocol has two.
+    static int rowsOf(int sheet) { return sheet == 0 ? 0 : sheet == 4 ? 1 : 2; }
+    static QString keysOf(const QString &table, const QString &key) {
         return column("SELECT DISTINCT " + key + " FROM " + table + " WHERE " + key +
                       " > 100 ORDER BY 1")
             .join(' ');
     }
 };
 
+// Of a customer, then of a unit.
 class Deletion : public Records, public testing::WithParamInterface<bool> {};
-
-INSTANTIATE_TEST_SUITE_P(OfACustomer, Deletion, testing::Values(true));
-INSTANTIATE_TEST_SUITE_P(OfAUnit, Deletion, testing::Values(false));
+INSTANTIATE_TEST_SUITE_P(Records, Deletion, testing::Bool());
 
 TEST_P(Deletion, LeavesWhatBelongsToOthers) {
-    const std::pair<const char *, int> tables[] = {
-        {"Messwerte", 1}, {"Blutdruck", 2}, {"SecControl", 4}, {"Protokoll", 0}};
     const bool customer = GetParam();
     const Löschplan &plan = customer ? kundenplan : geräteplan;
-    const auto demo = [this] {
+    const auto demo = [] {
         return column("SELECT ProtokollID FROM Protokoll WHERE ProtokollID < 1000 UNION "
                       "SELECT ProtokollID FROM Protokoll_temp WHERE ProtokollID < 1000");
     };
     const QStringList foreign = demo();
+    QMap<QString, QString> left; // the protocols that each table names, as often as it does
     gDatenbank.execute("BEGIN"); // for speed
-    QMap<QString, QStringList> left;
-    int number = 1000;
-    for (const int record : {victim, bystander}) {
-        for (const QString end : {"_temp", ""}) {
-            for (int sheets = 0; sheets < 8; ++sheets) {
-                protocol(++number, customer, record, sheets, end);
-                for (const auto &[table, bit] : tables) {
-                    const bool was = bit == 0 || (sheets & bit);
-                    // Protocols of a customer without any sheet stay.
-                    if (was && (record == bystander || (customer && sheets == 0)))
-                        left[table + end] += QString::number(number);
-                }
-            }
+    for (int number = 1000; number < 1032; ++number) {
+        const int sheets = number % 8, record = number < 1016 ? victim : bystander;
+        const QString end = number & 8 ? "" : "_temp";
+        protocol(number, customer, record, sheets, end);
+        // Protocols of a customer without any sheet stay.
+        if (record == bystander || (customer && sheets == 0)) {
+            left["Protokoll" + end] += QString(" %1").arg(number);
+            for (const auto &[table, bit] : tables)
+                left[table + end] += QString(" %1").arg(number).repeated(rowsOf(sheets & bit));
         }
     }
     gDatenbank.execute("COMMIT");
     EXPECT_EQ(protokolleZählen(plan, victim), 16);
     EXPECT_EQ(protokolleZählen(plan, 4711), 0);
 
-    datensatzLöschen(plan, victim);
-    for (const auto &[table, bit] : tables) {
-        for (const QString end : {"_temp", ""}) {
-            const QString name = table + end;
-            EXPECT_EQ(keysOf(name, "ProtokollID"), left[name].join(' ')) << name.toStdString();
-            EXPECT_EQ(column("SELECT count(*) FROM " + name + " WHERE ProtokollID > 1000"),
-                      QStringList(QString::number(left[name].size() * (bit & 3 ? 2 : 1))));
-        }
+    int deleted = 0;
+    datensatzLöschen(plan, victim, [&] { ++deleted; });
+    EXPECT_EQ(deleted, 14) << "those with a sheet, one by one";
+    for (const QString &table : QStringList{"Protokoll", "Messwerte", "Blutdruck", "SecControl"}) {
+        for (const QString &name : {table, table + "_temp"})
+            EXPECT_EQ(column("SELECT ' ' || ProtokollID FROM " + name +
+                             " WHERE ProtokollID >= 1000 ORDER BY ProtokollID")
+                          .join(QString()),
+                      left[name])
+                << name;
     }
     EXPECT_EQ(keysOf("Kunden", "KundenID"), customer ? "102" : "101 102");
     EXPECT_EQ(keysOf("Ergometer", "GerätID"), customer ? "102 112" : "102 111 112");
@@ -102,62 +94,59 @@ TEST_F(Records, AreDeletedUpToAFailureAndFromThereOn) {
     protocol(1003, true, victim, 4, "");
     EXPECT_EQ(geräteZählen(victim), 2);
     EXPECT_EQ(geräteZählen(4711), 0);
-    change("CREATE TRIGGER fest BEFORE DELETE ON Messwerte BEGIN SELECT RAISE(ABORT, 'fest'); END");
-    EXPECT_THROW(datensatzLöschen(kundenplan, victim), Fehler);
+    spoil("DELETE", "Messwerte");
+    EXPECT_NE(raised([] { datensatzLöschen(kundenplan, victim); }), 0);
     EXPECT_EQ(keysOf("Protokoll_temp", "ProtokollID"), "");
     EXPECT_EQ(keysOf("SecControl", "ProtokollID"), "1003")
         << "the sheets of 1002 went before its measured values, and they stay gone";
     EXPECT_EQ(keysOf("Protokoll", "ProtokollID"), "1002 1003");
     EXPECT_EQ(geräteZählen(victim), 2);
-    change("DROP TRIGGER fest");
+    mend();
     datensatzLöschen(kundenplan, victim);
     EXPECT_EQ(keysOf("Protokoll", "ProtokollID"), "");
     EXPECT_EQ(keysOf("Kunden", "KundenID"), "102");
 }
 
-const QString name = "O'Neill %1";
-
 TEST(DeletionQuestion, TellsUnitsAndProtocolsOfACustomer) {
-    const struct {
-        int units, protocols;
-        const char *german, *english; // what follows the name
-    } rows[] = {
-        {3, 0, "existieren 3 Geräte.", "there are 3 units existent."},
-        {1, 1, "existiert ein Gerät und ein Protokoll.", "there is a unit and a protocol."},
-        {12, 1, "existiert 12 Geräte und ein Protokoll.", "there are 12 units and a protocol."},
-        {1, 2, "existiert ein Gerät und 2 Protokolle.", "there are 2 protocols and a unit."},
-        {2, 1500, "existieren 2 Geräte und 1500 Protokolle.",
-         "there are 2 units and 1500 protocols."},
-        {0, 1, "existiert 0 Geräte und ein Protokoll.", "there are 0 units and a protocol."},
-        {0, 5, "existieren 0 Geräte und 5 Protokolle.", "there are 0 units and 5 protocols."},
+    const QString name = "O'Neill %1";
+    const auto asked = [&](const Case &c) {
+        const Text question = kundenfrage(c.in_(0).toInt(), c.in_(1).toInt(), name);
+        return std::pair(question.german, question.english);
     };
     const QString endGerman = "\rWollen Sie alle zu diesem Kunden gehörenden Daten jetzt löschen?";
     const QString endEnglish = "\rShall data of the customer be deleted now?";
-    for (const auto &row : rows) {
-        const Text asked = kundenfrage(row.units, row.protocols, name);
-        EXPECT_EQ(asked.german, "Zu dem Kunden '" + name + "' " + row.german + endGerman);
-        EXPECT_EQ(asked.english, "For the customer '" + name + "' " + row.english + endEnglish);
-    }
-    const Text one = kundenfrage(1, 0, name);
-    EXPECT_EQ(one.german, "Zu diesem Kunden existiert ein Gerät." + endGerman);
-    EXPECT_EQ(one.english, "For this customer there is a unit existent." + endEnglish);
-    const Text plain = kundenfrage(0, 0, name);
-    EXPECT_EQ(plain.german, "Wollen Sie die Daten zu dem Kunden 'O'Neill %1' jetzt löschen?");
-    EXPECT_EQ(plain.english, "Do you want to delete the data of 'O'Neill %1' now?");
+    for (const Case &c : cases(R"(
+        3, 0    -> existieren 3 Geräte, there are 3 units existent |
+        1, 1    -> existiert ein Gerät und ein Protokoll, there is a unit and a protocol |
+        12, 1   -> existiert 12 Geräte und ein Protokoll, there are 12 units and a protocol |
+        1, 2    -> existiert ein Gerät und 2 Protokolle, there are 2 protocols and a unit |
+        2, 1500 -> existieren 2 Geräte und 1500 Protokolle, there are 2 units and 1500 protocols |
+        0, 1    -> existiert 0 Geräte und ein Protokoll, there are 0 units and a protocol |
+        0, 5    -> existieren 0 Geräte und 5 Protokolle, there are 0 units and 5 protocols)"))
+        EXPECT_EQ(asked(c),
+                  std::pair("Zu dem Kunden '" + name + "' " + c.out_(0) + '.' + endGerman,
+                            "For the customer '" + name + "' " + c.out_(1) + '.' + endEnglish))
+            << c;
+    EXPECT_EQ(asked({"1, 0", {}}),
+              std::pair("Zu diesem Kunden existiert ein Gerät." + endGerman,
+                        "For this customer there is a unit existent." + endEnglish));
+    EXPECT_EQ(asked({"0, 0", {}}),
+              std::pair(QString("Wollen Sie die Daten zu dem Kunden 'O'Neill %1' jetzt löschen?"),
+                        QString("Do you want to delete the data of 'O'Neill %1' now?")));
 }
 
 TEST(DeletionQuestion, TellsProtocolsOfAUnit) {
-    const Text questions[] = {
-        {"Sollen die Daten zu dem Gerät 'KE' jetzt gelöscht werden?",
-         "Shall data of the unit 'KE' be deleted now?"},
-        {"Zu dem Gerät 'KE' existiert ein Protokoll.\rSollen diese Daten jetzt gelöscht werden?",
-         "For the unit 'KE' there is one protocol existent.\rShall it be deleted now?"},
-        {"Zu dem Gerät 'KE' existieren 2 Protokolle.\rSollen diese Daten jetzt gelöscht werden?",
-         "For the unit 'KE' there are 2 protocols existent.\rShall they be deleted now?"},
-    };
-    for (int protocols = 0; protocols < 3; ++protocols) {
-        EXPECT_EQ(gerätefrage(protocols, "KE").german, questions[protocols].german);
-        EXPECT_EQ(gerätefrage(protocols, "KE").english, questions[protocols].english);
+    for (const Case &c :
+         cases("0 -> Sollen die Daten zu dem Gerät 'KE' jetzt gelöscht werden?, "
+               "Shall data of the unit 'KE' be deleted now? | "
+               "1 -> Zu dem Gerät 'KE' existiert ein Protokoll.\rSollen diese Daten jetzt gelöscht "
+               "werden?, For the unit 'KE' there is one protocol existent.\rShall it be deleted "
+               "now? | "
+               "2 -> Zu dem Gerät 'KE' existieren 2 Protokolle.\rSollen diese Daten jetzt gelöscht "
+               "werden?, For the unit 'KE' there are 2 protocols existent.\rShall they be deleted "
+               "now?")) {
+        EXPECT_EQ(gerätefrage(c.in.toInt(), "KE").german, c.out_(0));
+        EXPECT_EQ(gerätefrage(c.in.toInt(), "KE").english, c.out_(1));
     }
 }
 
