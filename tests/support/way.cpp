@@ -225,6 +225,12 @@ QString Way::seenBy(const QString &name, const QString &how) {
     return how.startsWith("rows") ? rowsOf(named(name)) : shownBy(named(name));
 }
 
+QString Way::spoken(const QString &both) {
+    if (!both.contains(" | ") && !both.startsWith("| "))
+        return both;
+    return (' ' + both).section(" | ", english() ? 1 : 0, english() ? 1 : 0).trimmed();
+}
+
 bool Way::holds(const QString &step) {
     const QString verb = step.section(' ', 0, 0);
     if (questions.contains(verb)) {
@@ -239,9 +245,7 @@ bool Way::holds(const QString &step) {
     }
     static const QRegularExpression comparison("^(.+?) (==|~|rows~|rows)(?: (.*))?$");
     const auto parts = comparison.match(step);
-    QString wanted = parts.captured(3);
-    if (wanted.contains(" | ") || wanted.startsWith("| "))
-        wanted = (' ' + wanted).section(" | ", english() ? 1 : 0, english() ? 1 : 0).trimmed();
+    const QString wanted = spoken(parts.captured(3));
     const QString seen = seenBy(parts.captured(1), parts.captured(2));
     const bool same = parts.captured(2).endsWith('~')
                           ? QRegularExpression(wanted).match(seen).hasMatch()
@@ -266,7 +270,7 @@ void Way::act(const QString &step) {
         for (int i = 0; i < std::max(1, value.toInt()); ++i)
             pressKey(operation);
     } else if (verb == "close") {
-        frontScreen()->close();
+        (rest.isEmpty() ? frontScreen() : screenNamed(rest))->close();
     } else if (verb == "mouse") {
         click(operation, value);
     } else if (verb == "wheel") {
@@ -287,7 +291,7 @@ void Way::act(const QString &step) {
     } else if (questions.contains(verb) || step.contains(compares)) {
         EXPECT_TRUE(holds(step)) << step << "\nseen: " << mSeen;
     } else if (operation == "=" || operation == ":=" || operation == "+") {
-        typeInto(verb, value, operation);
+        typeInto(verb, spoken(value), operation);
     } else if (operation == ">") {
         pick(verb, value);
     } else if (operation == "!" || operation == "^") {
@@ -320,6 +324,10 @@ Journey Way::go(QString way) {
                     const QByteArray number = words[1].toUtf8();
                     Journey measured = settled(number, words[2].toDouble());
                     co_await measured;
+                } else if (const auto road = roads.find(words[0]); road != roads.end()) {
+                    const QString rest = step.section(' ', 1);
+                    Journey taken = road->second(rest);
+                    co_await taken;
                 } else if (words[0] == "until") {
                     const QString awaited = step.mid(6);
                     const Until come = until(step.toStdString(), [this, awaited] {

@@ -3,7 +3,7 @@
 //
 //   @Kunden                   until this screen has the front
 //   pbOk   obNeu   mnuEnde    presses, chooses
-//   txtName = a b             types over what stands there (= 0,5 | 0.5);   := pastes;
+//   txtName = a b             types over what stands there (= 0,5 | 0.5);   := pastes
 //   txtName + c               types behind it
 //   cmbOrt > Bonn   > 2       picks from the list, by entry or number; moves the bar
 //   txtName !                 Enter in it;   ^ turns to it

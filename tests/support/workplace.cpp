@@ -20,6 +20,18 @@ Workplace::Workplace() {
           "INSERT INTO Messwerte_temp (ProtokollID, Prüfschritt, Ist_P_torvena) "
           "VALUES (9000, '1', 'fremd')"})
         change(unlike);
+    roads["login"] = [this](const QString &) { return logIn(); };
+    roads["choose"] = [this](const QString &what) { // "ident number, recipe" of the demo customer
+        return choose(demoNames().customer, what.section(", ", 0, 0), what.section(", ", 1));
+    };
+    roads["select"] = [this](const QString &) { return select(); };
+    roads["direction"] = [this](const QString &) { return chooseDirection(); };
+    roads["begin"] = [this](const QString &) { return startMeasuring(); };
+    roads["correct"] = [this](const QString &) { return correctZeroPoint(); };
+    roads["protocol"] = [this](const QString &name) { return newProtocol(name); };
+    roads["measure"] = [this](const QString &) { return measure(); };
+    roads["leave"] = [this](const QString &) { return leaveMeasuring(); };
+    roads["whole"] = [this](const QString &name) { return wholeMeasurement(name); };
 }
 
 Workplace::~Workplace() = default;
@@ -42,7 +54,7 @@ Journey Workplace::logIn() {
     co_await arrive(frm::Desktop);
 }
 
-Journey Workplace::choose(const QString &customer, const QString &ident, const QString &recipe) {
+Journey Workplace::choose(QString customer, QString ident, QString recipe) {
     const Text title{"Stammdaten auswählen", "Select Master Data"};
     press(frm::Desktop, "pbKunde");
     co_await arrive(frm::Kunden);

@@ -15,7 +15,7 @@ class Workplace : public Way {
     void start();
     Journey logIn();
     /// Customer, unit and recipe by what the desktop offers.
-    Journey choose(const QString &customer, const QString &ident, const QString &recipe);
+    Journey choose(QString customer, QString ident, QString recipe);
     /// Log in and choose the demo customer, unit and short recipe.
     Journey select();
     Journey chooseDirection();
