@@ -1,188 +1,56 @@
 // Steps that stand in no recipe: set-points typed in, and speed zero.
-#include "measuringsession.h"
+#include "measuring.h"
 
 namespace {
 
 using namespace support;
-using namespace platform;
 
 /// Free input has keys and boxes of its own in each language.
-class FreeInput : public MeasuringSession, public testing::WithParamInterface<int> {
-  protected:
-    FreeInput() { setLanguage(GetParam()); }
-    void expectInputError(const Text &text) {
-        expectBox(text, Critical, {"Eingabefehler", "Input Error"});
-    }
-};
+using FreeInput = Measuring;
 
-INSTANTIATE_TEST_SUITE_P(Languages, FreeInput, testing::Values(1, 2));
-
-TEST_P(FreeInput, LimitsAndKeys) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        co_await settled("1", 60);
-        co_await freeInput();
-        EXPECT_EQ(shown("txtSoll_n") + shown("txtSoll_P") + shown("cmbMessArt"), "");
-        EXPECT_FALSE(live());
-        struct Wrong {
-            const char *box;
-            const char *good;
-            QStringList beyond;
-            Text notNumeric;
-            Text outside;
-        };
-        const Wrong cases[] = {
-            {"txtSoll_n",
-             "130",
-             {"131"}, // a minus is a key of the correction there
-             {"Drehzahl muss ein nummerischer Wert sein!",
-              "Number of revolutions must be a numeric value!"},
-             {"Drehzahl liegt außerhalb des gültigen Bereiches",
-              "The permissible number of revolutions has been exeeded!"}},
-            {"txtSoll_P",
-             "800",
-             {"801", "-1"},
-             {"Leistung muss ein nummerischer Wert sein!", "Power must be a numeric value!"},
-             {"Leistung liegt außerhalb des gültigen Bereiches",
-              "Permissible power has been exeeded!"}},
-        };
-        for (const Wrong &wrong : cases) {
-            SCOPED_TRACE(wrong.box);
-            type(frm::Messen, wrong.box, wrong.good);
-            enter(frm::Messen, wrong.box);
-            for (const QString &bad : wrong.beyond + QStringList{"x"}) {
-                expectInputError(bad == "x" ? wrong.notNumeric : wrong.outside);
-                type(frm::Messen, wrong.box, bad);
-                enter(frm::Messen, wrong.box);
-                EXPECT_TRUE(boxes.allCame());
-                EXPECT_EQ(shown(wrong.box), wrong.good);
-                EXPECT_TRUE(control<QWidget>(frm::Messen, wrong.box)->hasFocus());
-            }
-        }
-        EXPECT_FALSE(canPress(frm::Messen, "pbAusführen")); // the type is missing
-
-        const QString power = english() ? "Power Measurement" : "Leistungsmessung";
-        const QString speed = english() ? "Speed Measurement" : "Drehzahlmessung";
-        for (const auto &[key, chosen] : {std::pair{english() ? "p" : "l", power},
-                                          {english() ? "S" : "D", speed},
-                                          {"1", power},
-                                          {"2", speed}}) {
-            type(frm::Messen, "cmbMessArt", key);
-            EXPECT_EQ(shown("cmbMessArt"), chosen) << key;
-        }
-        beeps = 0;
-        type(frm::Messen, "cmbMessArt", english() ? "l" : "s");
-        EXPECT_EQ(shown("cmbMessArt"), "");
-        EXPECT_EQ(beeps, 1);
-
-        // 60 N m
-        typeSetpoints("50", "315", "1");
-        EXPECT_TRUE(waits("pbAusführen"));
-        expectBox({"Das zulässige Drehmoment ist überschritten!\r\n"
-                   "Bitte geben Sie andere Werte ein!",
-                   "The permissible torque has been exeeded!\r\nPlease enter other values!"},
-                  Critical, {"Drehmoment<=60Nm", "Torque<=60Nm"});
-        press(frm::Messen, "pbAusführen");
-        EXPECT_TRUE(boxes.allCame());
-        EXPECT_FALSE(loaded(frm::Meldung));
-        // Pressed by its access key from a box that was not left, the box is judged first.
-        type(frm::Messen, "txtSoll_P", "314");
-        enter(frm::Messen, "txtSoll_P");
-        type(frm::Messen, "txtSoll_n", "500");
-        expectInputError({"Drehzahl liegt außerhalb des gültigen Bereiches",
-                          "The permissible number of revolutions has been exeeded!"});
-        press(frm::Messen, "pbAusführen");
-        EXPECT_TRUE(boxes.allCame());
-        EXPECT_FALSE(loaded(frm::Meldung));
-        EXPECT_EQ(shown("txtSoll_n"), "50");
-        press(frm::Messen, "pbAusführen");
-        co_await settled("FR", 50);
-        expectEmptyProtocol();
-        co_await leaveMeasuring();
-    };
-    run(journey());
+JOURNEY_P(FreeInput, LimitsAndKeys) {
+    co_await go(R"(
+        measure ; step 1 60 ; pbFreieEing ; until laPrSchritt == FR ; pass 20 ; live == ||
+        txtSoll_n == ; txtSoll_P == ; cmbMessArt ==
+        # A minus is a key of the correction in the first box.
+        txtSoll_n = 130 ; txtSoll_n ! ; txtSoll_P = 800 ; txtSoll_P !
+        txtSoll_n = 131 ; ? freeSpeedRange ; txtSoll_n ! ; txtSoll_n == 130 ; focus txtSoll_n
+        txtSoll_n = x ; ? freeSpeedNumber ; txtSoll_n ! ; txtSoll_n == 130 ; focus txtSoll_n
+        txtSoll_P = 801 ; ? freePowerRange ; txtSoll_P ! ; txtSoll_P == 800 ; focus txtSoll_P
+        txtSoll_P = -1 ; ? freePowerRange ; txtSoll_P ! ; txtSoll_P == 800 ; focus txtSoll_P
+        txtSoll_P = x ; ? freePowerNumber ; txtSoll_P ! ; txtSoll_P == 800 ; focus txtSoll_P
+        cannot pbAusführen    # the type is missing
+        cmbMessArt = l | p ; cmbMessArt == Leistungsmessung | Power Measurement
+        cmbMessArt = D | S ; cmbMessArt == Drehzahlmessung | Speed Measurement
+        cmbMessArt = 1 ; cmbMessArt == Leistungsmessung | Power Measurement
+        cmbMessArt = 2 ; cmbMessArt == Drehzahlmessung | Speed Measurement ; beeps ~ .
+        cmbMessArt = s | l ; cmbMessArt == ; beeps == 1
+        # 60 N m
+        txtSoll_n = 50 ; txtSoll_n ! ; txtSoll_P = 315 ; txtSoll_P ! ; cmbMessArt = 1
+        waits pbAusführen ; ? freeTorque ; pbAusführen ; notice ==
+        # Pressed by its access key from a box that was not left, the box is judged first.
+        txtSoll_P = 314 ; txtSoll_P ! ; txtSoll_n = 500 ; ? freeSpeedRange ; pbAusführen
+        notice == ; txtSoll_n == 50 ; pbAusführen ; step FR 50 ; ? emptyProtocol ; leave)");
 }
 
-TEST_F(MeasuringSession, FreeStepsRepeatInOrderOfTime) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        line.stand().setLoad(100);
-        co_await settled("1", 60);
-        save();
-        co_await settled("2", 80);
-        co_await freeInput();
-        typeSetpoints("70", "200", "1");
-        line.stand().clearWires();
-        for (const int load : {203, 198}) {
-            line.stand().setLoad(load);
-            if (load == 203)
-                press(frm::Messen, "pbAusführen");
-            co_await settled("FR", 70);
-            EXPECT_FALSE(control(frm::Messen, "txtIST_n_ergom")->isVisible());
-            save();
-            EXPECT_EQ(selectedStep(), "FR");
-        }
-        EXPECT_EQ(line.stand().wire().substr(0, 13), "-*E-2450+>>>6");
-        EXPECT_EQ(rows("Prüfschritt || ' ' || Soll_n || ' ' || Soll_P || ' ' || "
-                       "substr(Ist_P_torvena, 1, 3)"),
-                  (QStringList{"1 60,0 100,0 100", "FR 70 200 203", "FR 70 200 198"}));
-        EXPECT_EQ(gridSteps(), (QStringList{"1", "FR", "FR"}));
-        // Back to where the recipe is.
-        co_await settled("FR", 70);
-        press(frm::Messen, "pbMessen");
-        co_await settled("2", 80);
-        co_await leaveMeasuring();
-    };
-    run(journey());
-}
-
-TEST_P(FreeInput, SpeedZeroAndAReadingThatIsNoNumber) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        line.stand().setLoad(110); // not within 5 %
-        co_await settled("1", 60);
-        save();
-        co_await settled("2", 80);
-        for (const bool byEnter : {true, false}) {
-            type(frm::Messen, "txtIST_n_ergom", english() ? "80,5" : "80.5");
-            // The title is German in both languages.
-            boxes.expect(english() ? "Input must be a numerical value!"
-                                   : "Eingabe muss ein nummerischer Wert sein!",
-                         "Fehler", Exclamation);
-            if (byEnter)
-                enter(frm::Messen, "txtIST_n_ergom");
-            else
-                save(); // as by its access key
-            EXPECT_TRUE(boxes.allCame());
-            EXPECT_EQ(shown("txtIST_n_ergom"), "");
-            EXPECT_TRUE(control<QWidget>(frm::Messen, "txtIST_n_ergom")->hasFocus());
-            EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
-            EXPECT_EQ(storedSteps(), QStringList{"1"});
-        }
-        line.stand().clearWires();
-        press(frm::Messen, "pbDrehzNull");
-        co_await settled("FR", 0);
-        EXPECT_EQ(line.stand().wire(), "--*E-0000+>>>6");
-        EXPECT_EQ(line.stand().speed(), 0);
-        EXPECT_EQ(shown("txtMessArt"), "Leistungsmessung"); // in both languages
-        EXPECT_FALSE(canPress(frm::Messen, "pbDrehzNull"));
-        expectBox({"Fehler 3018 -  11 Division durch Null: Bei 0 W gibt es keine relative "
-                   "Messunsicherheit.",
-                   "ERROR 3018 -  11 Division by zero: at 0 W there is no relative uncertainty."},
-                  Critical, {"!! Achtung Fehler !!", " !! Attention !!"});
-        save();
-        const QStringList stored = rows("Prüfschritt || ' ' || Soll_n || ' ' || Soll_P || ' ' || "
-                                        "Ist_n_torvena || ' ' || MU_ohne || ' ' || MU_mit || ' ' "
-                                        "|| MU_Proz");
-        EXPECT_EQ(stored.value(1),
-                  english() ? "FR 0 0 0.00 no no 0.3" : "FR 0 0 0,00 nein nein 0.3");
-        co_await settled("FR", 0);
-        press(frm::Messen, "pbMessen");
-        EXPECT_TRUE(control<QAbstractButton>(frm::Messen, "pbDrehzNull")->isEnabled());
-        co_await settled("2", 80);
-        co_await leaveMeasuring();
-    };
-    run(journey());
+JOURNEY_P(FreeInput, StepsInOrderOfTimeSpeedZeroAndAReadingThatIsNoNumber) {
+    co_await go(R"(
+        measure ; stand load 100 ; step 1 60 ; pbSpeichern ; step 2 80
+        txtIST_n_ergom = 80.5 | 80,5 ; ? readingNumber ; txtIST_n_ergom !
+        txtIST_n_ergom == ; focus txtIST_n_ergom ; cannot pbSpeichern ; stored Prüfschritt == 1
+        txtIST_n_ergom = 80.5 | 80,5 ; ? readingNumber ; pbSpeichern    # as by its access key
+        txtIST_n_ergom == ; focus txtIST_n_ergom ; cannot pbSpeichern ; stored Prüfschritt == 1
+        pbFreieEing ; until laPrSchritt == FR ; pass 20
+        txtSoll_n = 70 ; txtSoll_n ! ; txtSoll_P = 200 ; txtSoll_P ! ; cmbMessArt = 1 ; wire ~ .
+        stand load 203 ; pbAusführen ; step FR 70 ; wire ~ ^-\*E-2450\+>>>6 ; hidden txtIST_n_ergom
+        pbSpeichern ; selected == FR ; stand load 210.3 ; step FR 70 ; pbSpeichern ; selected == FR
+        stored Prüfschritt, Soll_n, Soll_P, substr(Ist_P_torvena, 1, 2), MU_ohne, MU_mit == 1|60,0|100,0|10|ja|ja+FR|70|200|20|ja|ja+FR|70|200|21|nein|? | 1|60.0|100.0|10|yes|yes+FR|70|200|20|yes|yes+FR|70|200|21|no|?
+        steps == 1+FR+FR ; step FR 70 ; pbMessen ; step 2 80    # back to where the recipe is
+        # A power measurement in both languages; its row is stored with the verdicts before.
+        wire ~ . ; pbDrehzNull ; step FR 0 ; wire == --*E-0000+>>>6 ; speed == 0 ; cannot pbDrehzNull
+        txtMessArt == Leistungsmessung ; ? zeroPower ; pbSpeichern
+        sql SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, MU_ohne, MU_mit, MU_Proz FROM Messwerte_temp ORDER BY rowid DESC LIMIT 1 == FR|0|0|0,00|nein|?|0.3 | FR|0|0|0.00|no|?|0.3
+        step FR 0 ; pbMessen ; step 2 80 ; can pbDrehzNull ; leave)");
 }
 
 } // namespace

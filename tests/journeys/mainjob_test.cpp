@@ -1,100 +1,76 @@
-// The main job as it is meant: from the login to a judged, stored recipe.
-#include "controller.h"
-#include "session.h"
-#include "workplace.h"
+// The main job as it is meant: from the login over running-in and zero point to a recipe whose
+// steps stand judged in the database, each verdict among them, and out.
+#include "measuring.h"
 
 namespace {
 
 using namespace support;
 
-using MainJob = Workplace;
+using MainJob = Measuring;
 
-TEST_F(MainJob, GermanFromLoginToStoredRecipe) {
-    const auto journey = [this]() -> Journey {
-        const DemoNames names = demoNames();
-        co_await logIn();
-        EXPECT_FALSE(MSComm1.PortOpen());
-        EXPECT_EQ(text(frm::Desktop, "txtNormal"), "Drehmomentnormal SerienNr. TN-1001");
-        EXPECT_FALSE(canPress(frm::Desktop, "pbGerät"));
-        co_await choose(names.customer, names.ident, names.recipe);
-        EXPECT_EQ(text(frm::Desktop, "txtGerätID"), names.ident);
-        EXPECT_EQ(text(frm::Desktop, "txtRezName"), "medizinische Geräte");
-
-        // Running-in to its end
-        press(frm::Desktop, "pbDrehR");
-        co_await arrive(frm::MotorDrehR);
-        press(frm::MotorDrehR, "obRechts");
-        press(frm::MotorDrehR, "pbok");
-        co_await arrive(frm::Desktop);
-        line.stand().clearWires();
-        press(frm::Desktop, "pbMotein");
-        EXPECT_EQ(line.stand().wire(), "-*E-2100+>>>");
-        co_await pass(61'000);
-        EXPECT_EQ(text(frm::Desktop, "lbEinlauf"), "08:59");
-        EXPECT_NEAR(line.stand().speed(), 60, 0.1);
-        co_await until(
-            "the end of running-in", [] { return loaded(frm::Meldung1) != nullptr; }, 700'000);
-        EXPECT_TRUE(gEingelaufen);
-        EXPECT_EQ(text(frm::Meldung1, "laMeldung1"), "Die Einlaufzeit");
-        EXPECT_EQ(text(frm::Meldung1, "laMeldung2"), "ist beendet.");
-        co_await arrive(frm::Desktop);
-
-        // Zero point
-        press(frm::Desktop, "pbMessen");
-        co_await arrive(frm::VorStatNPK);
-        EXPECT_LT(line.stand().speed(), 30); // below half a revolution a second
-        EXPECT_FALSE(line.stand().motorOn());
-        line.stand().setCoupled(false);
-        press(frm::VorStatNPK, "pbok");
-        co_await until("the correction", [] { return canPress(frm::StatMessen, "pbWeiter"); });
-        EXPECT_TRUE(line.stand().offsetWritten().has_value());
-        EXPECT_NEAR(line.stand().offsetWritten().value_or(0), 10000, 2);
-        EXPECT_EQ(line.stand().factorWritten(), 1.0);
-        press(frm::StatMessen, "pbWeiter");
-        co_await arrive(frm::NachStatNPK);
-        line.stand().setCoupled(true);
-        press(frm::NachStatNPK, "pbok");
-        co_await arrive(frm::ProtokollNr);
-        co_await newProtocol("Abnahme 'Süd'");
-
-        // Step 1, power
-        EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
-        EXPECT_FALSE(control(frm::Messen, "txtIST_n_ergom")->isVisible());
-        line.stand().setLoad(100);
-        co_await settled("1", 60);
-        EXPECT_TRUE(canPress(frm::Messen, "pbSpeichern"));
-        const QString power = text(frm::Messen, "txtIST_P_torvena");
-        EXPECT_TRUE(power.contains(',')) << power.toStdString();
-        press(frm::Messen, "pbSpeichern");
-        EXPECT_EQ(column("SELECT Ist_P_torvena FROM Messwerte_temp WHERE ProtokollID = ?",
-                         {gProtokollID}),
-                  QStringList{power});
-
-        // Step 2, speed: waits for the reading of the ergometer
-        co_await settled("2", 80);
-        EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
-        type(frm::Messen, "txtIST_n_ergom", "80,5");
-        EXPECT_TRUE(canPress(frm::Messen, "pbSpeichern"));
-        enter(frm::Messen, "txtIST_n_ergom");
-        expectRecipeEnd();
-        press(frm::Messen, "pbSpeichern");
-        co_await pass(3'000);
-        EXPECT_EQ(gMessStatus, 6);
-        EXPECT_NEAR(line.stand().speed(), 80, 0.5); // the motor keeps running
-
-        press(frm::Messen, "pbAbbrechen");
-        co_await arrive(frm::Desktop);
-        EXPECT_EQ(line.stand().setSpeed(), 0);
-    };
-    run(journey());
-    EXPECT_EQ(column("SELECT Prüfschritt || '|' || Soll_n || '|' || Soll_P || '|' || Ist_n_ergom "
-                     "|| '|' || MU_ohne || '|' || MU_mit FROM Messwerte_temp "
-                     "WHERE ProtokollID = ? ORDER BY MDat",
-                     {gProtokollID}),
-              (QStringList{"1|60,0|100,0|0|ja|ja", "2|80,0|0,0|80,5|ja|ja"}));
-    EXPECT_EQ(
-        column("SELECT Protokollname FROM Protokoll_temp WHERE ProtokollID = ?", {gProtokollID}),
-        QStringList{"Abnahme 'Süd'"});
+JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
+    change("INSERT INTO Rezeptnamen (RezeptID, RezName, ToleranzID) VALUES (50, 'Urteile', 1)");
+    change("INSERT INTO Rezepte (RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart) VALUES "
+           "(50, '1', '60', 100, '1'), (50, '2', '60', 100, '1'), (50, '3', '60', 100, '1'), "
+           "(50, '10', '80', 0, '2')");
+    start();
+    co_await go(R"(
+        @Login ; Splash.lbMessenMit == Messen und Kalibrieren mit | Measure And Calibrate With
+        txtUserName = M. Prüfer ; pbok ; @Desktop ; txtNormal == Drehmomentnormal SerienNr. TN-1001
+        cannot pbGerät)");
+    EXPECT_FALSE(MSComm1.PortOpen());
+    co_await go(R"(
+        choose AEH-001, Urteile ; desktop ~ ^Klinikum Ährenfeld.[^|]+.AEH-001.Urteile.medizinische Geräte$
+        # Running-in to its end
+        pbDrehR ; @MotorDrehR ; obRechts ; pbok ; @Desktop ; lbDrehrichtung == Rechtslauf | Right
+        pbMotein ; wire == -*E-2100+>>> ; laInfo == Motor wird eingeschaltet | Motor is switched on
+        pass 61000 ; lbEinlauf == 08:59 ; speed == 60 ; pass 500000
+        until notice == Meldung: Die Einlaufzeit ist beendet. | Message: Running-in time is over.
+        front == Desktop ; until notice ==
+        # Zero point; nobody asks any more whether it is run in
+        pbMessen ; until StatMessen.laInfo == Motor wird ausgeschaltet | Motor is switched off.
+        @VorStatNPK ; shaft ~ speed=[12]?\d\..*motor=off ; stand coupled off
+        laText == Vor Durchführung der statischen Nullpunktkorrektur ist die Kreuzgelenkwelle am Normal abzukoppeln. | Before carrying out the static zero-point correction, the universal joint shaft has to be uncoupled from the normal.
+        pbok ; until StatMessen.laInfo == Offset messen | Measure Offset
+        until laInfo == 3 Messwerte | 3 Measuring Values ; until laInfo == Gain messen | Measure Gain
+        until can StatMessen.pbWeiter ; focus pbWeiter ; txtGain1 == 250,000 | 250.000
+        laMeldung == Statische Nullpunkt-Korrektur beendet | Static zero-point correction is terminated.
+        shaft ~ offset=(9999|1000[01])\.\d+.factor=1\.0000
+        pbWeiter ; @NachStatNPK ; stand coupled on
+        laText == Vor Beginn der Messung ist die Kreuzgelenkwelle am Normal anzukoppeln und auszurichten. | Before beginning the measurement, the universal joint shaft has to be coupled to the normal, and aligned
+        pbok ; @ProtokollNr ; protocol Abnahme 'Süd' ; cannot pbSpeichern ; hidden txtIST_n_ergom
+        title ~ ^Sechs Runden - Messen       Prüfprotokoll: \d+ - Abnahme 'Süd'$ | ^Six Rounds - Measuring       Test Protocol: \d+ - Abnahme 'Süd'$
+        txtMessArt == Leistungsmessung | Power Measurement ; laDrehR == Rechtslauf | Right
+        txtSoll_n == 60,0 | 60.0 ; laKorrF == 1,0000 | 1.0000)");
+    QStringList shown;
+    for (const int step : {1, 2, 3}) {
+        const QString measured =
+            QString("stand load %1 ; step %2 60 ; can pbSpeichern").arg(95 + 5 * step).arg(step);
+        co_await go(measured);
+        shown += views["live"]();
+        co_await go(R"(
+            pbSpeichern ; @Meldung
+            notice == Meldung: Achtung! Nächster Prüfschritt! | Message: Attention! Next Test Step!)");
+    }
+    co_await go(R"(
+        # Speed waits for the reading of the ergometer.
+        step 10 80 ; cannot pbSpeichern ; txtIST_n_ergom = 80,5 | 80.5
+        can pbSpeichern ; txtIST_n_ergom ! ; focus pbSpeichern)");
+    shown += views["live"]();
+    co_await go(R"(
+        ? recipeEnd ; pbSpeichern ; pass 3000 ; speed == 80    # the motor keeps running
+        leave ; shaft ~ ^set=0.00
+        stored Prüfschritt, Soll_n, Soll_P, Ist_n_ergom, MU_ohne, MU_mit == 1|60,0|100,0|0|ja|ja+2|60,0|100,0|0|nein|?+3|60,0|100,0|0|nein|nein+10|80,0|0,0|80,5|ja|ja | 1|60.0|100.0|0|yes|yes+2|60.0|100.0|0|no|?+3|60.0|100.0|0|no|no+10|80.0|0.0|80.5|yes|yes
+        sql SELECT Protokollname FROM Protokoll_temp ORDER BY ProtokollID DESC LIMIT 1 == Abnahme 'Süd')");
+    EXPECT_EQ(grid("SELECT Ist_n_torvena, Ist_D_torvena, Ist_P_torvena FROM Messwerte_temp "
+                   "WHERE ProtokollID = ? ORDER BY rowid",
+                   {gProtokollID}),
+              shown.join('+'));
+    EXPECT_EQ(shown.join(' ').contains('.'), english());
+    co_await go(R"(
+        stored round(replace(Ist_P_torvena, ',', '.')) || ' ' || round(replace(Ist_D_torvena, ',', '.')) == 100.0 16.0+105.0 17.0+110.0 18.0+110.0 13.0
+        ? end no ; mnuBeenden ; pass 100 ; front == Desktop
+        ? end yes ; mnuBeenden ; pass 100 ; front == ; process == over)");
 }
 
 } // namespace

@@ -5,6 +5,8 @@
 #include "einlauf.h"
 #include "runtime.h"
 #include "session.h"
+#include "standcommands.h"
+#include "start.h"
 #include "workplace.h"
 
 namespace support {
@@ -32,6 +34,51 @@ class Measuring : public Workplace {
         views["head"] = [] { // of the session's protocol
             return grid("SELECT Drehrichtung FROM Protokoll_temp WHERE ProtokollID = ?",
                         {gProtokollID});
+        };
+        views["steps"] = [] { // in the grid
+            QStringList steps;
+            for (const QString &row : rowsOf(control(frm::Messen, "DBGrid1")).split('+'))
+                steps += row.section('|', 0, 0);
+            return steps.join('+');
+        };
+        views["live"] = [] {
+            QStringList values;
+            for (const char *box : {"txtIST_n_torvena", "txtIST_D_torvena", "txtIST_P_torvena"})
+                values += text(frm::Messen, box);
+            return values.join('|');
+        };
+        views["notice"] = [] {
+            QString shown;
+            for (const char *name : {"Meldung", "Meldung1"}) {
+                if (const Screen *notice = screenNamed(name))
+                    shown += notice->caption() + ": " +
+                             shownBy(notice->findChild<QObject *>("laMeldung1")) + ' ' +
+                             shownBy(notice->findChild<QObject *>("laMeldung2"));
+            }
+            return shown;
+        };
+        views["title"] = [] { return platform::frontScreen()->caption(); };
+        views["box"] = [this] { return boxes.seen().back().text; };
+        views["told"] = [this] { return boxes.allCame() ? "yes" : "no"; };
+        views["released"] = [] { return gMessenFreigabe ? "yes" : "no"; };
+        views["process"] = [] {
+            return gDesktopAktiv || gDatenbank.isOpen() || loaded(frm::Desktop) ? "runs" : "over";
+        };
+        views["terminated"] = [] { // by the system
+            beendenOhneFrage();
+            return "now";
+        };
+        views["shaft"] = [this] {
+            return QString::fromStdString(simulator::runCommand("status", line.stand(), {}));
+        };
+        views["idle"] = [this] {
+            expectIdleDesktop();
+            return "yes";
+        };
+        // Nothing was written, and a measurement needs the selection anew.
+        roads["abort"] = [this](const QString &) {
+            return go("? correctionAborted ; pbAbbrechen ; @Desktop ; idle == yes ; released == no "
+                      "; cannot pbMessen mnuStartMessen ; shaft ~ offset=none factor=none");
         };
     }
 };

@@ -1,86 +1,44 @@
 // Rows that cannot be stored, and protocols that are continued.
-#include "measuringsession.h"
+#include "measuring.h"
 
 namespace {
 
 using namespace support;
-using namespace platform;
 
-TEST_F(MeasuringSession, RowThatCannotBeStored) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        line.stand().setLoad(100);
-        co_await settled("1", 60);
-        Datenbank other;
-        other.openFile(datenbankName);
-        other.execute("BEGIN IMMEDIATE");
-        const Text title{"!! Achtung Fehler !!", {}};
-        expectBox({"Fehler 3016 -  3045 Die Datenbank ist von einem anderen Programm gesperrt. "
-                   "Bitte schließen Sie es.",
-                   {}},
-                  Critical, title);
-        save();
-        other.execute("ROLLBACK");
-        EXPECT_TRUE(boxes.allCame());
+using Storing = Measuring;
 
-        // The measurement runs on, the step is the same.
-        EXPECT_FALSE(loaded(frm::Meldung));
-        line.stand().setLoad(98);
-        co_await until("another frame", [] { return shown("txtIST_P_torvena").startsWith("98"); });
-        EXPECT_EQ(shown("laPrSchritt"), "1");
-        EXPECT_EQ(storedSteps(), QStringList());
-        save();
-        // On disk for others before anything else happens.
-        EXPECT_EQ(other
-                      .open("SELECT 1 FROM Messwerte_temp WHERE ProtokollID = ? AND "
-                            "Ist_P_torvena LIKE '98%'",
-                            {gProtokollID})
-                      .count(),
-                  1);
-        co_await settled("2", 80);
-        co_await leaveMeasuring();
-    };
-    run(journey());
+JOURNEY(Storing, RowThatCannotBeWritten) {
+    co_await go("measure ; stand load 100 ; step 1 60");
+    Datenbank other;
+    other.openFile(datenbankName);
+    other.execute("BEGIN IMMEDIATE");
+    co_await go("? locked(3016) ; pbSpeichern");
+    other.execute("ROLLBACK");
+    co_await go(R"(
+        # The measurement runs on, the step is the same.
+        notice == ; stand load 98 ; until txtIST_P_torvena ~ ^98 ; laPrSchritt == 1 ; stored 1 ==
+        pbSpeichern)");
+    // On disk for others before anything else happens.
+    EXPECT_EQ(other
+                  .open("SELECT 1 FROM Messwerte_temp WHERE ProtokollID = ? AND "
+                        "Ist_P_torvena LIKE '98%'",
+                        {gProtokollID})
+                  .count(),
+              1);
+    co_await go("step 2 80 ; leave");
 }
 
-TEST_F(MeasuringSession, ContinuedProtocols) {
-    const auto journey = [this]() -> Journey {
-        co_await logIn();
-        co_await choose(demoNames().customer, "AEH-017", demoNames().recipe);
-        co_await correctZeroPoint();
-        EXPECT_FALSE(canPress(frm::ProtokollNr, "obLetztes"));
-        press(frm::ProtokollNr, "obVorhanden");
-        EXPECT_EQ(text(frm::ProtokollNr, "cmbVorhanden"), "21 - Nachmessung");
-        press(frm::ProtokollNr, "pbok");
-        co_await settled("1", 60);
-        expectEmptyProtocol();
-        co_await leaveMeasuring();
-        EXPECT_EQ(column("SELECT 1 FROM Protokoll_temp WHERE ProtokollID = 21"), QStringList());
-
-        // The last one, on its day: what it holds is shown in the order of the steps.
-        co_await correctZeroPoint();
-        EXPECT_FALSE(canPress(frm::ProtokollNr, "obVorhanden"));
-        co_await newProtocol("Der letzte");
-        co_await settled("1", 60);
-        save();
-        co_await settled("2", 80);
-        co_await leaveMeasuring();
-        const int number = gProtokollID;
-        for (const char *step : {"10", "FR", "2"})
-            change("INSERT INTO Messwerte_temp (ProtokollID, Prüfschritt) VALUES (?, ?)",
-                   {number, step});
-        co_await correctZeroPoint();
-        press(frm::ProtokollNr, "obLetztes");
-        press(frm::ProtokollNr, "pbok");
-        co_await settled("1", 60);
-        EXPECT_EQ(gProtokollID, number);
-        EXPECT_EQ(gridSteps(), (QStringList{"1", "2", "10", "FR"}));
-        EXPECT_TRUE(
-            loaded(frm::Messen)->caption().endsWith(QString::number(number) + "-Der letzte"));
-        co_await leaveMeasuring(); // with nothing new, but not empty
-        EXPECT_EQ(storedSteps().size(), 4);
-    };
-    run(journey());
+JOURNEY(Storing, ContinuedProtocols) {
+    co_await go(R"(
+        login ; choose AEH-017, Kurzprüfung ; correct ; cannot obLetztes
+        obVorhanden ; cmbVorhanden == 21 - Nachmessung ; pbok ; step 1 60 ; ? emptyProtocol ; leave
+        sql SELECT 1 FROM Protokoll_temp WHERE ProtokollID = 21 ==
+        # The last one, on its day: what it holds is shown in the order of the steps.
+        correct ; cannot obVorhanden ; protocol Der letzte ; step 1 60 ; pbSpeichern ; step 2 80 ; leave
+        change INSERT INTO Messwerte_temp (ProtokollID, Prüfschritt) SELECT ProtokollID, column1 FROM (SELECT ProtokollID FROM Protokoll_temp WHERE Protokollname = 'Der letzte'), (VALUES ('10'), ('FR'), ('2'))
+        correct ; obLetztes ; pbok ; step 1 60 ; steps == 1+2+10+FR ; title ~ \d+-Der letzte$
+        leave ; stored count(*) == 4    # with nothing new, but not empty
+        sql SELECT count(*) FROM Protokoll_temp WHERE Protokollname = 'Der letzte' == 1)");
 }
 
 } // namespace
