@@ -108,6 +108,9 @@ inline constexpr KnownBox boxTexts[] = {
     {"editPowerNumber", Exclamation, "Eingabefehler!", "Input Error!", "Leistung muss ein nummerischer Wert sein!", "Power must be a numerical value!"},
     {"editPowerRange", Exclamation, "Eingabefehler!", "Input Error!", "Leistung liegt außerhalb des gültigen Bereiches!", "Power is outside the valid range!"},
     {"torque", OKOnly, "Drehmoment<=60Nm", "Torque<=60Nm", "Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!", "The permissible torque has been exeeded!\r\nPlease enter other values!"},
+    // protocols
+    {"noProtocol", Exclamation, "Meldung", "Message", "Dieses Protokoll gibt es nicht!", "This protocol does not exist!"},
+    {"protocolFailed", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1-  %2 …", "ERROR %1-  %2 …"},
     // zero point and measurement
     {"noStream", Exclamation, "Meldung", "Message", "Nach 15 Sek kein Empfang", "No reception after 15 sec!"},
     {"correctionOff", Exclamation, "Meldung", "Message", "Statische Nullpunkt-Korrektur abgebrochen", "Static zero-point correction has been discontinued!"},
