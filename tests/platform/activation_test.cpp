@@ -136,7 +136,6 @@ TEST_F(Activation, InputReachesUsableScreensOnlyAndMovesTheFront) {
     probe(C).button->setEnabled(true);
     probe(C).button->hide();
     enter(Qt::Key_Return);
-    rows("> =C");
     probe(C).button->show();
     probe(C).button->setDefault(false);
     enter(Qt::Key_Return);
@@ -158,17 +157,16 @@ TEST_F(Activation, WindowsStandWholeOnTheDisplay) {
 
 TEST_F(Activation, OnlyLeavingAFieldForAnotherOneIsLeavingIt) {
     lay({A});
-    const std::pair<Qt::FocusReason, const char *> cases[] = {
-        {Qt::TabFocusReason, "A.lost"}, {Qt::MouseFocusReason, "A.lost"},
-        {Qt::PopupFocusReason, ""},     {Qt::ActiveWindowFocusReason, ""},
-        {Qt::MenuBarFocusReason, ""},
-    };
-    for (const auto &[reason, expected] : cases) {
+    for (const auto &[reason, left] : {std::pair{Qt::TabFocusReason, true},
+                                       {Qt::MouseFocusReason, true},
+                                       {Qt::PopupFocusReason, false},
+                                       {Qt::ActiveWindowFocusReason, false},
+                                       {Qt::MenuBarFocusReason, false}}) {
         for (const QEvent::Type type : {QEvent::FocusIn, QEvent::FocusOut}) {
             QFocusEvent event(type, reason);
             QCoreApplication::sendEvent(probe(A).box, &event);
         }
-        EXPECT_EQ(told(), expected) << reason;
+        EXPECT_EQ(told(), left ? "A.lost" : "") << reason;
     }
 }
 

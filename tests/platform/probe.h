@@ -147,32 +147,19 @@ class Activation : public testing::Test {
 
   private:
     void act(int id, QChar what) {
-        switch (what.unicode()) {
-        case '+':
-            return probe(id).show();
-        case '-':
-            return probe(id).hide();
-        case '!':
-            return void(probe(id).unload());
-        case '*':
-            return probe(id).showModal();
-        case 'n':
-            return probe(id).showNotice();
-        case '~':
-            return probe(id).disable();
-        case '^':
-            return probe(id).enable();
-        case 'x':
-            return void(probe(id).close());
-        case '@':
-            return QTest::mouseClick(probe(id).button, Qt::LeftButton);
-        case '{':
-            return void(mHolds.push_back(std::make_unique<HoldActivations>()));
-        case '}':
-            return mHolds.pop_back();
-        default:
-            FAIL() << "no such step";
-        }
+        const std::map<QChar, std::function<void()>> steps{
+            {'+', [id] { probe(id).show(); }},
+            {'-', [id] { probe(id).hide(); }},
+            {'!', [id] { probe(id).unload(); }},
+            {'*', [id] { probe(id).showModal(); }},
+            {'n', [id] { probe(id).showNotice(); }},
+            {'~', [id] { probe(id).disable(); }},
+            {'^', [id] { probe(id).enable(); }},
+            {'x', [id] { probe(id).close(); }},
+            {'@', [id] { QTest::mouseClick(probe(id).button, Qt::LeftButton); }},
+            {'{', [this] { mHolds.push_back(std::make_unique<HoldActivations>()); }},
+            {'}', [this] { mHolds.pop_back(); }}};
+        steps.at(what)();
     }
     static int front() {
         for (int id = A; id <= D; ++id) {
