@@ -117,7 +117,6 @@ class frmMessen : public Screen, private Messanzeige {
 
     double mBasisDrehzahl = 0; ///< speed of the step before the correction factor, 1/min
     double mKorrF = 1;
-    double mAltKorrF = 1; ///< when txtSoll_n got the keyboard
     double mGesendeteKorrF = 1;
     Werte mWerte = Werte::Fremde;
     QString mAltSoll_n;

@@ -43,10 +43,7 @@ void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbPlus, [this] { korrekturknopf(&frmMessen::fnc_DrehzahlPlus); });
     onClick(ui.pbMinus, [this] { korrekturknopf(&frmMessen::fnc_DrehzahlMinus); });
 
-    onGotFocus(ui.txtSoll_n, [this] {
-        mAltSoll_n = ui.txtSoll_n->text();
-        mAltKorrF = mKorrF;
-    });
+    onGotFocus(ui.txtSoll_n, [this] { mAltSoll_n = ui.txtSoll_n->text(); });
     onGotFocus(ui.txtSoll_P, [this] { mAltSoll_P = ui.txtSoll_P->text(); });
     onEnter(ui.txtSoll_n, [this] { ui.txtSoll_P->setFocus(); });
     onEnter(ui.txtSoll_P, [this] { ui.cmbMessArt->setFocus(); });
@@ -80,6 +77,10 @@ void frmMessen::eingabenVerdrahten() {
         });
     }
 
+    on(ui.cmbMessArt, &QComboBox::editTextChanged, [this] {
+        if (freieEingabe())
+            ausführenFreigeben();
+    });
     on(ui.cmbMessArt, &QComboBox::activated, [this] { cmbMessArt_Click(); });
     onKey(ui.cmbMessArt, [this](QKeyEvent &taste) { return cmbMessArt_KeyPress(taste); });
     onEnter(ui.cmbMessArt, [this] {
@@ -243,7 +244,6 @@ void frmMessen::fnc_FreieEingabe() {
 void frmMessen::cmbMessArt_Click() {
     ui.txtMessArt->setText(ui.cmbMessArt->currentText());
     ergometerFeldZeigen(istDrehzahlmessung());
-    ausführenFreigeben();
 }
 
 bool frmMessen::cmbMessArt_KeyPress(QKeyEvent &taste) {
@@ -275,7 +275,6 @@ void frmMessen::cmbMessArt_Change() {
         mTaste.clear();
         mTasteNeu = false;
     }
-    ausführenFreigeben();
 }
 
 void frmMessen::messArtZeigen(int art) {
@@ -313,25 +312,19 @@ bool frmMessen::freieEingabe() const {
 
 void frmMessen::sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenze,
                                const Text &keineZahl, const Text &außerhalb) {
-    if (box->text().isEmpty())
-        return;
+    if (box->text().isEmpty() || !freieEingabe())
+        return; // on a step of the recipe the pass alone sets the limit
     const Text *mangel = nullptr;
     if (!IsNumeric(box->text()))
         mangel = &keineZahl;
     else if (CDbl(box->text()) < 0 || CDbl(box->text()) > grenze)
         mangel = &außerhalb;
-    if (mangel) {
-        const QString gut = alterWert;
-        const double faktor = mAltKorrF;
-        meldung(*mangel, Critical, {"Eingabefehler", "Input Error"});
-        box->setText(gut);
-        if (box == ui.txtSoll_n)
-            korrFSetzen(faktor);
-        box->setFocus();
+    if (!mangel)
         return;
-    }
-    if (!box->isReadOnly())
-        ausführenFreigeben();
+    const QString gut = alterWert;
+    meldung(*mangel, Critical, {"Eingabefehler", "Input Error"});
+    box->setText(gut);
+    box->setFocus();
 }
 
 void frmMessen::txtIST_n_ergom_LostFocus() {

@@ -40,7 +40,9 @@ void frmMessen::fnc_Messzyklus() {
 }
 
 void frmMessen::durchgang() {
-    if (gMessStatus == messstatus::Messen) {
+    // Set-points that are still being typed are nothing to measure.
+    const bool offen = freieEingabe() && !ui.txtSoll_n->isReadOnly();
+    if (gMessStatus == messstatus::Messen && !offen) {
         gMessenFreigabe = true;
         fnc_MesswerteLeeren(); // what stands there belongs to another set-point
         if (!freieEingabe())
@@ -63,8 +65,8 @@ void frmMessen::durchgang() {
         }
         if (abgelöst())
             return;
-        gMessenFreigabe = false;
     }
+    gMessenFreigabe = false;
     try {
         datenstromBeenden();
     } catch (const Fehler &fehler) {

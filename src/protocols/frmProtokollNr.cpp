@@ -163,6 +163,8 @@ void frmProtokollNr::pbok_Click() try {
     abschließen(angenommen);
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 9704- ", "ERROR 9704- ", fehler);
+    if (fehler.number() == platform::fehlernummer::DuplicateKey)
+        fnc_ProtokollNrNeu(); // another program took the number
 }
 
 void frmProtokollNr::pbexit_Click() {

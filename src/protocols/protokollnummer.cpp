@@ -98,6 +98,12 @@ void kopfAnlegen(Schlüssel nummer, const QString &name) {
         // Left over under this number, by a move that ended half-way for instance.
         for (const QString inhalt : {"Messwerte_temp", "SecControl_temp", "Blutdruck_temp"})
             gDatenbank.execute("DELETE FROM " + inhalt + " WHERE ProtokollID = ?", {nummer});
+        for (const QString inhalt : {"Messwerte", "SecControl", "Blutdruck"}) {
+            gDatenbank.execute("DELETE FROM " + inhalt +
+                                   " WHERE ProtokollID = ?1 AND NOT EXISTS "
+                                   "(SELECT 1 FROM Protokoll WHERE ProtokollID = ?1)",
+                               {nummer});
+        }
     });
 }
 

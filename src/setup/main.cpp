@@ -49,7 +49,7 @@ int setUp(const QString &directory, bool demo) {
             legeDatenbankAn(path, demo);
     } catch (const Fehler &fehler) {
         return complain(path + ": " + fehler.text().english +
-                        (older ? " Nothing in it has been changed." : ""));
+                        (older ? "\nNothing in it has been changed." : ""));
     }
     QTextStream(stdout) << path << '\n';
     return Done;

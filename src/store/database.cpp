@@ -216,15 +216,13 @@ int Datenbank::execute(const QString &sql, const Params &params) {
 }
 
 void Datenbank::together(const std::function<void()> &statements) {
-    execute("SAVEPOINT Zusammen");
+    execute("BEGIN IMMEDIATE");
     auto undo = qScopeGuard([this] {
-        if (!mDatabase)
-            return;
-        mDatabase->tryExec("ROLLBACK TO Zusammen");
-        mDatabase->tryExec("RELEASE Zusammen");
+        if (mDatabase)
+            mDatabase->tryExec("ROLLBACK"); // also what a reader kept from being committed
     });
     statements();
-    execute("RELEASE Zusammen");
+    execute("COMMIT");
     undo.dismiss();
 }
 

@@ -126,6 +126,11 @@ void bringeDatenbankAufStand(const QString &path) {
     legeDatenbankAn(model, false);
     Datenbank store;
     store.openFile(path);
+    if (store.open("PRAGMA quick_check(1)")[0].text() != "ok") {
+        throw Fehler(fehlernummer::DatabaseDamaged,
+                     {"Die Datenbank ist beschädigt. Bitte spielen Sie eine Sicherungskopie ein.",
+                      "The database is damaged. Please restore a safety copy."});
+    }
     store.open("SELECT Version FROM System"); // the mark of a current database
     Update update(store, model);
     store.together([&] { update.run(); });
