@@ -34,6 +34,7 @@ inline constexpr KnownBox boxTexts[] = {
     {"portRefused", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler mI 2 -  8012 geht nicht", "ERROR mSI 2 -  8012 not possible"},
     {"startFailed", Critical, "Fehler", "Error", "Fehler 1002- %1 …", "Error 1002- %1 …"},
     {"lineFailed", Critical, "Error", "Error", "Error %1- %2 …", "Error %1- %2 …"},
+    {"requestFailed", Critical, "Error", "Error", "Fehler %1 -  %2 …", "ERROR %1 -  %2 …"},
     {"noPort", Critical, "Error", "Error", "Error 5007- 8002 fehlt", "Error 5007- 8002 missing"},
     {"uncaught", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler -  %1 %2", "ERROR -  %1 %2"},
     {"noHelp", Exclamation, "torvena", "torvena", "53 - Die Hilfe …", "53 - The help …"},
