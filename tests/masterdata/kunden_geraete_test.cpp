@@ -146,6 +146,43 @@ JOURNEY_P(Editing, AUnitIsDeletedAndTheLastOneToo) {
     EXPECT_FALSE(gNeuModus);
 }
 
+// What could not be read is told, not shown, and neither changed nor deleted.
+JOURNEY_P(Editing, FailuresOfReadingAreTold) {
+    const auto vanishes = [](const char *table) { return [table] { spoil("SELECT", table); }; };
+    co_await logIn();
+    co_await go(R"(
+        spoil SELECT Kunden ; ? failure(1070) ; pbKunde ; @Kunden ; mend ; pbAbbrechen ; @Desktop
+        pbKunde ; @Kunden ; cmbKundenname := Klinikum Ährenfeld ; spoil SELECT Kunden
+        ? failure(1071) ; cmbKundenname := Herzzentrum Talbrück ; lbName == ; txtOrt ==
+        ? changeCustomer ; pbchange ; ? changeCustomer ; pbDelete
+        ? failure(1073) ; pbSearch ; ? failure(1074) ; pbexit ; front == Kunden ; ? failure(1072) ; cmbOrt > Talbrück
+        ? failure(1051) ; pbNeu ; @NeuKunde ; ? failure(1077) ; pbexit ; @Kunden ; mend
+        cmbKundenname := Herzzentrum Talbrück ; spoil SELECT Kunden ; ? failure(1140) ; pbchange ; @ÄndKund
+        cannot pbSave ; mend ; pbexit ; @Kunden ; spoil SELECT Protokoll ; ? failure(LK 1) ; pbDelete
+        @LöschKunde ; cannot pbok ; mend ; pbCancel ; @Kunden ; pbDelete ; @LöschKunde ; spoil SELECT Protokoll
+        ? failure(31001) ; ? failure(LK 1) ; pbok ; cannot pbok ; mend ; pbCancel ; @Kunden ; pbchange ; @ÄndKund)");
+    expectKnown("changed", platform::OK, vanishes("Kunden"));
+    co_await go(R"(? failure(1077) ; ? failure(1077) ; pbSave ; @Kunden ; mend
+        cmbOrt > ; cmbKundenname := Herzzentrum Talbrück ; ? unitNow yes ; pbexit ; @Gerät
+        cmbIdent := HZT-1 ; spoil SELECT Ergometer ; ? failure(1094) ; cmbIdent := HZT-2 ; txtIdentNr ==
+        ? changeUnit ; pbchange ; ? changeUnit ; pbDelete ; ? failure(1102) ; pbok ; front == Gerät
+        cmbIdent := ; ? failure(1093) ; cmbTyp > Kardio L4 ; pbNeu ; @NeuGerät ; ? failure(1092) ; pbexit ; @Gerät
+        mend ; cmbTyp > ; cmbIdent := HZT-2 ; spoil SELECT Ergometer ; ? failure(1150) ; pbchange ; @ÄndGerät
+        cannot pbSave ; mend ; pbexit ; @Gerät ; spoil SELECT Protokoll ; ? failure(31002) ; pbDelete
+        @LöschGerät ; cannot pbYes ; mend ; pbNo ; @Gerät ; pbDelete ; @LöschGerät ; spoil SELECT Protokoll
+        ? failure(31001) ; ? failure(31002) ; pbYes ; cannot pbYes ; mend ; pbNo ; @Gerät ; pbchange ; @ÄndGerät)");
+    expectKnown("changed", platform::OK, vanishes("Ergometer"));
+    co_await go(
+        R"(? failure(1092) ; ? failure(1092) ; pbSave ; @Gerät ; pbexit ; @Desktop ; ? failure(6000) ; pbGerät ; mend
+        change ALTER TABLE Ergometer RENAME COLUMN IdentNr TO fort ; ? failure(1091) ; pbGerät ; @Gerät
+        change ALTER TABLE Ergometer RENAME COLUMN fort TO IdentNr ; pbexit ; @Desktop
+        spoil SELECT Rezeptnamen ; ? failure(6001) ; mnuRezepte ; ? failure(1016) ; pbRezept ; @Rezepte ; mend ; pbexit
+        @Desktop ; mnuRezepte ; @Rezepte ; cmbRezeptname := Kurzprüfung ; spoil SELECT ÄndRez_temp
+        ? failure(1017) ; pbÄndRez ; front == Rezepte ; mend ; pbNeuRezept ; @NeuRezept ; txtRezName = Kür
+        cmbToleranz > 1 ; ? saveName yes ; pbRezSave ; pbKopie ; @RezeptKopie
+        spoil SELECT Rezepte ; ? failure(1018) ; pbexit ; @NeuRezept ; mend)");
+}
+
 // Entered, found again by every road, changed, and chosen.
 JOURNEY(Editing, NamesOfAnyKindAreKeptAsTyped) {
     const QString name = QString("Ä'*?\"; DROP TABLE Kunden; -- [A-Z]_% <b>&ß</b> 💪 מכון &&")
