@@ -60,8 +60,8 @@ TEST_F(OnStand, CommandsOnTheWire) {
 TEST_F(OnStand, ExchangesDoNotInterleave) {
     fault("deaf 1");
     expectKnown("lineFailed(5007, 8021)");
-    boxes.expect("Fehler 4000 -  8021 …", "Error", Critical);
-    boxes.expect("Fehler 4001 -  8021 …", "Error", Critical);
+    expectKnown("requestFailed(4000, 8021)");
+    expectKnown("requestFailed(4001, 8021)");
     expectKnown("lineFailed(5009, 8021)");
     clock.stuck = [] { gDesktopAktiv = false; }; // the time-out of the first was lost
     clock.after(500, [] {
@@ -77,23 +77,37 @@ TEST_F(OnStand, ExchangesDoNotInterleave) {
     EXPECT_TRUE(gDesktopAktiv);
 }
 
-TEST_F(OnStand, AWaitEndsWithTheDesktop) {
-    const std::function<void()> waits[] = {
-        [] { EXPECT_FALSE(fnc_BefehlSenden("E", 1, "60")); },
-        [] { EXPECT_EQ(fnc_BetriebsartLesen(), 0); },
-        [] { EXPECT_FALSE(fnc_Reset()); },
-        [] { fnc_FrequenzLesen(); },
+TEST_F(OnStand, AWaitEndsWithTheDesktopAndWithTheLine) {
+    const struct {
+        int (*wait)();
+        const char *told; // of a line that is lost
+    } waits[] = {
+        {[] { return int(fnc_BefehlSenden("E", 1, "60")); },
+         "lineFailed(5005, 8020); lineFailed(5006, 8018); noController"},
+        {[] { return int(fnc_BetriebsartLesen()); }, "requestFailed(4000, 8020)"},
+        {[] { return int(fnc_Reset()); }, "requestFailed(4001, 8020)"},
+        {[] { return int(fnc_FrequenzLesen()); }, "lineFailed(5009, 8020)"},
     };
-    expectKnown("noController");
     fault("silent on");
-    for (const auto &wait : waits) {
-        gDesktopAktiv = true;
-        const double start = clock.elapsed();
-        clock.after(300, [] { gDesktopAktiv = false; });
-        wait();
-        EXPECT_LT(clock.elapsed() - start, 500);
-        clock.run(30'000);
-        EXPECT_FALSE(Timer1.enabled()) << "it stops by itself";
+    for (const auto &[wait, told] : waits) {
+        for (const bool lost : {false, true}) {
+            SCOPED_TRACE(told);
+            gDesktopAktiv = true;
+            line.plug();
+            fnc_PortÖffnen();
+            for (const QString &box : QString(told).split("; ")) {
+                if (lost || box == "noController")
+                    expectKnown(box);
+            }
+            clock.after(300, [&] { lost ? line.unplug() : void(gDesktopAktiv = false); });
+            const double start = clock.elapsed();
+            EXPECT_EQ(wait(), 0);
+            EXPECT_LT(clock.elapsed() - start, 500);
+            EXPECT_FALSE(lost && (Timer1.enabled() || tiDrehzahl.enabled()));
+            clock.run(30'000);
+            EXPECT_FALSE(Timer1.enabled()) << "it stops by itself";
+            boxes.expectAllCame();
+        }
     }
 }
 

@@ -46,12 +46,15 @@ TEST_F(Reception, ShowsEachValueAsItComes) {
 }
 
 TEST_F(Reception, EndsWhenANewerPassOrTheEndOfTheProgramWantsIt) {
-    const std::function<void()> ends[] = {[this] { superseded = true; },
-                                          [] { gDesktopAktiv = false; },
-                                          [] { gMessStatus = messstatus::Ende; }};
+    const std::function<void()> ends[] = {[] { gDesktopAktiv = false; },
+                                          [] { gMessStatus = messstatus::Ende; },
+                                          [this] {
+                                              superseded = true;
+                                              MSComm1.setPortOpen(false);
+                                          }};
     for (const auto &end : ends) {
-        superseded = false;
         gDesktopAktiv = true;
+        gMessStatus = messstatus::Messen;
         const double start = clock.elapsed();
         clock.after(5000, end);
         receive();
@@ -62,10 +65,10 @@ TEST_F(Reception, EndsWhenANewerPassOrTheEndOfTheProgramWantsIt) {
 
 TEST_F(Reception, AFrameThatDoesNotEndIsReportedAndTheReceptionGoesOn) {
     // Bytes go on coming; the time runs from the first.
-    arrive({frame.left(3), "\x01", "\x02"}, 5000);
+    arrive({"\x01", frame.left(3), "\x02"}, 5000);
     expectKnown("noData", platform::OK, [this] {
         EXPECT_NEAR(clock.elapsed(), 23'000, 10);
-        arrive({frame.mid(5), frame}, 1000); // ends the spoilt one
+        arrive({frame.mid(4), frame}, 1000); // ends the spoilt one
     });
     endsAt = "";
     clock.after(40'000, [] { gMessStatus = messstatus::Ende; });
