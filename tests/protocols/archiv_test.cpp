@@ -1,8 +1,6 @@
 // The move into the archive, and what a failure leaves where.
-
 #include "archiv.h"
 #include "protokollnummer.h"
-
 #include "protokolltest.h"
 
 namespace {
@@ -12,13 +10,11 @@ class Archiv : public ProtokollTest {
     Archiv() {
         for (const int nummer : {5, 6}) {
             kopf(nummer);
-            messwert(nummer, "1");
-            messwert(nummer, "FR");
-            messwert(nummer, "FR");
-            for (const int druck : {0, 50})
-                gDatenbank.execute("INSERT INTO Blutdruck_temp (ProtokollID, Normalanzeige, auf) "
-                                   "VALUES (?, ?, '51')",
-                                   {nummer, druck});
+            for (const char *schritt : {"1", "FR", "FR"})
+                messwert(nummer, schritt);
+            gDatenbank.execute("INSERT INTO Blutdruck_temp (ProtokollID, Normalanzeige, auf) "
+                               "VALUES (?1, 0, '51'), (?1, 50, '51')",
+                               {nummer});
             gDatenbank.execute("INSERT INTO SecControl_temp (ProtokollID, KennNr_STK) "
                                "VALUES (?, 'K')",
                                {nummer});
@@ -28,24 +24,24 @@ class Archiv : public ProtokollTest {
     /// Rows of protocol 5, "working/archive" for head, values, safety sheet, blood pressure.
     static QString bestand() {
         QStringList paare;
-        for (const QString tabelle : {"Protokoll", "Messwerte", "SecControl", "Blutdruck"}) {
-            paare += QString("%1/%2")
-                         .arg(anzahl(tabelle + "_temp WHERE ProtokollID = 5"))
-                         .arg(anzahl(tabelle + " WHERE ProtokollID = 5"));
-        }
+        for (const QString tabelle : {"Protokoll", "Messwerte", "SecControl", "Blutdruck"})
+            paare += grid("SELECT (SELECT count(*) FROM " + tabelle +
+                          "_temp WHERE ProtokollID = 5) || '/' || count(*) FROM " + tabelle +
+                          " WHERE ProtokollID = 5");
         return paare.join(' ');
     }
 };
 
 TEST_F(Archiv, MovesAllOfOneProtocol) {
-    const QString vorher = zeilen("SELECT * FROM Messwerte_temp WHERE ProtokollID = 5");
+    const QString vorher = grid("SELECT * FROM Messwerte_temp WHERE ProtokollID = 5");
     fnc_Archivieren();
     EXPECT_EQ(bestand(), "0/1 0/3 0/1 0/2");
-    EXPECT_EQ(zeilen("SELECT * FROM Messwerte"), vorher);
-    EXPECT_EQ(zeilen("SELECT KennNr_STK FROM SecControl"), "K");
-    EXPECT_EQ(anzahl("Protokoll_temp"), 1);
-    EXPECT_EQ(anzahl("Messwerte_temp"), 3) << "the other protocol stays";
-    EXPECT_TRUE(mBoxes.empty());
+    EXPECT_EQ(grid("SELECT * FROM Messwerte"), vorher);
+    EXPECT_EQ(grid("SELECT KennNr_STK FROM SecControl"), "K");
+    EXPECT_EQ(column("SELECT ProtokollID FROM Protokoll_temp JOIN Messwerte_temp USING "
+                     "(ProtokollID)"),
+              (QStringList{"6", "6", "6"}))
+        << "the other protocol stays";
 }
 
 TEST_F(Archiv, AFreedNumberMeetsNoForeignRows) {
@@ -61,9 +57,8 @@ TEST_F(Archiv, AFreedNumberMeetsNoForeignRows) {
     gDatenbank.execute("INSERT INTO SecControl_temp (ProtokollID, KennNr_STK) VALUES (6, 'neu')");
     EXPECT_THROW(kopfAnlegen(6, "noch einmal"), Fehler);
     fnc_Archivieren();
-    EXPECT_TRUE(mBoxes.empty());
-    EXPECT_EQ(zeilen("SELECT Prüfschritt, KennNr_STK FROM Messwerte JOIN SecControl"), "9|neu");
-    EXPECT_EQ(anzahl("Blutdruck"), 0);
+    EXPECT_EQ(grid("SELECT Prüfschritt, KennNr_STK FROM Messwerte JOIN SecControl"), "9|neu");
+    EXPECT_EQ(grid("SELECT * FROM Blutdruck"), "");
     EXPECT_EQ(bestand(), "1/0 3/0 1/0 2/0") << "the other protocol stays";
 }
 
@@ -73,37 +68,23 @@ TEST_F(Archiv, SkipsWhatTheProtocolDoesNotHave) {
     for (const QString ohne : {"Messwerte", "Blutdruck"}) // any statement on it would fail
         gDatenbank.execute("DROP TABLE " + ohne);
     fnc_Archivieren();
-    EXPECT_TRUE(mBoxes.empty());
-    EXPECT_EQ(anzahl("SecControl"), 1);
-    EXPECT_EQ(anzahl("SecControl_temp WHERE ProtokollID = 5"), 0);
+    EXPECT_EQ(grid("SELECT KennNr_STK FROM SecControl"), "K");
+    EXPECT_EQ(grid("SELECT * FROM SecControl_temp WHERE ProtokollID = 5"), "");
 }
 
 TEST_F(Archiv, FailureLeavesWhatWasDone) {
-    struct Fall {
-        const char *störung;
-        const char *box;
-        const char *bestand;
-    };
-    const Fall fälle[] = {
-        {"INSERT INTO Protokoll (ProtokollID) VALUES (5)", "Fehler 1083 -  3022 ",
-         "1/1 3/0 1/0 2/0"},
-        {"INSERT INTO SecControl (ProtokollID) VALUES (5)", "Fehler 1083 -  3022 ",
-         "0/1 0/3 1/1 2/0"},
-        {"CREATE TRIGGER t BEFORE DELETE ON Protokoll_temp "
-         "BEGIN SELECT RAISE(ABORT, 'refused'); END",
-         "Fehler 1083 - ", "1/1 3/0 1/0 2/0"},
-    };
-    for (const Fall &fall : fälle) {
+    for (const auto &fall :
+         support::cases("INSERT INTO Protokoll (ProtokollID) VALUES (5) -> 1/1 3/0 1/0 2/0 | "
+                        "INSERT INTO SecControl (ProtokollID) VALUES (5) -> 0/1 0/3 1/1 2/0 | "
+                        "CREATE TRIGGER t BEFORE DELETE ON Protokoll_temp "
+                        "BEGIN SELECT RAISE(ABORT, 'refused'); END -> 1/1 3/0 1/0 2/0")) {
         gDatenbank.execute("SAVEPOINT Fall");
-        gDatenbank.execute(fall.störung);
-        mBoxes.clear();
+        gDatenbank.execute(fall.in);
+        expectKnown("failed(1083, 3022)");
         fnc_Archivieren();
-        ASSERT_EQ(mBoxes.size(), 1U) << fall.störung;
-        EXPECT_TRUE(mBoxes[0].text.startsWith(fall.box)) << qPrintable(mBoxes[0].text);
-        EXPECT_EQ(bestand(), fall.bestand) << fall.störung;
+        EXPECT_EQ(bestand(), fall.out) << fall;
         gDatenbank.execute("ROLLBACK TO Fall");
     }
-    gDatenbank.execute("RELEASE Fall");
     EXPECT_EQ(bestand(), "1/0 3/0 1/0 2/0");
 }
 

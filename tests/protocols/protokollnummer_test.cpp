@@ -1,15 +1,11 @@
 // Numbers, empty protocols, continuing, heads.
-
 #include "protokollnummer.h"
 
-#include <functional>
-
-#include "fehler.h"
 #include "protokolltest.h"
-#include "testclock.h"
 
 namespace {
 
+using namespace support;
 using ProtokollNummer = ProtokollTest;
 
 TEST_F(ProtokollNummer, NextIsAboveWorkingTablesAndArchive) {
@@ -25,22 +21,15 @@ TEST_F(ProtokollNummer, NextIsAboveWorkingTablesAndArchive) {
     kopf(32767);
     EXPECT_EQ(nächsteProtokollNr(), 32768);
     kopf(2147483647);
-    try {
-        nächsteProtokollNr();
-        ADD_FAILURE();
-    } catch (const Fehler &fehler) {
-        EXPECT_EQ(fehler.number(), platform::fehlernummer::Overflow);
-    }
+    EXPECT_EQ(raised(nächsteProtokollNr), platform::fehlernummer::Overflow);
 }
 
 TEST_F(ProtokollNummer, LeadsAnEntry) {
-    const std::pair<const char *, int> cases[] = {
-        {"12 - Name", 12}, {"12-Name", 12}, {"7 - 5 W", 7}, {" 3", 3}, {"2147483647", 2147483647},
-        {"2147483648", 0}, {"Name 12", 0},  {"", 0},        {"-3", 0}, {"1.5", 0},
-        {"1e99", 0},
-    };
-    for (const auto &[eintrag, nummer] : cases)
-        EXPECT_EQ(protokollNrAus(eintrag), nummer) << eintrag;
+    for (const Case &c :
+         cases("12 - Name -> 12 | 12-Name -> 12 | 7 - 5 W -> 7 | \" 3\" -> 3 | 1 - A -> 1 | "
+               "2147483647 -> 2147483647 | 2147483648 -> 0 | Name 12 -> 0 | -> 0 | -3 -> 0 | "
+               "1.5 -> 0 | 1e99 -> 0"))
+        EXPECT_EQ(protokollNrAus(c.in), c.out.toInt()) << c;
 }
 
 TEST_F(ProtokollNummer, EmptyAreOnlyThoseOfCustomerAndUnitWithoutValues) {
@@ -61,96 +50,71 @@ TEST_F(ProtokollNummer, EmptyAreOnlyThoseOfCustomerAndUnitWithoutValues) {
 }
 
 TEST_F(ProtokollNummer, LastMayBeContinuedUnlessAnythingDiffers) {
-    const auto sql = [](const char *statement) {
-        return [statement] { gDatenbank.execute(statement); };
-    };
-    struct Fall {
-        const char *name;
-        bool fortsetzbar;
-        std::function<void()> änderung;
-    };
-    const Fall fälle[] = {
-        {"nothing differs", true, [] {}},
-        {"newer calibration of another standard", true,
-         sql("INSERT INTO Normalkalibrierdaten (NK_ID, SerienNr) VALUES (20, 'N2')")},
-        {"newer protocol without values", true, [] { kopf(30); }},
-        {"time behind the date", true,
-         sql("UPDATE Protokoll_temp SET ErstellDatum = ErstellDatum || ' 10:00:00'")},
-        {"customer", false, [] { gKundenID = 9; }},
-        {"unit", false, [] { gGerätID = 9; }},
-        {"direction", false, [] { gDrehrichtung = 2; }},
-        {"specification", false, [] { gToleranzID = 9; }},
-        {"method", false, [] { gMessverfahren = "anderes"; }},
-        {"recalibrated", false,
-         sql("INSERT INTO Normalkalibrierdaten (NK_ID, SerienNr) VALUES (21, 'N1')")},
-        {"other standard", false, [] { gSeriennummer = "N2"; }},
-        {"unknown standard", false, [] { gSeriennummer = "N3"; }},
-        {"made yesterday", false,
-         sql("UPDATE Protokoll_temp SET ErstellDatum = date(ErstellDatum, '-1 day')")},
-        {"midnight has passed", false,
-         [] { support::TestClock::install().setDay(QDate::currentDate().addDays(1)); }},
-        {"no date at all", false, sql("UPDATE Protokoll_temp SET ErstellDatum = NULL")},
-        {"head not complete", false,
-         [] {
-             gDatenbank.execute("UPDATE Protokoll_temp SET Drehrichtung = NULL");
-             gDrehrichtung = 0;
-         }},
-        {"newer protocol of another unit", false,
-         [] {
-             kopf(31, "fremd", 3, 8);
-             messwert(31);
-         }},
-        {"no values left", false, sql("DELETE FROM Messwerte_temp")},
-    };
-    for (const Fall &fall : fälle) {
-        gDatenbank.execute("SAVEPOINT Fall");
-        kopf(11, "älter");
-        messwert(11);
-        kopf(12, "letztes");
-        messwert(12);
-        fall.änderung();
-        const LetztesProtokoll letztes = letztesProtokollPrüfen();
-        EXPECT_EQ(letztes.fortsetzbar, fall.fortsetzbar) << fall.name;
-        if (fall.fortsetzbar) {
-            EXPECT_EQ(letztes.nummer, 12) << fall.name;
-            EXPECT_EQ(letztes.name, "letztes") << fall.name;
-        }
-        gDatenbank.execute("ROLLBACK TO Fall");
-        gKundenID = 3;
-        gGerätID = 4;
-        gDrehrichtung = 1;
-        gToleranzID = 2;
-        gMessverfahren = "Verfahren";
-        gSeriennummer = "N1";
-        support::TestClock::install();
-    }
-    gDatenbank.execute("RELEASE Fall");
     EXPECT_EQ(letztesProtokollPrüfen().nummer, 0);
+    kopf(1, "älter");
+    messwert(1);
+    const auto prüfen = [] {
+        const LetztesProtokoll letztes = letztesProtokollPrüfen();
+        return letztes.fortsetzbar ? QString("%1 %2").arg(letztes.nummer).arg(letztes.name) : "no";
+    };
+    EXPECT_EQ(prüfen(), "1 älter") << "the first of all can be continued, too";
+    kopf(12, "letztes");
+    messwert(12);
+    for (const Case &c : cases(
+             "DELETE FROM Kunden WHERE 0 -> 12 letztes | " // nothing differs
+             "INSERT INTO Normalkalibrierdaten (NK_ID, SerienNr) VALUES (20, 'N2') -> 12 letztes | "
+             "INSERT INTO Protokoll_temp (ProtokollID) VALUES (30) -> 12 letztes | "
+             "UPDATE Protokoll_temp SET ErstellDatum = ErstellDatum || ' 10:00:00' -> 12 letztes | "
+             "INSERT INTO Normalkalibrierdaten (NK_ID, SerienNr) VALUES (21, 'N1') -> no | "
+             "UPDATE Protokoll_temp SET ErstellDatum = date(ErstellDatum, '-1 day') -> no | "
+             "UPDATE Protokoll_temp SET ErstellDatum = NULL -> no | "
+             "UPDATE Protokoll_temp SET NK_ID = NULL -> no | "
+             "UPDATE Protokoll_temp SET KundenID = 8 -> no | "
+             "UPDATE Protokoll_temp SET GerätID = 8 -> no | DELETE FROM Messwerte_temp -> no")) {
+        gDatenbank.execute("SAVEPOINT Fall");
+        gDatenbank.execute(c.in);
+        EXPECT_EQ(prüfen(), c.out) << c;
+        gDatenbank.execute("ROLLBACK TO Fall");
+    }
+    const auto differs = [&](auto &variable, auto value) {
+        const auto before = std::exchange(variable, value);
+        EXPECT_EQ(prüfen(), "no") << value;
+        variable = before;
+    };
+    differs(gKundenID, 9);
+    differs(gGerätID, 9);
+    differs(gDrehrichtung, 1);
+    differs(gToleranzID, 9);
+    differs(gMessverfahren, "anderes");
+    differs(gSeriennummer, "N2");
+    differs(gSeriennummer, "N3"); // an unknown one
+    EXPECT_EQ(prüfen(), "12 letztes");
+    clock.setDay(platform::now().date().addDays(1));
+    EXPECT_EQ(prüfen(), "no") << "midnight has passed";
+    gDatenbank.execute("UPDATE Protokoll_temp SET Drehrichtung = NULL, ErstellDatum = ?",
+                       {platform::now().date()});
+    differs(gDrehrichtung, 0); // nothing agrees with what is missing
 }
 
 TEST_F(ProtokollNummer, HeadsTakeTheSettingsOfTheSession) {
-    const QString heute = QDate::currentDate().toString(Qt::ISODate);
-    const QString alles = "SELECT * FROM Protokoll_temp WHERE ProtokollID = 8";
+    const QString alles = "SELECT ProtokollID, Protokollname, Prüfername, GerätID, KundenID, "
+                          "Drehrichtung, PrüfungsArt, NK_ID, Messverfahren FROM Protokoll_temp "
+                          "WHERE ProtokollID = 8";
     kopfAnlegen(8, "Müller's");
     // The newest calibration of all standards, not of the connected one.
-    EXPECT_EQ(zeilen(alles), "8|Müller's|O'Neill|4|3|1|2|7|Verfahren|" + heute);
-    try {
-        kopfAnlegen(8, "noch einmal");
-        ADD_FAILURE();
-    } catch (const Fehler &fehler) {
-        EXPECT_EQ(fehler.number(), platform::fehlernummer::DuplicateKey);
-    }
+    EXPECT_EQ(grid(alles), "8|Müller's|O'Neill|4|3|2|5|7|Verfahren");
+    EXPECT_EQ(raised([] { kopfAnlegen(8, "noch einmal"); }), platform::fehlernummer::DuplicateKey);
 
     kopf(9);
     gKundenID = 30;
     gGerätID = 40;
     gPrüfer = "anderer";
-    gDrehrichtung = 2;
+    gDrehrichtung = 1;
     gToleranzID = 20;
     gMessverfahren = "neues";
     EXPECT_TRUE(kopfNachführen(8));
-    EXPECT_EQ(zeilen(alles), "8|Müller's|O'Neill|4|3|2|20|7|neues|" + heute);
-    EXPECT_EQ(zeilen("SELECT Drehrichtung FROM Protokoll_temp WHERE ProtokollID = 9"), "1");
+    EXPECT_EQ(grid(alles), "8|Müller's|O'Neill|4|3|1|20|7|neues");
+    EXPECT_EQ(grid("SELECT Drehrichtung FROM Protokoll_temp WHERE ProtokollID = 9"), "2");
     EXPECT_FALSE(kopfNachführen(10));
 }
 
