@@ -215,7 +215,8 @@ JOURNEY_P(RecipeEditor, FailuresAreTold) {
         spoil SELECT ÄndRez_temp ; ? failed(1034, 3078) ; pbSpeichern ; ? failed(1023E, 3078) ; pbEinfuegen
         ? failed(1023E, 3078) ; pbLoeschen ; fields == 6|66|9|L S-ID 4
         ? saveSteps no ; ? failed(1124, 3078) ; pbexit ; front == ÄndRez
-        mend ; close ; @Rezepte ; copy == 1:61 2:62,5 3:63 4:64 5:65)");
+        mend ; close ; @Rezepte ; copy == 1:61 2:62,5 3:63 4:64 5:65
+        pbÄndRez ; spoil SELECT ÄndRez_temp ; ? failed(1122, 3078) ; @ÄndRez ; mend)");
 }
 
 } // namespace

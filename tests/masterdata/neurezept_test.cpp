@@ -103,7 +103,7 @@ JOURNEY_P(NewRecipe, StepsAreStoredOneByOne) {
         DBGridRez rows~ ^1.60.100.[^+]*\+2.80.0.[^+]*\+3.80.0.[^+]*\+4.90.9.[^+]*$
         txtLeistung = 7 ; cmbPrArt = 1 ; pbSave ; look == 2 80/7/L save@txtDrehzahl SNEL(<>)O [1:60/100/1+2:80/7/1+3:80/0/2+4:90/9/1]
         pbFirst ; pbEinfuegen ; look == 1 60/100/L change@pbEinfuegen SNEL(<>)O [1:60/100/1+2:60/100/1+3:80/7/1+4:80/0/2+5:90/9/1]
-        mouse DBGridRez 3 ; pbLoeschen ; look == 3 80/0/D change@pbLoeschen SNEL(<>)O [1:60/100/1+2:60/100/1+3:80/0/2+4:90/9/1]
+        DBGridRez ^ ; key Down 2 ; pbLoeschen ; look == 3 80/0/D change@pbLoeschen SNEL(<>)O [1:60/100/1+2:60/100/1+3:80/0/2+4:90/9/1]
         pbLast ; pbLoeschen ; look == 3 80/0/D change@pbLoeschen SNEL(<>)O [1:60/100/1+2:60/100/1+3:80/0/2]
         pbFirst ; pbLoeschen ; pbLoeschen ; look == 1 80/0/D change@pbLoeschen SNEL(<>)O [1:80/0/2]
         pbLoeschen ; look == 1 80/0/D change@pbLoeschen SNEL(<>) []
@@ -120,7 +120,7 @@ JOURNEY_P(NewRecipe, ValuesAreCheckedWhenTheFieldIsLeft) {
     co_await go(R"(
         login ; mnuRezepte ; @Rezepte ; new ; named
         txtDrehzahl = 1x ; ? newSpeedNumber ; txtDrehzahl ! ; txtDrehzahl == ; focus txtDrehzahl
-        txtDrehzahl = 121 ; ? newSpeedRange ; txtDrehzahl ! ; txtDrehzahl == ; focus txtDrehzahl
+        txtDrehzahl = 0 ; ? newSpeedRange ; txtDrehzahl ! ; txtDrehzahl == ; focus txtDrehzahl
         txtLeistung = x ; ? newPowerNumber ; txtLeistung ! ; txtLeistung == ; focus txtLeistung
         txtLeistung = 601 ; ? newPowerRange ; txtLeistung ! ; txtLeistung == ; focus txtLeistung)");
     // Where the decimal sign is a comma, points part thousands and mean nothing.
