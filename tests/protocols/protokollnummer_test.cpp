@@ -69,8 +69,9 @@ TEST_F(ProtokollNummer, LastMayBeContinuedUnlessAnythingDiffers) {
              "UPDATE Protokoll_temp SET ErstellDatum = date(ErstellDatum, '-1 day') -> no | "
              "UPDATE Protokoll_temp SET ErstellDatum = NULL -> no | "
              "UPDATE Protokoll_temp SET NK_ID = NULL -> no | "
-             "UPDATE Protokoll_temp SET KundenID = 8 -> no | "
-             "UPDATE Protokoll_temp SET GerätID = 8 -> no | DELETE FROM Messwerte_temp -> no")) {
+             "UPDATE Protokoll_temp SET KundenID = 8 WHERE ProtokollID = 12 -> no | "
+             "UPDATE Protokoll_temp SET GerätID = 8 WHERE ProtokollID = 12 -> no | DELETE FROM "
+             "Messwerte_temp -> no")) {
         gDatenbank.execute("SAVEPOINT Fall");
         gDatenbank.execute(c.in);
         EXPECT_EQ(prüfen(), c.out) << c;
