@@ -34,7 +34,8 @@ int main(int argc, char *argv[]) {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP})
         std::signal(signal, onSignal);
 
-    programmStarten();
+    // Within the loop: boxes of the start can be ended from outside, too.
+    QMetaObject::invokeMethod(&application, programmStarten, Qt::QueuedConnection);
     const int result = QApplication::exec();
     programmAufräumen();
     return result;

@@ -135,7 +135,7 @@ bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QStr
             front().setMoteinEnabled(!gMotorEin);
             return false;
         }
-        const bool stop = frame.endsWith(standstillDigits);
+        const bool stop = frame.mid(2) == standstillDigits;
         if (!stop)
             welleLäuftAn();
         send(">");

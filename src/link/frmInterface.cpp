@@ -51,6 +51,7 @@ void frmInterface::beschriften() {
 }
 
 void frmInterface::Form_Load() {
+    mVorher = MSComm1.CommPort();
     try {
         beschriften();
         ui.pbSS2->setEnabled(exists(frm::SecondInterface));
@@ -89,6 +90,8 @@ void frmInterface::fnc_Zurücknehmen() try {
         MSComm1.setPortOpen(false);
     MSComm1.setCommPort(port);
 } catch (const Fehler &fehler) {
+    MSComm1.setPortOpen(false);
+    MSComm1.setCommPort(mVorher); // the table does not tell: as it was before the trial
     fehlerBox("Fehler I_1002 - ", "ERROR I_1002 - ", fehler);
 }
 

@@ -27,4 +27,5 @@ class frmInterface : public Screen {
     Ui::frmInterface ui;
     bool mVersuchLäuft = false;
     bool mGespeichert = false;
+    int mVorher = 1; ///< the port in force before the trial
 };

@@ -96,10 +96,12 @@ int fnc_PortPrüfen() {
 void fnc_InterfaceSpeichern(const QString &port, const QString &baud, const QString &data,
                             const QString &parity, const QString &stop) {
     const int number = static_cast<int>(Val(port));
-    MSComm1.setCommPort(number);
-    gDatenbank.execute("UPDATE Interface SET PortNr = ?", {number});
     const Schnittstelle fields{baud, parity, data, stop};
-    gDatenbank.execute("UPDATE Interface SET Parameter = ?", {fields.parameter()});
+    gDatenbank.together([&] {
+        gDatenbank.execute("UPDATE Interface SET PortNr = ?", {number});
+        gDatenbank.execute("UPDATE Interface SET Parameter = ?", {fields.parameter()});
+    });
+    MSComm1.setCommPort(number);
 }
 
 InterfaceZeile interfaceLesen() {

@@ -291,7 +291,8 @@ void frmÄndRez::wertAnnehmen(QLineEdit *feld, const QString &altWert, Wertprüf
             Exclamation, meldungen.titel);
     feld->setText(good);
     feld->setFocus();
-    feld->selectAll();
+    // Behind the change of keyboard, which takes a selection away.
+    QMetaObject::invokeMethod(feld, &QLineEdit::selectAll, Qt::QueuedConnection);
 }
 
 void frmÄndRez::txtDrehzahl_LostFocus() try {

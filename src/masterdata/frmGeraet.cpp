@@ -151,6 +151,7 @@ void frmGerät::fnc_ListeLeeren() {
 }
 
 void frmGerät::fnc_GerätWählen(const QString &identNr) try {
+    mGeladen = true; // also when the reading fails: it would fail again
     mSuche.leeren();
     listenLesen();
     if (!mSuche.namen().contains(identNr)) {
@@ -159,7 +160,6 @@ void frmGerät::fnc_GerätWählen(const QString &identNr) try {
     }
     mSuche.leeren(); // the only one of its type went in by itself
     mSuche.übernehmen(identNr);
-    mGeladen = true;
     ui.cmbIdent->setFocus(); // Enter chooses it
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1092 - ", "ERROR 1092 - ", fehler);

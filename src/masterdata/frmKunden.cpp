@@ -134,6 +134,7 @@ void frmKunden::fnc_ListeLeeren() {
 }
 
 void frmKunden::fnc_KundeWählen(const QString &name) try {
+    mGeladen = true; // also when the reading fails: it would fail again
     mSuche.leeren();
     listenLesen();
     if (!mSuche.namen().contains(name)) {
@@ -141,7 +142,6 @@ void frmKunden::fnc_KundeWählen(const QString &name) try {
         listenLesen();
     }
     mSuche.übernehmen(name);
-    mGeladen = true;
     ui.cmbKundenname->setFocus(); // Enter chooses it
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1077 - ", "ERROR 1077 - ", fehler);

@@ -81,6 +81,10 @@ Screen *Desk::find(int id) const {
 }
 
 void Desk::clear() {
+    for (auto &[id, screen] : mScreens) {
+        screen->mUnloaded = true; // what its window tells while it goes is for nobody
+        screen->QWidget::hide();
+    }
     mFront = nullptr;
     mActivationDue = false;
     mVisible.clear();

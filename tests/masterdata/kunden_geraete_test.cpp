@@ -162,7 +162,7 @@ JOURNEY_P(Editing, FailuresOfReadingAreTold) {
         @LöschKunde ; cannot pbok ; mend ; pbCancel ; @Kunden ; pbDelete ; @LöschKunde ; spoil SELECT Protokoll
         ? failure(31001) ; ? failure(LK 1) ; pbok ; cannot pbok ; mend ; pbCancel ; @Kunden ; pbchange ; @ÄndKund)");
     expectKnown("changed", platform::OK, vanishes("Kunden"));
-    co_await go(R"(? failure(1077) ; ? failure(1077) ; pbSave ; @Kunden ; mend
+    co_await go(R"(? failure(1077) ; pbSave ; @Kunden ; mend
         cmbOrt > ; cmbKundenname := Herzzentrum Talbrück ; ? unitNow yes ; pbexit ; @Gerät
         cmbIdent := HZT-1 ; spoil SELECT Ergometer ; ? failure(1094) ; cmbIdent := HZT-2 ; txtIdentNr ==
         ? changeUnit ; pbchange ; ? changeUnit ; pbDelete ; ? failure(1102) ; pbok ; front == Gerät
@@ -173,7 +173,7 @@ JOURNEY_P(Editing, FailuresOfReadingAreTold) {
         ? failure(31001) ; ? failure(31002) ; pbYes ; cannot pbYes ; mend ; pbNo ; @Gerät ; pbchange ; @ÄndGerät)");
     expectKnown("changed", platform::OK, vanishes("Ergometer"));
     co_await go(
-        R"(? failure(1092) ; ? failure(1092) ; pbSave ; @Gerät ; pbexit ; @Desktop ; ? failure(6000) ; pbGerät ; mend
+        R"(? failure(1092) ; pbSave ; @Gerät ; pbexit ; @Desktop ; ? failure(6000) ; pbGerät ; mend
         change ALTER TABLE Ergometer RENAME COLUMN IdentNr TO fort ; ? failure(1091) ; pbGerät ; @Gerät
         change ALTER TABLE Ergometer RENAME COLUMN fort TO IdentNr ; pbexit ; @Desktop
         spoil SELECT Rezeptnamen ; ? failure(6001) ; mnuRezepte ; ? failure(1016) ; pbRezept ; @Rezepte ; mend ; pbexit
