@@ -306,6 +306,8 @@ void Way::act(const QString &step) {
 Journey Way::go(QString way) {
     for (const QString &written : way.split('\n')) {
         const QString steps = (' ' + written).section(" # ", 0, 0).trimmed();
+        if (steps.isEmpty())
+            continue;
         for (const QString &each : steps.split(" ; ", Qt::SkipEmptyParts)) {
             const QString step = each.trimmed();
             SCOPED_TRACE(steps.toStdString() + "  << " + step.toStdString());
