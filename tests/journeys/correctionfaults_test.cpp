@@ -1,118 +1,41 @@
 // The zero-point correction with a controller that falls silent, babbles or has drifted.
-#include "linefaults.h"
+#include "measuring.h"
 
 namespace {
 
 using namespace support;
-using namespace platform;
 
-/// Runs in German and in English.
-class CorrectionFaults : public LineFaults, public testing::WithParamInterface<int> {
-  protected:
-    CorrectionFaults() : LineFaults(GetParam()) {}
-};
+using CorrectionFaults = Measuring;
 
-INSTANTIATE_TEST_SUITE_P(Languages, CorrectionFaults, testing::Values(1, 2));
-
-TEST_P(CorrectionFaults, StoppingBeforeTheCorrection) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        line.stand().setFaults({.silent = true});
-        expectNoController();
-        expectCorrectionAborted();
-        co_await chooseDirection();
-        gEingelaufen = true;
-        press(frm::Desktop, "pbMessen");
-        co_await arrive(frm::StatMessen);
-        co_await arrive(frm::Desktop);
-        heal();
-        co_await wholeMeasurement("Danach");
-    };
-    run(journey());
+JOURNEY_P(CorrectionFaults, Streams) {
+    co_await go(R"(
+        select ; begin ; pbok ; until wireNow ~ f$ ; pass 2000 ; stand fault silent on
+        ? noStream ; ? correctionOff ; pass 15100
+        stand fault none ; cannot pbWeiter ; abort ; begin ; pbok
+        until wireNow ~ t$ ; pass 2000 ; stand fault silent on ; ? noStream ; ? correctionOff ; pass 15100
+        stand fault none ; cannot pbWeiter ; abort
+        # Babble does not disturb the mean.
+        begin ; stand fault babble on ; pbok ; pass 31000 ; can pbWeiter ; stand fault none
+        shaft ~ offset=10000\.[0-3]\d+.factor=1\.0000 ; close ; @Desktop ; idle == yes ; whole Danach)");
 }
 
-TEST_P(CorrectionFaults, StreamsOfTheCorrection) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        for (const char stream : {'f', 't'}) {
-            co_await startMeasuring();
-            press(frm::VorStatNPK, "pbok");
-            co_await until("the stream",
-                           [this, stream] { return line.stand().wire().back() == stream; });
-            co_await pass(2'000);
-            line.stand().setFaults({.silent = true});
-            expectNoStream();
-            co_await told(15'100);
-            heal();
-            EXPECT_FALSE(canPress(frm::StatMessen, "pbWeiter"));
-            co_await abortCorrection();
-        }
-
-        // Babble may spoil the mean or not, but it ends.
-        co_await startMeasuring();
-        line.stand().setFaults({.babble = true});
-        boxes.allow(english() ? "The zero-point correction has been discontinued!"
-                              : "Die Nullpunkt-Korrektur wurde abgebrochen!");
-        press(frm::VorStatNPK, "pbok");
-        co_await until(
-            "the end",
-            [] { return !loaded(frm::StatMessen) || canPress(frm::StatMessen, "pbWeiter"); },
-            31'000);
-        heal();
-        if (loaded(frm::NachStatNPK))
-            press(frm::NachStatNPK, "pbok");
-        else
-            press(frm::StatMessen, "pbAbbrechen");
-        co_await arrive(frm::Desktop);
-        co_await wholeMeasurement("Danach");
-    };
-    run(journey());
-}
-
-TEST_P(CorrectionFaults, DriftBeyondTheLimit) {
-    struct Case {
-        double offset, gain; // raw, 50 are 1 N m
-        bool passes;
-    };
-    constexpr Case cases[] = {
-        {15.1, 0, false}, {0, -15.1, false}, {14.9, 0, true}, {0, -14.9, true}};
-    const auto journey = [this, &cases]() -> Journey {
-        co_await select();
-        for (const Case &drift : cases) {
-            SCOPED_TRACE(testing::Message() << drift.offset << ' ' << drift.gain);
-            line.stand().setOffsetDrift(drift.offset);
-            line.stand().setGainDrift(drift.gain);
-            co_await startMeasuring();
-            if (drift.passes) {
-                co_await corrected();
-                EXPECT_NEAR(line.stand().offsetWritten().value_or(0), 10'000 + drift.offset, 0.2);
-                loaded(frm::StatMessen)->close();
-            } else {
-                expectCorrectionAborted();
-                press(frm::VorStatNPK, "pbok");
-                co_await arrive(frm::NachStatNPK);
-                EXPECT_FALSE(loaded(frm::StatMessen));
-                EXPECT_FALSE(line.stand().offsetWritten() || line.stand().factorWritten());
-                EXPECT_EQ(loaded(frm::NachStatNPK)->caption(),
-                          english() ? "Tolerance Exeeded" : "Toleranzüberschreitung");
-                EXPECT_EQ(text(frm::NachStatNPK, "laText"),
-                          english() ? "Switch the unit under test off, then switch it on again!\n"
-                                      "Await the end of running-in time and repeat the static "
-                                      "correction.\n\n"
-                                      "In case of deviations, please call the service!"
-                                    : "Gerät ausschalten, wieder einschalten,\n"
-                                      "Einlaufzeit einhalten und statische Korrektur "
-                                      "wiederholen.\n\n"
-                                      "Bei erneuter Toleranzüberschreitung Hotline anrufen.");
-                press(frm::NachStatNPK, "pbok");
-            }
-            co_await arrive(frm::Desktop);
-            EXPECT_EQ(canPress(frm::Desktop, "pbMessen"), drift.passes);
-        }
-        line.stand().setGainDrift(0);
-        co_await wholeMeasurement("Danach");
-    };
-    run(journey());
+JOURNEY_P(CorrectionFaults, DriftBeyondTheLimit) {
+    co_await go("select");
+    for (const Case &drift :
+         cases("15.1, 0 -> | 0, -15.1 -> | 14.9, 0 -> offset=1001(4.[789]|5.[01]) "
+               "| 0, -14.9 -> offset=(9999.[89]|10000.[012])")) {
+        SCOPED_TRACE(drift.in);
+        const QString given = "stand offsetdrift " + drift.in_(0) + " ; stand gaindrift " +
+                              drift.in_(1) + " ; begin"; // raw, 50 are 1 N m
+        co_await go(given);
+        co_await go(drift.out.isEmpty() ? R"(
+            ? correctionAborted ; pbok ; @NachStatNPK ; title == Toleranzüberschreitung | Tolerance Exeeded
+            laText ~ ^Gerät ausschalten, wieder einschalten,\sEinlaufzeit einhalten und statische Korrektur wiederholen.\s\sBei erneuter Toleranzüberschreitung Hotline anrufen.$ | ^Switch the unit under test off, then switch it on again!\sAwait the end of running-in time and repeat the static correction.\s\sIn case of deviations, please call the service!$
+            shaft ~ offset=none factor=none ; pbok ; @Desktop ; cannot pbMessen)"
+                                        : R"(
+            pbok ; until can StatMessen.pbWeiter ; close ; @Desktop ; can pbMessen)");
+        act("shaft ~ " + drift.out);
+    }
 }
 
 } // namespace

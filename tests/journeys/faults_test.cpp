@@ -1,136 +1,71 @@
 // A controller that does not do as it should, from motor on to the stream of a step: what is told,
 // that nothing hangs, and that the program goes on as soon as the controller does.
-#include "linefaults.h"
+#include "measuring.h"
 
 namespace {
 
 using namespace support;
-using namespace platform;
 
-TEST_F(LineFaults, MotorOnAndOff) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        co_await chooseDirection();
-        for (const LineFault &fault : lineFaults) {
-            SCOPED_TRACE(fault.name);
-            for (const bool on : {true, false}) {
-                const char *button = on ? "pbMotein" : "pbMotaus";
-                const double begin = clock.elapsed();
-                line.stand().setFaults(fault.faults);
-                if (!fault.mastered) {
-                    expectNoController();
-                    on ? expectMotorNotOn() : expectMotorOff(Exclamation);
-                }
-                press(frm::Desktop, button);
-                if (on) {
-                    EXPECT_LT(clock.elapsed() - begin, 6'500);
-                    EXPECT_EQ(line.stand().setSpeed() > 0, fault.mastered);
-                }
-                EXPECT_EQ(gMotorEin, on == fault.mastered); // as far as anybody knows
-                EXPECT_EQ(canPress(frm::Desktop, "pbMotein"), !gMotorEin);
-                EXPECT_EQ(canPress(frm::Desktop, "pbMotaus"), gMotorEin);
-                heal();
-                if (!fault.mastered)
-                    press(frm::Desktop, button);
-                EXPECT_EQ(line.stand().setSpeed(), on ? 60 : 0);
-            }
-            co_await pass(5'000);
-            EXPECT_EQ(line.stand().speed(), 0);
-            EXPECT_TRUE(boxes.allCame());
-        }
-    };
-    run(journey());
+class LineFaults : public Measuring {
+  protected:
+    LineFaults() {
+        views["motor"] = [this] { // as far as anybody knows, what can be pressed, and in truth
+            return QString("%1%2%3 %4")
+                .arg(gMotorEin ? "on" : "off", canPress(frm::Desktop, "pbMotein") ? " Motein" : "",
+                     canPress(frm::Desktop, "pbMotaus") ? " Motaus" : "")
+                .arg(line.stand().setSpeed());
+        };
+    }
+};
+
+JOURNEY_P(LineFaults, MotorOnAndOff) {
+    change("UPDATE System SET Einlzeit2 = NULL"); // ten minutes if nothing is stored
+    co_await go(R"(
+        select ; direction ; stand fault deaf 2 ; pbMotein ; motor == on Motaus 60 ; pass 2005
+        lbEinlauf == 09:58 ; stand fault deaf 2 ; pbMotaus ; motor == off Motein 0
+        laInfo == Motor ist ausgeschaltet | Motor is switched off
+        pass 5000 ; lbEinlauf == 09:58 ; speed == 0    # running-in stops with the motor
+        stand fault deaf 3 ; ? noController ; ? motorNotOn ; pbMotein ; motor == off Motein 0
+        pbMotein ; motor == on Motaus 60
+        stand fault deaf 3 ; ? noController ; ? motorOffAtEnd ; pbMotaus ; motor == on Motaus 60
+        pbMotaus ; motor == off Motein 0
+        stand fault silent on ; ? noController ; ? motorNotOn ; pbMotein ; motor == off Motein 0
+        stand fault none ; pbMotein ; motor == on Motaus 60
+        stand fault silent on ; ? noController ; ? motorOffAtEnd ; pbMotaus ; motor == on Motaus 60
+        stand fault none ; pbMotaus ; motor == off Motein 0)");
 }
 
-TEST_F(LineFaults, RefusedSpeedLeavesTheScreen) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        for (const LineFault &fault : lineFaults) {
-            if (fault.mastered)
-                continue;
-            SCOPED_TRACE(fault.name);
-            co_await correctZeroPoint();
-            line.stand().setFaults(fault.faults);
-            expectNoController();
-            expectRefused();
-            if (fault.lasts)
-                expectNoController(); // when the motor is told to stop
-            expectEmptyProtocol();
-            press(frm::ProtokollNr, "obNeu");
-            press(frm::ProtokollNr, "pbok");
-            const double begin = clock.elapsed();
-            co_await arrive(frm::Desktop);
-            EXPECT_LT(clock.elapsed() - begin, 13'500);
-            heal();
-            EXPECT_TRUE(boxes.allCame());
-            expectIdleDesktop();
-        }
-
-        co_await wholeMeasurement("Danach");
-    };
-    run(journey());
+JOURNEY_P(LineFaults, RefusedSpeedLeavesTheScreen) {
+    co_await go(R"(
+        select ; correct ; obNeu ; stand fault deaf 3
+        ? noController ; ? motorOn ; ? refused ; ? emptyProtocol ; pbok ; @Desktop ; idle == yes
+        correct ; obNeu ; stand fault silent on    # nor is the stop heard
+        ? noController ; ? motorOn ; ? refused ; ? noController ; ? emptyProtocol ; pbok ; @Desktop
+        stand fault none ; idle == yes)");
 }
 
-TEST_F(LineFaults, SilentStreamWaitsForTheOperator) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        co_await startMeasuring();
-        co_await corrected();
-        press(frm::StatMessen, "pbWeiter");
-        co_await arrive(frm::NachStatNPK);
-        line.stand().setFaults({.deafFrames = 3}); // when the measurement is opened
-        expectNoController();
-        press(frm::NachStatNPK, "pbok");
-        co_await arrive(frm::ProtokollNr);
-        co_await newProtocol("Trotzdem");
-        line.stand().setFaults({.silent = true});
-        co_await pass(120'000);
-        EXPECT_EQ(text(frm::Messen, "txtIST_n_torvena"), "");
-        EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
-        heal();
-        co_await settled("1", 60);
-        line.stand().setFaults({.silent = true});
-        expectNoController();
-        expectMotorOff(Critical);
-        expectNoController();
-        expectEmptyProtocol();
-        co_await leaveMeasuring();
-        EXPECT_TRUE(boxes.allCame());
-        heal();
-        co_await wholeMeasurement("Danach");
-    };
-    run(journey());
+JOURNEY_P(LineFaults, SilentStreamWaitsForTheOperator) {
+    co_await go(R"(
+        select ; begin ; pbok ; until can StatMessen.pbWeiter ; pbWeiter ; @NachStatNPK
+        stand fault deaf 3 ; ? noController ; pbok ; @ProtokollNr    # when the measurement is opened
+        protocol Trotzdem ; stand fault silent on ; pass 120000 ; live == || ; cannot pbSpeichern
+        stand fault none ; step 1 60 ; stand fault silent on
+        ? noController ; ? motorOff ; ? noController ; ? emptyProtocol ; leave
+        stand fault none ; whole Danach)");
 }
 
 // A frame that was begun must end within 18 s; at 15 1/min one takes 24 s, and each is cut.
-TEST_F(LineFaults, CutFramesAreTold) {
-    setLanguage(2);
+JOURNEY_P(LineFaults, CutFramesAreTold) {
     change("UPDATE Rezepte SET Drehzahl = '15' WHERE RezeptID = 1 AND Prüfschritt = '1'");
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        co_await correctZeroPoint();
-        line.stand().setFaults({.cutEvery = 1});
-        co_await newProtocol("Cut");
-        co_await until("the first frame",
-                       [] { return !text(frm::Messen, "txtIST_n_torvena").isEmpty(); });
-        const double begin = clock.elapsed();
-        boxes.expect("No data at ca. 3 x 6 rounds!", OK,
-                     [&] { EXPECT_NEAR(clock.elapsed() - begin, 18'000, 50); });
-        co_await told();
-        EXPECT_EQ(boxes.seen().back().title, "Communication Error");
-        EXPECT_EQ(boxes.seen().back().flags, Critical);
-        heal();
-        line.stand().setLoad(20);
-        co_await pass(60'000); // one frame may be wrong still
-        co_await settled("1", 15);
-        EXPECT_TRUE(text(frm::Messen, "txtIST_P_torvena").startsWith("20"))
-            << text(frm::Messen, "txtIST_P_torvena").toStdString();
-        save();
-        EXPECT_EQ(storedSteps(), QStringList{"1"});
-        co_await settled("2", 80);
-        co_await leaveMeasuring();
-    };
-    run(journey());
+    co_await go(R"(
+        select ; correct ; stand fault cut 1 ; protocol Cut ; until txtIST_n_torvena ~ .)");
+    const double begin = clock.elapsed();
+    expectKnown("noData", platform::OK,
+                [this, begin] { EXPECT_NEAR(clock.elapsed() - begin, 18'000, 50); });
+    co_await go(R"(
+        until told == yes ; pass 100 ; stand fault none ; stand load 20
+        pass 60000 ; step 1 15 ; txtIST_P_torvena ~ ^20 ; pbSpeichern    # one may be wrong still
+        stored Prüfschritt == 1 ; step 2 80 ; leave)");
 }
 
 } // namespace

@@ -1,121 +1,45 @@
 // The line is pulled out: what is told, and how it goes on when it is back or not.
-#include "linefaults.h"
+#include "measuring.h"
 
 namespace {
 
 using namespace support;
-using namespace platform;
 
-/// In English: the German boxes of these faults are those of a controller that is silent.
-class LineGone : public LineFaults {
-  protected:
-    LineGone() : LineFaults(2) {}
-    /// Within the exchange that begins next.
-    void unplugSoon() {
-        clock.after(30, [this] { line.unplug(); });
-        for (const char *tag : {"Error 5005- 8020 …", "Error 5006- 8018 …"})
-            boxes.expect(tag);
-        expectNoController();
-    }
-};
+using LineGone = Measuring;
 
-TEST_F(LineGone, WithinAnExchange) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        co_await chooseDirection();
-        unplugSoon();
-        expectMotorNotOn();
-        press(frm::Desktop, "pbMotein");
-        EXPECT_TRUE(boxes.allCame());
-        line.plug();
-
-        co_await startMeasuring();
-        boxes.expect("ERROR 4002 -  8020 …");
-        expectDiscontinued();
-        press(frm::VorStatNPK, "pbok");
-        co_await pass(2'000);
-        line.unplug();
-        co_await told();
-        line.plug();
-        co_await abortCorrection();
-
-        // The echo of a step's set-point
-        co_await correctZeroPoint();
-        unplugSoon();
-        expectRefused();
-        expectNoPort(); // the stop
-        expectEmptyProtocol();
-        press(frm::ProtokollNr, "obNeu");
-        press(frm::ProtokollNr, "pbok");
-        co_await arrive(frm::Desktop);
-        EXPECT_TRUE(boxes.allCame());
-        line.plug();
-        co_await wholeMeasurement("Danach");
-    };
-    run(journey());
+JOURNEY_P(LineGone, WithinAnExchange) {
+    co_await go(R"(
+        select ; direction ; after 30 line out
+        ? lineFailed(5005, 8020) ; ? lineFailed(5006, 8018) ; ? noController ; ? motorNotOn ; pbMotein
+        line in ; begin ; pbok ; pass 2000
+        ? failed(4002, 8020) ; ? correctionOff ; line out ; until told == yes ; pass 100
+        line in ; abort
+        # The echo of a step's set-point, and then the stop
+        correct ; obNeu ; after 30 line out
+        ? lineFailed(5005, 8020) ; ? lineFailed(5006, 8018) ; ? noController ; ? motorOn ; ? refused ; ? noPort ; ? emptyProtocol ; pbok ; @Desktop
+        line in ; whole Danach)");
 }
 
-TEST_F(LineGone, WithinAStepAndBack) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        for (const bool inTheFirstFrame : {true, false}) {
-            if (!inTheFirstFrame)
-                co_await settled("1", 60);
-            expectLineLost();
-            line.unplug();
-            co_await told(10'000);
-            co_await pass(30'000);
-            EXPECT_TRUE(inFront(frm::Messen));
-            line.plug();
-            press(frm::Messen, "pbMessen");
-            co_await arrive(frm::Meldung);
-        }
-        co_await settled("1", 60);
-        save();
-        co_await settled("2", 80);
-        EXPECT_EQ(storedSteps(), QStringList{"1"});
-        co_await leaveMeasuring();
-        expectIdleDesktop();
-    };
-    run(journey());
+JOURNEY_P(LineGone, WithinAStepAndBack) {
+    co_await go(R"(
+        measure ; ? lineLost ; line out ; pass 10000
+        pass 30000 ; front == Messen ; line in ; pbMessen ; @Meldung ; step 1 60
+        ? lineLost ; line out ; pass 10000
+        pass 30000 ; front == Messen ; line in ; pbMessen ; @Meldung ; step 1 60
+        pbSpeichern ; step 2 80 ; stored Prüfschritt == 1 ; leave ; idle == yes)");
 }
 
-TEST_F(LineGone, ForGood) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        for (const QString way : {"pbAbbrechen", "close box", "pbMessen", "pbSpeichern"}) {
-            SCOPED_TRACE(way.toStdString());
-            co_await correctZeroPoint();
-            co_await newProtocol(way);
-            co_await settled("1", 60);
-            expectLineLost();
-            line.unplug();
-            co_await told(10'000);
-            if (way == "pbMessen" || way == "pbSpeichern") {
-                expectNoPort(); // the set-point; then it leaves by itself
-                expectRefused();
-            }
-            if (way != "pbSpeichern")
-                expectEmptyProtocol();
-            expectNoPort(); // the stop
-            if (way == "close box")
-                loaded(frm::Messen)->close();
-            else
-                press(frm::Messen, qPrintable(way));
-            co_await arrive(frm::Desktop);
-            EXPECT_TRUE(boxes.allCame());
-            EXPECT_GT(line.stand().setSpeed(), 0); // nobody could tell it
-            EXPECT_TRUE(gMotorEin);
-            line.plug();
-        }
-        co_await wholeMeasurement("Danach");
-        line.unplug();
-        boxes.expect("Do you really want to terminate the program?", Yes); // it stands
-        press(frm::Desktop, "pbBeenden");
-        co_await pass(100);
-        EXPECT_FALSE(loaded(frm::Desktop));
-    };
-    run(journey());
+JOURNEY_P(LineGone, ForGood) {
+    co_await go(R"(
+        # Nobody could tell the motor to stop.
+        measure ; step 1 60 ; ? lineLost ; line out ; pass 10000
+        ? noPort ; ? emptyProtocol ; close ; @Desktop
+        motor == on ; can pbMotaus ; shaft ~ ^set=60.00 ; line in
+        # Stored, and the next set-point cannot be sent: then it leaves by itself.
+        correct ; protocol Noch einmal ; step 1 60 ; ? lineLost ; line out ; pass 10000
+        ? noPort ; ? motorOn ; ? refused ; ? noPort ; pbSpeichern ; @Desktop
+        motor == on ; shaft ~ ^set=60.00 ; line in ; whole Danach
+        line out ; ? end yes ; pbBeenden ; pass 100 ; process == over)"); // it stands
 }
 
 } // namespace

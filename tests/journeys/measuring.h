@@ -7,6 +7,7 @@
 #include "session.h"
 #include "standcommands.h"
 #include "start.h"
+#include "waiting.h"
 #include "workplace.h"
 
 namespace support {
@@ -64,6 +65,16 @@ class Measuring : public Workplace {
         views["process"] = [] {
             return gDesktopAktiv || gDatenbank.isOpen() || loaded(frm::Desktop) ? "runs" : "over";
         };
+        views["status"] = [] { return QString::number(gMessStatus); };
+        views["waiting"] = [] { // the buttons that wait to be pressed
+            QStringList names;
+            for (const auto *button : loaded(frm::Messen)->findChildren<QAbstractButton *>()) {
+                if (platform::isWaiting(button))
+                    names += button->objectName();
+            }
+            return names.join(' ');
+        };
+        views["language"] = [] { return QString::number(gSprache); };
         views["terminated"] = [] { // by the system
             beendenOhneFrage();
             return "now";

@@ -1,305 +1,138 @@
 // The shaft that may be turning, and values that do not belong to what is shown: what must never
 // happen, whatever fails and whatever is typed.
-#include "controller.h"
-#include "linefaults.h"
-#include "measuringsession.h"
-#include "start.h"
+#include "measuring.h"
 
 namespace {
 
 using namespace support;
-using namespace platform;
 
-class Shaft : public LineFaults {
+class Shaft : public Measuring {
   protected:
-    void expectEnd(int answer) {
-        boxes.expect("Wollen Sie das Programm wirklich beenden?", answer);
-    }
-    /// Running-in has begun and the controller has fallen silent.
-    Journey turningAndSilent() {
-        co_await select();
-        co_await chooseDirection();
-        press(frm::Desktop, "pbMotein");
-        co_await pass(3'000);
-        line.stand().setFaults({.silent = true});
-    }
-    static void expectOnlyMotorOff() {
-        EXPECT_TRUE(canPress(frm::Desktop, "pbMotaus"));
-        EXPECT_FALSE(canPress(frm::Desktop, "pbMotein"));
-        EXPECT_TRUE(gMotorEin);
+    Shaft() {
+        views["motor"] = [] { // and what can be pressed
+            return QString("%1%2%3").arg(gMotorEin ? "on" : "off",
+                                         canPress(frm::Desktop, "pbMotein") ? " Motein" : "",
+                                         canPress(frm::Desktop, "pbMotaus") ? " Motaus" : "");
+        };
     }
 };
 
-TEST_F(Shaft, IsStoppedByEveryOrderlyEnd) {
-    const auto journey = [this]() -> Journey {
-        co_await turningAndSilent();
-        // The stop before the correction fails: nobody is told to uncouple.
-        gEingelaufen = true;
-        expectNoController();
-        expectCorrectionAborted();
-        press(frm::Desktop, "pbMessen");
-        co_await arrive(frm::Desktop);
-        expectOnlyMotorOff();
-        EXPECT_FALSE(canPress(frm::Desktop, "pbMessen"));
-        EXPECT_TRUE(text(frm::Desktop, "laInfo").contains("neu wählen"));
-        // A start that fails, too, begins and ends nothing.
-        expectNoController();
-        EXPECT_FALSE(fnc_BefehlSenden("E", gDrehrichtung, "60"));
-        expectOnlyMotorOff();
-        // The end says that the stop failed, and stays when told so.
-        for (const int anyway : {No, Yes}) {
-            expectEnd(Yes);
-            if (anyway == No)
-                expectNoController();
-            if (anyway == No) {
-                expectMotorOff(Exclamation);
-                boxes.expect(
-                    "Der Motor konnte nicht ausgeschaltet werden und dreht sich vielleicht "
-                    "noch.\rSoll das Programm trotzdem beendet werden?",
-                    "Programmende", YesNo + Exclamation + SecondButtonDefault, No);
-            }
-            press(frm::Desktop, "pbBeenden");
-            EXPECT_EQ(loaded(frm::Desktop) != nullptr, anyway == No);
-            if (anyway == No) {
-                expectOnlyMotorOff();
-                heal();
-            }
-        }
-        EXPECT_TRUE(line.stand().wire().ends_with("*E-0000+>>>"));
-        EXPECT_EQ(line.stand().setSpeed(), 0);
-    };
-    run(journey());
+JOURNEY_P(Shaft, IsStoppedByEveryOrderlyEnd) {
+    co_await go(R"(
+        select ; direction ; pbMotein ; pass 3000 ; stand fault silent on
+        # The stop before the correction fails: nobody is told to uncouple.
+        ? notRunIn yes ; ? noController ; ? correctionAborted ; pbMessen ; @Desktop ; motor == on Motaus
+        cannot pbMessen ; laInfo ~ neu wählen | choose)");
+    // A start that fails, too, begins and ends nothing.
+    expectKnown("noController");
+    EXPECT_FALSE(fnc_BefehlSenden("E", gDrehrichtung, "60"));
+    co_await go(R"(
+        motor == on Motaus
+        # The end says that the stop failed, and stays when told so.
+        ? end yes ; ? noController ; ? motorOffAtEnd ; ? endAnyway no ; pbBeenden ; front == Desktop
+        motor == on Motaus ; stand fault none
+        ? end yes ; pbBeenden ; front == ; wire ~ \*E-0000\+>>>$ ; shaft ~ ^set=0.00)");
 }
 
-TEST_F(Shaft, IsStoppedBySignals) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        co_await settled("1", 60);
-        line.stand().setFaults({.silent = true});
-        boxes.allow("…");
-        co_await leaveMeasuring();
-        expectOnlyMotorOff();
-        heal();
-        beendenOhneFrage();
-        EXPECT_EQ(line.stand().setSpeed(), 0);
-    };
-    run(journey());
+JOURNEY(Shaft, IsStoppedBySignals) {
+    co_await go(R"(
+        measure ; step 1 60 ; stand fault silent on
+        ? noController ; ? motorOff ; ? noController ; ? emptyProtocol ; leave ; motor == on Motaus
+        stand fault none ; terminated == now ; shaft ~ ^set=0.00)");
 }
 
-TEST_F(Shaft, SignalsLeaveNoEmptyHead) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        co_await settled("1", 60);
-        beendenOhneFrage();
-        EXPECT_EQ(line.stand().setSpeed(), 0);
-        Datenbank after;
-        after.openFile(datenbankName);
-        EXPECT_TRUE(after.open("SELECT 1 FROM Protokoll_temp WHERE ProtokollID = ?", {gProtokollID})
-                        .empty());
-    };
-    run(journey());
+JOURNEY(Shaft, SignalsLeaveNoEmptyHead) {
+    co_await go("measure ; step 1 60 ; terminated == now ; shaft ~ ^set=0.00");
+    Datenbank after;
+    after.openFile(datenbankName);
+    EXPECT_TRUE(
+        after.open("SELECT 1 FROM Protokoll_temp WHERE ProtokollID = ?", {gProtokollID}).empty());
 }
 
-TEST_F(Shaft, HasADirection) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        co_await chooseDirection();
-        gEingelaufen = true;
-        press(frm::Desktop, "pbDrehR");
-        co_await arrive(frm::MotorDrehR);
-        boxes.expect("Sie haben keine Drehrichtung gewählt!…");
-        press(frm::MotorDrehR, "pbAbbrechen");
-        co_await arrive(frm::Desktop);
-        boxes.expect("Bitte wählen Sie zuerst eine Motor-Drehrichtung");
-        press(frm::Desktop, "pbMessen");
-        co_await arrive(frm::MotorDrehR);
-    };
-    run(journey());
+JOURNEY(Shaft, HasADirection) {
+    co_await go("select ; direction");
+    gEingelaufen = true;
+    co_await go(R"(
+        pbDrehR ; @MotorDrehR ; ? noDirection ; pbAbbrechen ; @Desktop
+        ? directionFirst ; pbMessen ; @MotorDrehR)");
 }
 
 // What a correction has to judge by is missing, or nothing was received.
-TEST_F(Shaft, CorrectionJudgesWhatIsThere) {
-    const auto journey = [this]() -> Journey {
-        co_await select();
-        line.stand().setOffsetDrift(1'000); // far out
-        co_await startMeasuring();
-        expectCorrectionAborted();
-        press(frm::VorStatNPK, "pbok");
-        co_await arrive(frm::NachStatNPK);
-        press(frm::NachStatNPK, "pbok");
-        co_await arrive(frm::Desktop);
-        line.stand().setOffsetDrift(0);
-        co_await startMeasuring(); // nothing is left of it to judge
-        line.stand().setFaults({.silent = true});
-        expectNoStream();
-        press(frm::VorStatNPK, "pbok");
-        co_await told(17'000);
-        EXPECT_TRUE(inFront(frm::StatMessen));
-        heal();
-        co_await abortCorrection();
-
-        change("UPDATE Normalkalibrierdaten SET VK1_R = NULL");
-        boxes.expect("Fehler 4040 -  94 …");
-        expectCorrectionAborted();
-        press(frm::Desktop, "pbRezept");
-        co_await arrive(frm::Rezepte);
-        type(frm::Rezepte, "cmbRezeptname", demoNames().recipe);
-        press(frm::Rezepte, "pbok");
-        co_await arrive(frm::Desktop);
-        press(frm::Desktop, "pbMessen");
-        co_await arrive(frm::Desktop);
-        EXPECT_FALSE(line.stand().factorWritten());
-    };
-    run(journey());
+JOURNEY(Shaft, CorrectionJudgesWhatIsThere) {
+    co_await go(R"(
+        select ; stand offsetdrift 1000 ; begin ; ? correctionAborted ; pbok ; @NachStatNPK    # far out
+        pbok ; @Desktop ; stand offsetdrift 0 ; begin ; stand fault silent on
+        ? noStream ; ? correctionOff ; pbok ; pass 17000    # nothing is left of it to judge
+        front == StatMessen ; stand fault none ; abort
+        change UPDATE Normalkalibrierdaten SET VK1_R = NULL
+        pbRezept ; @Rezepte ; cmbRezeptname = Kurzprüfung ; pbok ; @Desktop
+        ? failed(4040, 94) ; ? correctionAborted ; pbMessen ; @Desktop ; shaft ~ factor=none)");
 }
 
-class Belonging : public MeasuringSession {
-  protected:
-    static void key(const QString &text) {
-        QTest::keyClicks(control(frm::Messen, "txtSoll_n"), text);
-    }
-    void expectOutside() {
-        boxes.expect("Drehzahl liegt außerhalb des gültigen Bereiches", "Eingabefehler", Critical);
-    }
-};
+using Belonging = Measuring;
 
-TEST_F(Belonging, KeysInFreeInputChangeTheBoxAlone) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        co_await settled("1", 60);
-        co_await freeInput();
-        type(frm::Messen, "txtSoll_n", "130");
-        key("+");
-        expectOutside();
-        enter(frm::Messen, "txtSoll_n");
-        EXPECT_EQ(shown("laKorrF"), "1,0000");
-        EXPECT_EQ(shown("txtSoll_n"), "");
-        key("-");
-        expectOutside();
-        enter(frm::Messen, "txtSoll_n");
-
-        // The button follows the three fields, both ways.
-        typeSetpoints("70", "200", "1");
-        EXPECT_TRUE(waits("pbAusführen"));
-        for (const char *box : {"txtSoll_n", "txtSoll_P"}) {
-            const QString before = shown(box);
-            control<QLineEdit>(frm::Messen, box)->clear();
-            EXPECT_FALSE(canPress(frm::Messen, "pbAusführen")) << box;
-            type(frm::Messen, box, before);
-            enter(frm::Messen, box);
-            EXPECT_TRUE(waits("pbAusführen")) << box;
-        }
-        boxes.expect("Leistung muss ein nummerischer Wert sein!");
-        type(frm::Messen, "txtSoll_P", "0.700"); // not 700 here and 0.7 there
-        enter(frm::Messen, "txtSoll_P");
-        EXPECT_EQ(shown("txtSoll_P"), "200");
-        press(frm::Messen, "pbAusführen");
-        co_await settled("FR", 70);
-        press(frm::Messen, "pbMessen");
-        co_await settled("1", 60);
-        co_await leaveMeasuring();
-    };
-    boxes.allow("Protokoll enthält keine Daten…");
-    run(journey());
+JOURNEY(Belonging, KeysInFreeInputChangeTheBoxAlone) {
+    co_await go(R"(
+        measure ; step 1 60 ; pbFreieEing ; until laPrSchritt == FR ; pass 20
+        txtSoll_n = 130 ; txtSoll_n + + ; ? freeSpeedRange ; txtSoll_n !
+        laKorrF == 1,0000 ; txtSoll_n == ; txtSoll_n + - ; ? freeSpeedRange ; txtSoll_n !
+        # The button follows the three fields, both ways.
+        txtSoll_n = 70 ; txtSoll_n ! ; txtSoll_P = 200 ; txtSoll_P ! ; cmbMessArt = 1 ; waits pbAusführen
+        txtSoll_n = ; cannot pbAusführen ; txtSoll_n = 70 ; txtSoll_n ! ; waits pbAusführen
+        txtSoll_P = ; cannot pbAusführen ; txtSoll_P = 200 ; txtSoll_P ! ; waits pbAusführen
+        txtSoll_P = 0.700 ; ? freePowerNumber ; txtSoll_P !    # not 700 here and 0.7 there
+        txtSoll_P == 200 ; pbAusführen ; step FR 70 ; pbMessen ; step 1 60 ; ? emptyProtocol ; leave)");
 }
 
-TEST_F(Belonging, APassSendsNoSpeedOutsideItsRange) {
+JOURNEY(Belonging, APassSendsNoSpeedOutsideItsRange) {
     change("UPDATE Rezepte SET Drehzahl = '20' WHERE RezeptID = 1 AND Prüfschritt = '1'");
-    const auto journey = [this]() -> Journey {
-        line.stand().setLoad(30);
-        co_await measure();
-        co_await settled("1", 20);
-        for (int i = 0; i < 200; ++i)
-            press(frm::Messen, "pbPlus"); // 40: the factor is 2
-        press(frm::Messen, "pbÜbernehmen");
-        co_await settled("1", 40);
-        line.stand().clearWires();
-        expectOutside();
-        save(); // 80 / min at 2
-        co_await until("the box", [this] { return boxes.allCame(); });
-        co_await pass(1'000);
-        EXPECT_EQ(line.stand().wire(), "-");
-        EXPECT_EQ(line.stand().setSpeed(), 40);
-        EXPECT_EQ(shown("txtSoll_n"), "160,0");
-        EXPECT_EQ(gMessStatus, messstatus::Ruhe);
-        EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
-        for (int i = 0; i < 200; ++i)
-            press(frm::Messen, "pbMinus");
-        press(frm::Messen, "pbÜbernehmen");
-        co_await settled("2", 140);
-        co_await leaveMeasuring();
-    };
-    run(journey());
+    co_await go("stand load 30 ; measure ; step 1 20");
+    for (int i = 0; i < 200; ++i)
+        act("pbPlus"); // 40: the factor is 2
+    co_await go(R"(
+        pbÜbernehmen ; step 1 40 ; wire ~ . ; ? freeSpeedRange ; pbSpeichern ; until told == yes
+        pass 1000 ; wire == - ; shaft ~ ^set=40.00 ; txtSoll_n == 160,0    # of 80 at 2
+        status == 6 ; cannot pbSpeichern)");
+    for (int i = 0; i < 200; ++i)
+        act("pbMinus");
+    co_await go("pbÜbernehmen ; step 2 140 ; leave");
 }
 
-TEST_F(Belonging, OnlyValuesOfTheSetPointShownAreStored) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        line.stand().setLoad(100);
-        co_await settled("1", 60);
-        // A corrected speed that was not sent; by keys the step is sent anew.
-        press(frm::Messen, "pbPlus");
-        co_await pass(10'000);
-        EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
-        control<QWidget>(frm::Messen, "txtSoll_n")->setFocus();
-        key("+");
-        EXPECT_TRUE(waits("pbMessen"));
-        press(frm::Messen, "pbMessen");
-        co_await settled("1", 60.2);
-        EXPECT_FALSE(waits("pbMessen") || canPress(frm::Messen, "pbÜbernehmen"));
-        // A second press is none, and the stream of the step before opens nothing.
-        auto *button = control<QAbstractButton>(frm::Messen, "pbSpeichern");
-        button->click();
-        button->setEnabled(true);
-        button->click();
-        EXPECT_EQ(storedSteps(), QStringList{"1"});
-        for (int i = 0; i < 20; ++i) {
-            co_await pass(100);
-            if (shown("laPrSchritt") == "1") {
-                EXPECT_FALSE(canPress(frm::Messen, "pbSpeichern"));
-            }
-        }
-        co_await settled("2", 80.3);
-        type(frm::Messen, "txtIST_n_ergom", "80");
-        EXPECT_TRUE(canPress(frm::Messen, "pbSpeichern"));
-        co_await leaveMeasuring();
-    };
-    run(journey());
+JOURNEY(Belonging, OnlyValuesOfTheSetPointShownAreStored) {
+    co_await go(R"(
+        # A corrected speed that was not sent; by keys the step is sent anew.
+        measure ; stand load 100 ; step 1 60 ; pbPlus ; pass 10000 ; cannot pbSpeichern
+        txtSoll_n ^ ; txtSoll_n + + ; waits pbMessen ; pbMessen ; step 1 60.2
+        waiting == pbSpeichern ; cannot pbÜbernehmen)");
+    // A second press is none, and the stream of the step before opens nothing.
+    auto *button = control<QAbstractButton>(frm::Messen, "pbSpeichern");
+    button->click();
+    button->setEnabled(true);
+    button->click();
+    act("stored Prüfschritt == 1");
+    for (int i = 0; i < 20; ++i) {
+        co_await pass(100);
+        if (text(frm::Messen, "laPrSchritt") == "1")
+            act("cannot Messen.pbSpeichern");
+    }
+    co_await go("step 2 80.3 ; txtIST_n_ergom = 80 ; can pbSpeichern ; leave");
 }
 
-TEST_F(Belonging, RowsOfAnotherRecipeAreNotMixed) {
-    const auto journey = [this]() -> Journey {
-        co_await measure();
-        line.stand().setLoad(100);
-        const auto setpoints = [this] { return rows("Soll_n || ' ' || Soll_P").join('|'); };
-        const auto measureAgain = [this](const QString &soll_n, const QString &soll_P) -> Journey {
-            change("UPDATE Messwerte_temp SET Soll_n = ?, Soll_P = ? WHERE ProtokollID = ?",
-                   {soll_n, soll_P, gProtokollID});
-            press(frm::Messen, "pbFirst");
-            press(frm::Messen, "pbAusführen");
-            co_await settled("1", 60);
-            save();
-            co_await settled("2", 80);
-        };
-        co_await settled("1", 60);
-        save();
-        co_await settled("2", 80);
-        co_await measureAgain("66.0", "100.0"); // corrected, under the other number format
-        EXPECT_EQ(setpoints(), "66.0 100.0");
-        co_await measureAgain("66,1", "100,0");
-        EXPECT_EQ(setpoints(), "60,0 100,0");
-        co_await measureAgain("60,0", "25,0");
-        EXPECT_EQ(setpoints(), "60,0 100,0");
-        // An uncertainty that is missing stores no row.
-        change("UPDATE MU_Drehzahl SET MU = NULL");
-        type(frm::Messen, "txtIST_n_ergom", "80");
-        boxes.expect("Fehler 3018 -  94 …");
-        save();
-        EXPECT_EQ(storedSteps(), QStringList{"1"});
-        EXPECT_EQ(shown("laPrSchritt"), "2");
-        co_await leaveMeasuring();
-    };
-    run(journey());
+JOURNEY(Belonging, RowsOfAnotherRecipeAreNotMixed) {
+    co_await go("measure ; stand load 100 ; step 1 60 ; pbSpeichern ; step 2 80");
+    // Corrected, under the other number format; beyond any correction; of another power.
+    for (const Case &row : cases("66.0, 100.0 -> 66.0 100.0 | 66,1, 100,0 -> 60,0 100,0 | "
+                                 "60,0, 25,0 -> 60,0 100,0")) {
+        change("UPDATE Messwerte_temp SET Soll_n = ?, Soll_P = ? WHERE ProtokollID = ?",
+               {row.in_(0), row.in_(1), gProtokollID});
+        co_await go("pbFirst ; pbAusführen ; step 1 60 ; pbSpeichern ; step 2 80");
+        act("stored Soll_n || ' ' || Soll_P == " + row.out);
+    }
+    co_await go(R"(
+        # An uncertainty that is missing stores no row.
+        change UPDATE MU_Drehzahl SET MU = NULL
+        txtIST_n_ergom = 80 ; ? failed(3018, 94) ; pbSpeichern
+        stored Prüfschritt == 1 ; laPrSchritt == 2 ; leave)");
 }
 
 } // namespace

@@ -14,7 +14,7 @@ JOURNEY(Measuring, Navigation) {
         pbFirst ; laPrSchritt == 1 ; pbLast ; laPrSchritt == 2 ; beeps == 0
         # The old set-point goes on being measured, but cannot be stored under the new one.
         waits pbAusführen ; txtIST_n_ergom = 60 ; pass 13000 ; txtIST_n_torvena ~ ^(60|59),
-        cannot pbSpeichern ; wire ~ . ; pbAusführen ; cannot Messen.pbAusführen
+        cannot pbSpeichern ; wire ~ . ; pbAusführen ; waiting ==
         notice == Meldung: Achtung! Nächster Prüfschritt! ; cannot Messen.pbSpeichern
         until wireNow ~ 6$ ; live == || ; step 2 80 ; wire == -*E-2800+>>>6
         # The last step ends the recipe, whichever others are missing.
@@ -33,7 +33,7 @@ JOURNEY(Measuring, CorrectionFactor) {
     co_await go(R"(
         measure ; stand load 100 ; step 1 60 ; laKorrF == 1,0000 ; wire ~ .
         pbPlus ; txtSoll_n == 60,1 ; laKorrF == 1,0017 ; waits pbÜbernehmen ; pass 7000 ; wire ==
-        pbÜbernehmen ; cannot Messen.pbÜbernehmen ; step 1 60.1 ; cannot pbÜbernehmen
+        pbÜbernehmen ; waiting == ; cannot Messen.pbÜbernehmen ; step 1 60.1
         wire == -*E-2103+>>>6 ; pbSpeichern ; stored Soll_n == 60,1
         # It goes along to the next step; the keys change it like the buttons, but offer nothing.
         step 2 80.1 ; txtSoll_n == 80,1 ; txtSoll_n + + ; txtSoll_n == 80,2 ; laKorrF == 1,0025
