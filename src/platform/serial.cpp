@@ -47,10 +47,11 @@ class SystemPort : public SerialDevice {
                          {"Der Anschluss ist belegt oder gesperrt (" + mPort.errorString() + ").",
                           "The port is in use or not accessible (" + mPort.errorString() + ")."});
         }
-        const auto stop = settings.stopBits > 1.75   ? QSerialPort::TwoStop
-                          : settings.stopBits > 1.25 ? QSerialPort::OneAndHalfStop
-                                                     : QSerialPort::OneStop;
-        const bool set = mPort.setBaudRate(settings.baud) &&
+        // Lines send one and a half with five data bits where they send two with more.
+        const bool one = settings.stopBits == 1;
+        const auto stop = one ? QSerialPort::OneStop : QSerialPort::TwoStop;
+        const bool possible = one || (settings.stopBits == 1.5) == (settings.dataBits == 5);
+        const bool set = possible && mPort.setBaudRate(settings.baud) &&
                          mPort.setDataBits(QSerialPort::DataBits(settings.dataBits)) &&
                          mPort.setParity(parityOf(settings.parity)) && mPort.setStopBits(stop) &&
                          mPort.setFlowControl(QSerialPort::NoFlowControl);

@@ -42,7 +42,10 @@ JOURNEY(Shaft, IsStoppedBySignals) {
 }
 
 JOURNEY(Shaft, SignalsLeaveNoEmptyHead) {
-    co_await go("measure ; step 1 60 ; terminated == now ; shaft ~ ^set=0.00");
+    // From a list that has the keyboard: closing its window still tells of it.
+    co_await go(R"(
+        measure ; step 1 60 ; pbFreieEing ; until laPrSchritt == FR ; pass 20 ; cmbMessArt = 2
+        terminated == now ; shaft ~ ^set=0.00)");
     Datenbank after;
     after.openFile(datenbankName);
     EXPECT_TRUE(
@@ -95,7 +98,18 @@ JOURNEY(Belonging, APassSendsNoSpeedOutsideItsRange) {
         status == 6 ; cannot pbSpeichern)");
     for (int i = 0; i < 200; ++i)
         act("pbMinus");
-    co_await go("pbÜbernehmen ; step 2 140 ; leave");
+    co_await go(R"(
+        pbÜbernehmen ; step 2 140
+        txtSoll_n ^ ; txtSoll_n + - ; pbMessen ; step 2 139.9    # no other limit on a recipe's step
+        leave)");
+}
+
+// A controller that answers late: passes overtake each other, and none is left to itself.
+JOURNEY(Belonging, FreeInputBehindAPassThatWasOvertaken) {
+    co_await go(R"(
+        measure ; step 1 60 ; stand fault deaf 2 ; pbMessen ; @Meldung ; pass 2500 ; pbMessen
+        pass 2100 ; pbFreieEing ; until laPrSchritt == FR ; released == no
+        pbDrehzNull ; step FR 0 ; ? emptyProtocol ; leave)");
 }
 
 JOURNEY(Belonging, OnlyValuesOfTheSetPointShownAreStored) {

@@ -55,7 +55,10 @@ JOURNEY_P(Settings, OfTheLineAreShownTriedAndStored) {
         pbok ; @Desktop ; row == 1 75,O,5,1.5 ; line == 1 75,O,5,1.5    # the stop bits stay
         mnuSSParameter ; @Interface ; cmbBaud > 115200 ; cmbParitaet > Gerade ; cmbDatenbits > 7
         cmbStoppbits > 2 ; line == 1 75,O,5,1.5    # settings come with OK only
-        cmbStoppbits ! ; @Desktop ; row == 1 115200,E,7,2 ; line == 1 115200,E,7,2)");
+        cmbStoppbits ! ; @Desktop ; row == 1 115200,E,7,2 ; line == 1 115200,E,7,2
+        # ... also where the table cannot tell any more
+        mnuSSParameter ; @Interface ; SbCOM > 2 ; spoil SELECT Interface ; ? failure(I_1002) ; pbexit
+        @Desktop ; line == 1 115200,E,7,2 ; mend)");
 }
 
 JOURNEY_P(Settings, OfAPortThatIsInUse) {
