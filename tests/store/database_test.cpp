@@ -4,7 +4,6 @@
 #include <QFile>
 
 #include <csignal>
-#include <limits>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -35,12 +34,13 @@ class Store : public Workshop {
     static QString numbers(const QString &rest = "ORDER BY rowid") {
         return column("SELECT Nr FROM Schritte " + rest).join(' ');
     }
-    /// A file with this content.
-    static QString file(const QString &name, const QByteArray &content) {
+    int executed(const QString &sql) {
+        return raised([&] { store.execute(sql); });
+    }
+    static void file(const QString &name, const QByteArray &content) {
         QFile file(name);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(content);
-        return name;
     }
     static QStringList files() { return QDir().entryList(QDir::Files); }
 
@@ -48,63 +48,25 @@ class Store : public Workshop {
 };
 
 TEST_F(Store, ValuesComeBackAsTheyWereGiven) {
-    const struct {
-        QVariant value;
-        QString type, text;
-        double number = 0;
-    } given[] = {
-        {"O'Malley's \"Gym\"; DROP TABLE Schritte; --", "text",
-         "O'Malley's \"Gym\"; DROP TABLE Schritte; --"},
-        {" מכון שיקום 💪 ÄÖÜ ", "text", " מכון שיקום 💪 ÄÖÜ "},
-        {QString::fromUtf16(u"a\0b", 3), "text", QString::fromUtf16(u"a\0b", 3)},
-        {QString(), "text", ""}, // a text that is empty, not a missing one
-        {"60,5", "text", "60,5", 60.5},
-        {"60.5 W", "text", "60.5 W", 60.5},
-        {QVariant(), "null", ""},
-        {true, "integer", "-1", -1},
-        {false, "integer", "0", 0},
-        {QDate(2026, 2, 1), "text", "2026-02-01", 2026},
-        {QDateTime({2026, 2, 1}, {9, 5, 7, 30}), "text", "2026-02-01 09:05:07.030", 2026},
-        {QTime(9, 5), "text", "09:05:00.000", 9},
-        {QDateTime(), "null", ""},
-        {std::numeric_limits<qlonglong>::max(), "integer", "9223372036854775807",
-         9223372036854775807.0},
-        {0.1, "real", "0.1", 0.1},
-        {0.5F, "real", "0.5", 0.5},
-        {3.0, "real", "3", 3},
-        {-1e-12, "real", "-1e-12", -1e-12},
-    };
-    for (const auto &c : given) {
-        SCOPED_TRACE(c.text.toStdString());
-        EXPECT_EQ(store.execute("UPDATE Schritte SET Wert = ?2 WHERE Nr = ?1", {"9", c.value}), 1);
+    QStringList came;
+    for (const QVariant &value : QVariantList{
+             "O'Malley's \"מכון\" 💪; DROP TABLE Schritte; --", QString(), "60,5", QVariant(), true,
+             false, QDate(2026, 2, 1), QDateTime({2026, 2, 1}, {9, 5, 7, 30}), QTime(9, 5), QDate(),
+             QDateTime(), QTime(), Q_INT64_C(9223372036854775807), 0.1, 0.5F}) {
+        EXPECT_EQ(store.execute("UPDATE Schritte SET Wert = ?2 WHERE Nr = ?1", {"9", value}), 1);
         const Recordset row = store.open(
-            "SELECT Wert, typeof(Wert), Wert IS ? FROM Schritte WHERE Nr = '9'", {c.value});
-        EXPECT_EQ(row[0].text(), c.text);
-        EXPECT_EQ(row[0].number(), c.number);
-        EXPECT_EQ(row[0].isNull(), c.type == "null");
-        EXPECT_EQ(raised([&] { row[0].requiredNumber(); }), c.type == "null" ? 94 : 0);
-        EXPECT_EQ(row[1].text(), c.type);
-        EXPECT_EQ(row[2].whole(), 1);
+            "SELECT Wert, typeof(Wert) FROM Schritte WHERE Nr = '9' AND Wert IS ?", {value});
+        came += row[1].text() + ' ' + row[0].text() + ' ' + CStr(row[0].number());
+        const bool null = row[1].text() == "null";
+        EXPECT_EQ(row[0].isNull(), null) << came.last();
+        EXPECT_EQ(raised([&] { row[0].requiredNumber(); }), null ? 94 : 0) << came.last();
     }
-    EXPECT_NE(raised([&] { store.execute("DELETE FROM Schritte WHERE Nr = ?", {1, 2}); }), 0);
-    EXPECT_EQ(store.execute("DELETE FROM Schritte WHERE Nr = 'zwölf'"), 0);
-    EXPECT_EQ(store.execute("DELETE FROM Schritte WHERE Name = 'Zwei'"), 2) << "case is nothing";
-}
-
-TEST_F(Store, RowsStayAsTheyWereWhenAsked) {
-    Recordset rows = store.open("SELECT Nr FROM Schritte ORDER BY val(Nr), Nr");
-    rows.moveLast();
-    const Recordset copy = rows;
-    store.execute("DELETE FROM Schritte");
-    store.close();
-    EXPECT_EQ(rows.count(), 4);
-    EXPECT_EQ(rows["nr"].text(), "10");
-    rows.moveFirst();
-    for (const char *nr : {"2", "2a", "9"}) {
-        EXPECT_EQ(rows["Nr"].text(), nr);
-        rows.moveNext();
-    }
-    EXPECT_EQ(copy[0].text(), "10") << "a copy has a cursor of its own";
+    EXPECT_EQ(
+        came.join(" / "),
+        "text O'Malley's \"מכון\" 💪; DROP TABLE Schritte; -- 0 / text  0 / text 60,5 60,5 / "
+        "null  0 / integer -1 -1 / integer 0 0 / text 2026-02-01 2026 / "
+        "text 2026-02-01 09:05:07.030 2026 / text 09:05:00.000 9 / null  0 / null  0 / null  0 / "
+        "integer 9223372036854775807 9,22337203685478E+18 / real 0.1 0,1 / real 0.5 0,5");
 }
 
 TEST_F(Store, CursorStandsOnARowBeforeOrBehind) {
@@ -119,7 +81,6 @@ TEST_F(Store, CursorStandsOnARowBeforeOrBehind) {
         EXPECT_EQ(rows.atEnd(), c.out.contains("end"));
         EXPECT_EQ(rows.empty(), c.in[0] == '0');
         const int none = rows.atStart() || rows.atEnd() ? fehlernummer::NoCurrentRecord : 0;
-        EXPECT_EQ(raised([&] { EXPECT_EQ(rows[0].text(), c.out); }), none);
         EXPECT_EQ(raised([&] { EXPECT_EQ(rows["NR"].text(), c.out); }), none);
         EXPECT_FALSE(rows.empty() && rows.findLast("Name", ""));
         for (const int column : {-1, 2})
@@ -127,31 +88,28 @@ TEST_F(Store, CursorStandsOnARowBeforeOrBehind) {
         EXPECT_EQ(raised([&] { rows["Wert"]; }), fehlernummer::MissingColumn);
     }
     Recordset rows = store.open("SELECT Nr, Name FROM Schritte ORDER BY rowid");
-    EXPECT_TRUE(rows.findFirst("NAME", "Zwei"));
-    EXPECT_EQ(rows[0].text(), "2");
-    EXPECT_TRUE(rows.findLast("name", "zwei"));
-    EXPECT_EQ(rows[0].text(), "2a");
+    EXPECT_TRUE(rows.findFirst("NAME", "Zwei") && rows[0].text() == "2");
+    EXPECT_TRUE(rows.findLast("name", "zwei") && rows[0].text() == "2a");
     EXPECT_TRUE(rows.findFirst("Name", "äHRE"));
     EXPECT_FALSE(rows.findFirst("Name", "zwe") || rows.findLast("Nam", "zwei"));
     EXPECT_EQ(rows[0].text(), "9") << "it stays";
 }
 
 TEST_F(Store, FailuresHaveNumbers) {
-    for (const Case &c : cases("SELECT * FROM Fehlt -> 3078 | DELETE FROM Fehlt -> 3078 | "
-                               "SELECT Fehlt FROM Schritte -> 3265 | SELEC 1 -> 3075 | "
-                               "UPDATE Schritte SET Fehlt = 1 -> 3265 | "
-                               "INSERT INTO Schritte (Fehlt) VALUES (1) -> 3265 | "
-                               "INSERT INTO Schritte (Nr) VALUES ('2A') -> 3022")) {
-        EXPECT_EQ(raised([&] { store.open(c.in); }), c.out.toInt()) << c;
-        EXPECT_EQ(raised([&] { store.execute(c.in); }), c.out.toInt()) << c;
-    }
-    EXPECT_EQ(numbers(), "10 9 2 2a");
+    const auto fail = [this](const char *table) {
+        for (const Case &c : cases(table)) {
+            EXPECT_EQ(raised([&] { store.open(c.in); }), c.out.toInt()) << c;
+            EXPECT_EQ(executed(c.in), c.out.toInt()) << c;
+        }
+    };
+    fail(R"(DELETE FROM Fehlt -> 3078 | SELECT Fehlt FROM Schritte -> 3265 | SELEC 1 -> 3075
+        | INSERT INTO Schritte (Fehlt) VALUES (1) -> 3265
+        | INSERT INTO Schritte (Nr) VALUES ('2A') -> 3022)");
     store.open("PRAGMA query_only = 1"); // as on a disk that must not be written to
-    EXPECT_EQ(raised([&] { store.execute("DELETE FROM Schritte"); }), fehlernummer::ReadOnly);
+    EXPECT_EQ(executed("DELETE FROM Schritte"), fehlernummer::ReadOnly);
     store.close();
     EXPECT_FALSE(store.isOpen());
-    EXPECT_EQ(raised([&] { store.open("SELECT 1"); }), 3420);
-    EXPECT_EQ(raised([&] { store.execute("DELETE FROM Schritte"); }), 3420);
+    fail("SELECT 1 -> 3420");
 }
 
 TEST_F(Store, WhatBelongsTogetherHoldsOrDoesNot) {
@@ -168,7 +126,6 @@ TEST_F(Store, WhatBelongsTogetherHoldsOrDoesNot) {
     EXPECT_EQ(numbers(), "10 9 2 2a");
     EXPECT_EQ(add("11"), 0);
     change("UPDATE Schritte SET Wert = 1");
-    EXPECT_EQ(numbers(), "10 2 2a 11");
     Datenbank reader; // keeps it from being committed
     reader.openFile(datenbankName);
     reader.execute("BEGIN");
@@ -179,59 +136,37 @@ TEST_F(Store, WhatBelongsTogetherHoldsOrDoesNot) {
     EXPECT_EQ(add("13"), 0);
 }
 
-TEST_F(Store, AWriteWaitsForNobodyForLong) {
-    const int milliseconds = store.open("PRAGMA busy_timeout")[0].whole();
-    EXPECT_TRUE(milliseconds >= 200 && milliseconds <= 1000) << milliseconds;
-    Datenbank other;
-    other.openFile(datenbankName);
-    other.execute("BEGIN IMMEDIATE");
-    EXPECT_EQ(raised([&] { store.execute("DELETE FROM Schritte"); }), 3045);
-    EXPECT_EQ(numbers(), "10 9 2 2a") << "reading goes on";
-    other.execute("COMMIT");
-    EXPECT_EQ(store.execute("DELETE FROM Schritte"), 4);
-}
-
 TEST_F(Store, OnlyASoundFileIsOpened) {
     legeDatenbankAn("whole", true);
     QFile source("whole");
-    ASSERT_TRUE(source.open(QIODevice::ReadOnly));
-    const QByteArray content = source.readAll();
-    file("locked", content);
+    ASSERT_TRUE(source.copy("locked") && source.open(QIODevice::ReadOnly));
+    QByteArray content = source.readAll();
     file("text", QByteArray("Kunden, von Hand aufgeschrieben.\n").repeated(400));
     file("nothing", {});
-    file("head", content.left(50));
-    file("page", content.left(4096));
     file("nearly", content.chopped(4096));
-    file("within",
-         QByteArray(content).replace(content.size() / 8192 * 4096, 4096, QByteArray(4096, 'x')));
+    file("within", content.replace(content.size() / 8192 * 4096, 4096, QByteArray(4096, 'x')));
     Datenbank other;
     other.openFile("locked");
     other.execute("BEGIN EXCLUSIVE");
     const QStringList before = files();
     for (const Case &c : cases("missing/torvena470.mdb -> 3024 | . -> 3024 | text -> 3343 | "
-                               "nothing -> 3343 | head -> 3343 | page -> 3343 | nearly -> 3343 | "
-                               "locked -> 3045")) {
+                               "nothing -> 3343 | nearly -> 3343 | locked -> 3045")) {
         store.openFile("whole");
         EXPECT_EQ(raised([&] { store.openFile(c.in); }), c.out.toInt()) << c;
         EXPECT_FALSE(store.isOpen()) << c;
     }
     EXPECT_EQ(raised([] { bringeDatenbankAufStand("within"); }), 3343);
     EXPECT_EQ(files(), before) << "nothing is created";
-    other.close();
-    store.openFile("locked");
-    EXPECT_TRUE(store.isOpen());
 }
 
-TEST_F(Store, ACopyOfTheFileIsACopyOfTheData) {
+TEST_F(Store, ACopyOfTheFileIsACopyOfTheDataAndNobodyWaitsForLong) {
     store.open("PRAGMA journal_mode=WAL"); // by a tool of somebody
     store.openFile(datenbankName);
-    EXPECT_EQ(grid("PRAGMA journal_mode"), "delete");
     EXPECT_EQ(grid("PRAGMA synchronous"), "2") << "full";
     store.execute("INSERT INTO Schritte (Nr) VALUES ('neu')");
-    EXPECT_EQ(files(), QStringList{datenbankName});
-    ASSERT_TRUE(QFile::copy(datenbankName, "copy"));
-    store.openFile("copy");
-    EXPECT_EQ(numbers("WHERE Nr = 'NEU'"), "neu");
+    EXPECT_EQ(files(), QStringList{datenbankName}) << "no journal that a copy would leave behind";
+    const int milliseconds = store.open("PRAGMA busy_timeout")[0].whole();
+    EXPECT_TRUE(milliseconds >= 200 && milliseconds <= 1000) << milliseconds;
 }
 
 TEST_F(Store, NewFilesAreWholeOrNotThere) {
@@ -243,12 +178,11 @@ TEST_F(Store, NewFilesAreWholeOrNotThere) {
     // The disk is full half-way.
     rlimit usual{};
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
-    const auto previous = std::signal(SIGXFSZ, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     const rlimit small{30'000, usual.rlim_max};
     ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
     EXPECT_EQ(raised([] { legeDatenbankAn("fresh.mdb", true); }), fehlernummer::StatementFailed);
     setrlimit(RLIMIT_FSIZE, &usual);
-    std::signal(SIGXFSZ, previous);
     EXPECT_EQ(files(), QStringList{datenbankName});
 
     // What an interrupted try has left over is no obstacle.
@@ -278,31 +212,25 @@ TEST_F(Store, HeldByAnotherProgram) {
 }
 
 TEST_F(Store, FunctionsOfStatements) {
-    store.execute("INSERT INTO Schritte (Nr, Name) VALUES ('FR', NULL)");
-    EXPECT_EQ(numbers("ORDER BY val(Nr), Nr"), "FR 2 2a 9 10");
-    for (const Case &c : cases("Z* -> 10 2 2a | ä* -> 9 | -> FR"))
-        EXPECT_EQ(numbers("WHERE Muster('" + c.in + "', Name) ORDER BY rowid"), c.out) << c;
-    for (const Case &c :
-         cases("Val('12,5') -> 12 | val(' 1 2.5 W') -> 12.5 | VAL(NULL) -> 0 | val('-3') -> -3 | "
-               "val(7.25) -> 7.25 | CStr(7.5) -> 7,5 | CStr(20) -> 20 | CStr(-0.5) -> -0,5 | "
-               "CStr(NULL) -> NULL | Gleich('Öztürk', 'öZTÜRK') -> 1 | Gleich('Mal', 'mal') -> 1 | "
-               "Gleich('Straße', 'Strasse') -> 0 | Gleich('Ärzte', 'Arzte') -> 0 | "
-               "Gleich('Praxis*', 'Praxis 1') -> 0 | Gleich(' Praxis', 'Praxis') -> 0"))
+    for (const Case &c : cases(R"(
+            Val('12,5') -> 12 | VAL(NULL) -> 0 | val(7.25) -> 7.25 | CStr(7.5) -> 7,5
+            | CStr(NULL) -> NULL | Gleich('Öztürk', 'öZTÜRK') -> 1 | Gleich('Straße', 'Strasse') -> 0
+            | Gleich('Ärzte', 'Arzte') -> 0 | Gleich('Praxis*', 'Praxis 1') -> 0
+            | Muster('Z*', 'zwei') -> 1 | Muster('zwei', 'Z*') -> 0 | Muster('', NULL) -> 1)"))
         EXPECT_EQ(grid("SELECT " + c.in), c.out) << c;
 }
 
 TEST(Search, PatternsOfAPerson) {
-    for (const Case &c :
-         cases("Klinik, klinik -> 1 | Klinik, Klinikum -> 0 | linik, Klinik -> 0 | "
-               "Klinik*, Klinik -> 1 | *am*, Klinik am See -> 1 | Kl?nik, Klonik -> 1 | "
-               "Kl?nik, Klnik -> 0 | * -> 1 | , x -> 0 | ÄHRE*ß, ährenfeld-groß -> 1 | "
-               "ahre*, Ährenfeld -> 0 | a\nb*, A\nB\nc -> 1 | Studio ?, Studio 💪 -> 1 | "
-               "מכון*, מכון שיקום -> 1 | Dr. *, Drx y -> 0 | [K]linik, Klinik -> 0 | "
-               "(a|b)+^$\\d{1}#%_, (A|B)+^$\\D{1}#%_ -> 1 | \\Q*\\E, x -> 0"))
+    for (const Case &c : cases(R"(
+            Klinik, klinik -> 1 | Klinik, Klinikum -> 0 | linik, Klinik -> 0 | Klinik*, Klinik -> 1
+            | *am*, Klinik am See -> 1 | Kl?nik, Klonik -> 1 | Kl?nik, Klnik -> 0 | * -> 1 | , x -> 0
+            | ÄHRE*ß, ährenfeld-groß -> 1 | ahre*, Ährenfeld -> 0 | Studio ?, Studio 💪 -> 1
+            | a?b, a
+b -> 1 | Dr. *, Drx y -> 0 | [K]linik, Klinik -> 0 | \Q*\E, x -> 0
+            | (a|b)+^$\d{1}#%_, (A|B)+^$\D{1}#%_ -> 1)"))
         EXPECT_EQ(passtZumMuster(c.in_(0), c.in_(1)), c.out == "1") << c;
-    const QString longName = QString("a").repeated(255);
-    EXPECT_TRUE(passtZumMuster(longName + "*", longName));
-    EXPECT_FALSE(passtZumMuster(QString("*").repeated(60) + "b", longName));
+    // One that would be tried for ages
+    EXPECT_FALSE(passtZumMuster(QString("*").repeated(60) + "b", QString("a").repeated(255)));
 }
 
 TEST(TextsOfTheDatabase, DatesAndDecimalSigns) {
@@ -316,26 +244,27 @@ TEST(TextsOfTheDatabase, DatesAndDecimalSigns) {
 }
 
 TEST_F(Store, GridShowsChosenColumns) {
-    change("UPDATE Schritte SET Wert = 2.5");
     RecordsetModel model;
     model.setSpalten({{"name", "Bezeichnung"}, {"NR", "Schritt", Qt::AlignRight}, {"fehlt", ""}});
     model.setRecordset(store.open("SELECT Nr, Name FROM Schritte ORDER BY rowid"));
-    EXPECT_EQ(model.rowCount(), 4);
     EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::DisplayRole), "Schritt");
     EXPECT_FALSE(model.headerData(3, Qt::Horizontal, Qt::DisplayRole).isValid());
     const QModelIndex last = model.index(3, 1); // a view may keep it
-    EXPECT_EQ(model.data(last, Qt::DisplayRole), "2a");
-    EXPECT_EQ(model.data(last, Qt::TextAlignmentRole).toInt(), int(Qt::AlignRight));
-    EXPECT_FALSE(model.data(last, Qt::DecorationRole).isValid());
+    const auto shown = [&](int role = Qt::DisplayRole) {
+        return model.data(last, role).toString();
+    };
+    EXPECT_EQ(shown(), "2a");
+    EXPECT_EQ(shown(Qt::TextAlignmentRole).toInt(), int(Qt::AlignRight));
+    EXPECT_EQ(shown(Qt::DecorationRole), "");
     EXPECT_FALSE(model.data({}, Qt::DisplayRole).isValid());
     EXPECT_FALSE(model.data(model.index(0, 2), Qt::DisplayRole).isValid());
     EXPECT_EQ(model.rowCount(last), 0);
-    model.setRecordset(store.open("SELECT Wert AS Nr FROM Schritte"));
-    EXPECT_EQ(model.data(last, Qt::DisplayRole), "2,5") << "as the person writes numbers";
+    model.setRecordset(store.open("SELECT 2.5 AS Nr FROM Schritte"));
+    EXPECT_EQ(shown(), "2,5") << "as the person writes numbers";
     model.setRecordset({});
-    EXPECT_FALSE(model.data(last, Qt::DisplayRole).isValid());
+    EXPECT_EQ(shown(), "");
     model.setSpalten({});
-    EXPECT_FALSE(model.data(last, Qt::TextAlignmentRole).isValid());
+    EXPECT_EQ(shown(Qt::TextAlignmentRole), "");
 }
 
 } // namespace
