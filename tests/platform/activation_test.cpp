@@ -1,12 +1,8 @@
-// Which screen has the front, and which one gets a Form_Activate and when.
-
-#include <QEvent>
+// Which screen has the front, which one gets a Form_Activate and when; screens that go away, and
+// notices that close by themselves in the middle of something else.
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWheelEvent>
-
-#include <algorithm>
-#include <stdexcept>
 
 #include "boxes.h"
 #include "fehler.h"
@@ -25,7 +21,7 @@ TEST_F(Activation, ComesOnceToTheFrontAndNeverInsideTheCall) {
     rows("A+ B+ C+ D+ > ... | C~ D- > B.activate =B | C^ > =B | B~ B^ > =B | "
          "A+ B+ C+ D+ > ... | C~ D! > D.unload B.activate =B | C^ > =B | B~ B^ > =B");
     // With none left, to the next that is enabled.
-    rows("A+ B+ C+ > ... | A~ B~ C! > C.unload =0 | A^ B^ > A.activate =A");
+    rows("A+ B+ C+ > ... | A~ B~ C! > C.unload = | A^ B^ > A.activate =A");
     // A notice has neither front nor place.
     rows("Cn > C.load =A | C@ > C.click =A | C! > C.unload =A");
 }
@@ -42,68 +38,44 @@ TEST_F(Activation, HeldBackUntilTheLastHoldEnds) {
     rows("{ Bx Bx > =B | } > B.unload A.activate | A~ Ax > | A^ { Ax A! } > A.unload");
 }
 
+TEST_F(Activation, HeldBackWhileAScreenLoadsOrUnloads) {
+    for (const char *when : {"B.load", "B.query", "B.unload"})
+        plans[when] = [this](Probe &) {
+            act(A, '-');
+            act(A, '+');
+            deliver();
+        };
+    rows("A+ > ... | B. > B.load B.load-end A.activate | B+ > ... | "
+         "B! > B.unload B.unload-end A.activate");
+    plans["A.activate"] = [this](Probe &) { // inside which it comes all the same
+        plans.clear();
+        act(C, '+');
+        act(C, '-');
+        deliver();
+    };
+    rows("A- A+ > A.activate C.load A.activate A.activate-end");
+}
+
 TEST_F(Activation, BoxesAndOtherProgramsMoveNothing) {
-    lay({A, B});
+    rows("A+ B+ > ...");
     {
         support::Boxes boxes;
         boxes.expect("nothing");
         msgBox("nothing", 0, "");
-        EXPECT_EQ(told(), "");
-        boxes.expect("question", Yes, [&] {
-            EXPECT_EQ(told(), "");
-            probe(A).show();
-            EXPECT_EQ(told(), "") << "held back under the box";
-        });
+        boxes.expect("question", Yes, [this] { rows("> | A+ >"); }); // held back under the box
         EXPECT_EQ(msgBox("question", YesNo, ""), Yes);
     }
-    EXPECT_EQ(told(), "A.activate");
-
+    rows("> A.activate");
     for (const auto type : {QEvent::WindowDeactivate, QEvent::WindowActivate}) {
         QEvent event(type);
         QCoreApplication::sendEvent(&probe(A), &event);
         QCoreApplication::sendEvent(qApp, &event);
     }
-    EXPECT_EQ(told(), "");
-
+    rows(">");
     requestActivation(probe(A)); // by name it comes
-    EXPECT_EQ(told(), "A.activate");
-    probe(B).hide();
+    rows("> A.activate | B- >");
     requestActivation(probe(B));
-    EXPECT_EQ(told(), "");
-}
-
-TEST_F(Activation, HeldBackWhileAScreenLoadsOrUnloads) {
-    lay({A});
-    const auto showA = [](Probe &) {
-        probe(A).hide();
-        probe(A).show();
-        deliver();
-    };
-    plans[B].load = showA;
-    plans[B].unload = showA;
-    plans[B].queryUnload = [&](Probe &b) {
-        showA(b);
-        return true;
-    };
-    probe(B);
-    EXPECT_EQ(told(), "B.load B.load-end A.activate");
-    probe(B).show();
-    told();
-    EXPECT_TRUE(probe(B).unload());
-    EXPECT_EQ(told(), "B.unload B.unload-end A.activate");
-}
-
-TEST_F(Activation, ReachesAScreenInsideItsOwnForm_Activate) {
-    int depth = 0;
-    plans[A].activate = [&depth](Probe &) {
-        if (++depth > 1)
-            return;
-        probe(B).show();
-        probe(B).hide();
-        deliver();
-    };
-    probe(A).show();
-    EXPECT_EQ(told(), "A.load A.activate B.load A.activate A.activate-end A.activate-end");
+    rows(">");
 }
 
 TEST_F(Activation, InputReachesUsableScreensOnlyAndMovesTheFront) {
@@ -112,7 +84,7 @@ TEST_F(Activation, InputReachesUsableScreensOnlyAndMovesTheFront) {
         probe(B).setInUse(inUse);
         QTest::keyClicks(probe(B).box, "12");
         QTest::keyClick(probe(B).box, Qt::Key_Enter);
-        EXPECT_EQ(probe(B).box->text(), QString(inUse ? "12" : ""));
+        EXPECT_EQ(probe(B).box->text(), inUse ? "12" : "");
         rows(inUse ? "> B.enter B.activate =B" : "> =A");
     }
     // The wheel picks nothing unseen.
@@ -122,24 +94,26 @@ TEST_F(Activation, InputReachesUsableScreensOnlyAndMovesTheFront) {
     EXPECT_EQ(probe(B).list->currentIndex(), 0);
     // Enter in a field without use for it presses the default button, if that can be pressed,
     // also when the keyboard has been there.
-    const auto enter = [](Qt::Key key) { QTest::keyClick(probe(C).other, key); };
-    probe(C).button->setDefault(true);
+    QPushButton *button = probe(C).button;
+    button->setDefault(true);
     rows("C+ > ...");
-    probe(C).button->setFocus();
+    button->setFocus();
     probe(C).other->setFocus();
-    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape}) {
-        enter(key);
-        rows(key == Qt::Key_Escape ? "> =C" : "> C.click");
-    }
-    probe(C).button->setEnabled(false);
-    enter(Qt::Key_Return);
-    probe(C).button->setEnabled(true);
-    probe(C).button->hide();
-    enter(Qt::Key_Return);
-    probe(C).button->show();
-    probe(C).button->setDefault(false);
-    enter(Qt::Key_Return);
-    rows("> =C");
+    const auto type = [this](Qt::Key key, const char *told) {
+        QTest::keyClick(probe(C).other, key);
+        rows(told);
+    };
+    type(Qt::Key_Return, "> C.click");
+    type(Qt::Key_Enter, "> C.click");
+    type(Qt::Key_Escape, "> =C");
+    button->setEnabled(false);
+    type(Qt::Key_Return, ">");
+    button->setEnabled(true);
+    button->hide();
+    type(Qt::Key_Return, ">");
+    button->show();
+    button->setDefault(false);
+    type(Qt::Key_Return, ">");
 }
 
 TEST_F(Activation, WindowsStandWholeOnTheDisplay) {
@@ -156,7 +130,7 @@ TEST_F(Activation, WindowsStandWholeOnTheDisplay) {
 }
 
 TEST_F(Activation, OnlyLeavingAFieldForAnotherOneIsLeavingIt) {
-    lay({A});
+    rows("A+ > ...");
     for (const auto &[reason, left] : {std::pair{Qt::TabFocusReason, true},
                                        {Qt::MouseFocusReason, true},
                                        {Qt::PopupFocusReason, false},
@@ -168,14 +142,9 @@ TEST_F(Activation, OnlyLeavingAFieldForAnotherOneIsLeavingIt) {
         }
         EXPECT_EQ(told(), left ? "A.lost" : "") << reason;
     }
-}
-
-TEST_F(Activation, AButtonWorksUnlessTheFieldLeftTakesTheKeyboardBack) {
-    bool refused = true;
-    plans[A].lost = [&refused](Probe &left) { (refused ? left.box : left.other)->setFocus(); };
-    lay({A});
+    // A button works unless the field left takes the keyboard back.
     for (const bool takenBack : {true, false}) {
-        refused = takenBack;
+        plans["A.lost"] = [=](Probe &left) { (takenBack ? left.box : left.other)->setFocus(); };
         probe(A).box->setFocus();
         told();
         probe(A).button->click();
@@ -184,35 +153,87 @@ TEST_F(Activation, AButtonWorksUnlessTheFieldLeftTakesTheKeyboardBack) {
 }
 
 TEST_F(Activation, WhatNobodyCaughtIsReportedAndTheProgramGoesOn) {
-    std::vector<std::string> reports;
-    setUncaughtReporter([&](const std::exception &problem) { reports.push_back(problem.what()); });
-    const auto raise = [](const char *what) {
-        return [what](Probe &) { throw Fehler(13, {what, what}); };
-    };
-    plans[A] = {raise("load"),   raise("activate"),
-                raise("unload"), raise("click"),
-                raise("tick"),   [](Probe &) -> bool { throw std::runtime_error("query"); }};
-    probe(A).show();
-    deliver();
-    probe(A).button->click();
+    QStringList reports;
+    setUncaughtReporter([&](const std::exception &problem) { reports += problem.what(); });
+    for (const char *what : {"load", "activate", "click", "tick", "query", "unload"})
+        plans[QString("A.") + what] = [what](Probe &) { throw Fehler(13, {what, what}); };
+    rows("A+ > ... | A@ > ...");
     probe(A).timer.setEnabled(true);
-    clock.run(250);
-    EXPECT_TRUE(probe(A).unload()) << "a failing question refuses nothing";
-    EXPECT_EQ(reports, (std::vector<std::string>{"13 load", "13 activate", "13 click", "13 tick",
-                                                 "13 tick", "query", "13 unload"}));
-    // A timer of no screen.
-    Timer timer(100);
-    timer.onTick = [] { throw Fehler(6, {"Überlauf", "overflow"}); };
+    Timer timer(100); // of no screen
+    timer.onTick = [] { throw std::runtime_error("6"); };
     timer.setEnabled(true);
-    clock.run(250);
-    EXPECT_EQ(std::count(reports.begin(), reports.end(), "6 Überlauf"), 2);
+    clock.run(150);
+    EXPECT_TRUE(probe(A).unload()) << "a failing question refuses nothing";
+    clock.run(100);
+    reports.sort();
+    EXPECT_EQ(reports.join(' '), "13 activate 13 click 13 load 13 query 13 tick 13 unload 6 6");
 
     setUncaughtReporter({});
     support::Boxes boxes;
     boxes.expect("13 load", "torvena", Critical);
-    plans[A] = {};
-    plans[A].load = raise("load");
     probe(A);
+}
+
+using Unloading = Activation;
+
+TEST_F(Unloading, AScreenMayRefuseToGo) {
+    rows("A+ B+ > ...");
+    probe(B).agrees = false;
+    EXPECT_FALSE(probe(B).unload());
+    rows("> =B | B+ > =B"); // the same instance
+    probe(B).agrees = true;
+    EXPECT_TRUE(probe(B).unload());
+    rows("> B.unload A.activate =A");
+}
+
+TEST_F(Unloading, LeavesRunningCodeAlone) {
+    plans["B.click"] = [](Probe &b) {
+        EXPECT_TRUE(b.unload());
+        EXPECT_TRUE(b.unload()) << "once is enough";
+        deliver(); // where it would be destroyed if it did not run
+        EXPECT_TRUE(b.unloaded());
+        EXPECT_EQ(loadedScreen(B), nullptr);
+        b.show(); // too late
+        EXPECT_FALSE(b.isVisible());
+        EXPECT_NE(&probe(B), &b);
+        b.box->setText("still there");
+        EXPECT_EQ(living, 3);
+    };
+    rows("A+ B+ > ...");
+    probe(B).box->setText("old");
+    probe(B).button->click();
+    rows("> B.click B.unload A.activate B.load B.click-end");
+    EXPECT_EQ(living, 2) << "the old instance goes when its code has ended";
+    EXPECT_EQ(probe(B).box->text(), "") << "fresh controls";
+
+    plans["A.click"] = [this](Probe &a) { // no more ticks
+        a.unload();
+        clock.run(1000);
+    };
+    probe(A).timer.setEnabled(true);
+    clock.run(250);
+    rows("> A.tick A.tick | A@ > A.click A.unload A.click-end");
+}
+
+// A notice (B) is on screen, the screen below it (A) is disabled until the notice closes by itself.
+TEST_F(Unloading, OfANoticeInTheMiddleOfSomethingElse) {
+    plans["B.unload"] = [this](Probe &) { act(A, '^'); };
+    for (const bool command : {true, false}) { // one that fails, or a box
+        support::Boxes boxes;
+        boxes.expect("?", OK, [this] { rows("B! > B.unload B.unload-end"); });
+        rows(command ? "D+ A+ B+ A~ > ... | { >" : "D+ A+ B+ A~ > ...");
+        msgBox("?", Critical, "");
+        rows(command ? "> | } > A.activate =A" : "> A.activate =A");
+    }
+    // While the screen below unloads.
+    const auto noticeCloses = [this](Probe &) {
+        act(B, '!');
+        deliver();
+    };
+    plans["A.query"] = noticeCloses;
+    rows("B+ A~ > ... | A! > B.unload B.unload-end A.unload D.activate");
+    plans = {{"A.unload", noticeCloses}};
+    rows("A+ B+ > ... | A! > A.unload B.unload A.unload-end D.activate");
 }
 
 } // namespace
