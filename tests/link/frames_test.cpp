@@ -10,18 +10,15 @@ namespace {
 using namespace support;
 using Frames = LinkTest;
 
-TEST_F(Frames, DigitsOfASpeed) {
-    for (const Case &c : cases(
-             "-> 0000 | abc -> 0000 | 60 -> 2100 | 12,5 -> 0437 | 12.5 -> 0437 | "
-             "\" 60 rpm\" -> 2100 | 0.02 -> 0000 | 0.03 -> 0001 | 59.99 -> 2099 | 285.7 -> 9999 | "
-             "285.8 -> 10003 | 60.000000000000007 -> 2100 | 1e9 -> 35000000000")) {
+TEST_F(Frames, DigitsAndSignOfASpeed) {
+    for (const Case &c : cases(R"(
+            -> 0000 | abc -> 0000 | 60 -> 2100 | 12,5 -> 0437 | 12.5 -> 0437 | " 60 rpm" -> 2100
+            | 0.02 -> 0000 | 0.03 -> 0001 | 59.99 -> 2099 | 285.7 -> 9999 | 285.8 -> 10003
+            | 60.000000000000007 -> 2100 | 1e9 -> 35000000000)")) {
         QString text = c.in;
         EXPECT_EQ(fnc_DrehzahlZiffern(text), c.out) << c;
         EXPECT_EQ(text, c.out) << "written back";
     }
-}
-
-TEST_F(Frames, SignOfTheDirection) {
     EXPECT_EQ(frameText("E", 1, "60"), "E-2100");
     for (const std::int16_t direction : std::initializer_list<std::int16_t>{0, 2, 3, -1})
         EXPECT_EQ(frameText("A", direction, "00"), "A 0000");
@@ -42,10 +39,10 @@ TEST_F(Frames, CodesInBrackets) {
 }
 
 TEST_F(Frames, ParametersOfThePortAndTheirWords) {
-    for (const Case &c : cases("75,O,5,1,5 -> 75/Ungerade/5/1,5, 75,O,5,1.5 | "
-                               "9600,M,4,1 -> 9600/Markierung/4/1, 9600,M,4,1 | "
-                               "9600,S,8,1 -> 9600/Leerzeichen/8/1, 9600,S,8,1 | "
-                               "9600,X,8 -> 9600//8/, 9600,,8, | -> ///, ,,,")) {
+    for (const Case &c : cases(R"(75,O,5,1,5 -> 75/Ungerade/5/1,5, 75,O,5,1.5
+                                  | 9600,M,4,1 -> 9600/Markierung/4/1, 9600,M,4,1
+                                  | 9600,S,8,1 -> 9600/Leerzeichen/8/1, 9600,S,8,1
+                                  | 9600,X,8 -> 9600//8/, 9600,,8, | -> ///, ,,,)")) {
         const Schnittstelle f = Schnittstelle::ausParameter(c.in);
         EXPECT_EQ(QStringList({f.baud, f.parität, f.datenbits, f.stoppbits}).join('/'), c.out_(0));
         EXPECT_EQ(f.parameter(), c.out_(1));
@@ -62,16 +59,13 @@ qsizetype endsAt(FrequenzDecoder &decoder, const QByteArray &bytes) {
 }
 
 TEST(FrequencyStream, EndsBelowHalfAHertz) {
-    for (const Case &c :
-         cases("fffb 01f3 fffb -> 5 499 | fffb 0000 fffb -> 5 0 | fffb 0000 -> -1 | "
-               "55 ff55 fb fffb 0009 fffb -> 9 9 | fffb 0009 ff55 fffb 0008 fffb -> 11 8 | "
-               // Of three marks the second 0xFF is none, and the 0xFB behind it is passed over.
-               "ff fffb 0009 fffb 0008 fffb -> 10 8 | "
-               // The record behind a high value falls out of step.
-               "fffb 01f4 fffb 0007 fffb 0008 fffb -> 13 8 | "
-               "fffb 0200 fffb 0200 fffb 0200 fffb 0200 fffb -> -1 | "
-               // Behind a high value the high byte of the next one is taken for a mark.
-               "fffb 0200 fffb fb01 -> 6 0")) {
+    // Of three marks the second 0xFF is none, and the 0xFB behind it is passed over. The record
+    // behind a high value falls out of step, or its high byte is taken for a mark.
+    for (const Case &c : cases(R"(
+            fffb 01f3 fffb -> 5 499 | fffb 0000 fffb -> 5 0 | fffb 0000 -> -1
+            | 55 ff55 fb fffb 0009 fffb -> 9 9 | fffb 0009 ff55 fffb 0008 fffb -> 11 8
+            | ff fffb 0009 fffb 0008 fffb -> 10 8 | fffb 01f4 fffb 0007 fffb 0008 fffb -> 13 8
+            | fffb 0200 fffb 0200 fffb 0200 fffb 0200 fffb -> -1 | fffb 0200 fffb fb01 -> 6 0)")) {
         FrequenzDecoder decoder;
         const auto end = endsAt(decoder, QByteArray::fromHex(c.in.toLatin1()));
         EXPECT_EQ(end < 0 ? "-1" : QString("%1 %2").arg(end).arg(decoder.value()), c.out) << c;

@@ -24,45 +24,38 @@ struct Window : Front {
     void disableFront() override {}
     void focusBeenden() override {}
 
-    bool moteinEnabled = false;
-    bool motausEnabled = true;
+    bool moteinEnabled = false, motausEnabled = true;
     int enabled = 0; // how often
     QString einlauf;
 };
 
-/// A loaded screen under a name of the program, which keeps what it is told.
+/// A screen under a name of the program, which keeps what it is told.
 class Told {
   public:
     explicit Told(frm name) : mName(name) {
-        platform::registerScreen(int(name), [this] { return std::make_unique<Listener>(*this); });
+        platform::registerScreen(int(name), [] { return std::make_unique<Listener>(); });
         screen(name);
     }
     ~Told() { screen(mName).unload(); }
-    Told(const Told &) = delete;
-    Told &operator=(const Told &) = delete;
-    QString last() const { return mLast; }
+    QString last() const { return static_cast<Listener &>(screen(mName)).told; }
 
   private:
     struct Listener : Screen {
-        explicit Listener(Told &told) : mTold(told) {}
-        void showInfo(const QString &text) override { mTold.mLast = text; }
-        void showCountdown(const QString &text) override { mTold.mLast = text; }
-        Told &mTold;
+        void showInfo(const QString &text) override { told = text; }
+        void showCountdown(const QString &text) override { told = text; }
+        QString told;
     };
     frm mName;
-    QString mLast;
 };
 
-class LinkTest : public Workshop {
-  protected:
+struct LinkTest : Workshop {
     LinkTest() { enterFront(window); }
     ~LinkTest() override { leaveFront(window); }
     Window window;
 };
 
 /// The test plays what arrives.
-class ScriptTest : public LinkTest {
-  protected:
+struct ScriptTest : LinkTest {
     ScriptTest() { line.connect(script); }
     void arrive(const QByteArrayList &pieces, double milliseconds = 1) {
         script.arrive(clock.elapsed(), {pieces.begin(), pieces.end()}, milliseconds);
