@@ -29,8 +29,7 @@ TEST_F(Session, FailureBoxesShowAndKeepNumberAndText) {
         expectBox({"Fehler 3016 -  13 Typen unverträglich", "ERROR 3016 -  13 Type mismatch"},
                   platform::Critical, {"!! Achtung Fehler !!", " !! Attention !!"});
         fehlerBox("Fehler 3016 - ", "ERROR 3016 - ", fehler);
-        EXPECT_EQ(gFehlerNr, 13);
-        EXPECT_EQ(gFehlerText, inSprache(fehler.text()));
+        EXPECT_EQ(QString::number(gFehlerNr) + gFehlerText, "13" + inSprache(fehler.text()));
     }
     expectBox({"Fehler 7--5 x", "ERROR 7--5 y"}, platform::Critical, {"T", "U"});
     fehlerBox({"Fehler 7-", "ERROR 7-"}, Fehler(-5, {"x", "y"}), {"T", "U"});
@@ -40,24 +39,18 @@ TEST_F(Session, FailureBoxesShowAndKeepNumberAndText) {
 
 TEST_F(Session, WhatTheSelectionAllows) {
     // Customer, ident number, recipe; choose a unit, a safety sheet, measure, nothing said about it
-    for (const Case &c : cases("// -> ---n | /4711/Kurz -> ---n | Praxis// -> u--- | "
-                               "Praxis//Kurz -> u--- | Praxis/4711/ -> us-- | "
-                               "Praxis/4711/Kurz -> usm-")) {
+    for (const Case &c : cases("// -> 0001 | /4711/Kurz -> 0001 | Praxis// -> 1000 | Praxis//Kurz "
+                               "-> 1000 | Praxis/4711/ -> 1100 | Praxis/4711/Kurz -> 1110")) {
+        const QStringList chosen = c.in.split('/');
         Auswahl wahl;
-        wahl.kunde = c.in.section('/', 0, 0);
-        wahl.gerätID = c.in.section('/', 1, 1);
-        wahl.rezept = c.in.section('/', 2, 2);
+        wahl.kunde = chosen[0];
+        wahl.gerätID = chosen[1];
+        wahl.rezept = chosen[2];
         const DesktopRegeln regeln = desktopRegeln(wahl);
-        QString allowed("----");
-        if (regeln.gerät)
-            allowed[0] = 'u';
-        if (regeln.secControl)
-            allowed[1] = 's';
-        if (regeln.messen)
-            allowed[2] = 'm';
-        if (regeln.ohneKunde)
-            allowed[3] = 'n';
-        EXPECT_EQ(allowed, c.out) << c;
+        EXPECT_EQ(regeln.gerät * 1000 + regeln.secControl * 100 + regeln.messen * 10 +
+                      regeln.ohneKunde,
+                  c.out.toInt())
+            << c;
     }
 }
 
@@ -94,30 +87,20 @@ TEST_F(Session, AnotherCustomerTakesTheUnitAway) {
     EXPECT_EQ(shown, " Klinik/ergo/3/Kurz! Süd/ergo/3/Kurz Süd/ergo/4/Kurz Süd/ergo/4/Kurz "
                      "Süd/ergo/4/Kurz Süd/ergo/4/Kurz Süd/ergo//Kurz! Süd/ergo/5/Kurz! "
                      "Süd///Kurz! Süd/ergo/6/Kurz! Süd///Kurz! ///Kurz!");
-    EXPECT_EQ(gKundenID, 0);
-    EXPECT_EQ(gGerätID, 0);
+    EXPECT_EQ(gKundenID + gGerätID, 0);
 }
 
 TEST_F(Session, TheFrontEnteredLastIsInForce) {
     Window desktop, finalTest;
-    const auto answers = [&] { // who was enabled by now, and how often
-        front().enableFront();
-        return QString("%1 %2").arg(desktop.enabled).arg(finalTest.enabled);
-    };
     EXPECT_EQ(front().drehrichtung(), "");
-    EXPECT_EQ(answers(), "0 0");
-    enterFront(desktop);
-    enterFront(finalTest);
-    EXPECT_EQ(answers(), "0 1");
-    leaveFront(desktop);
-    EXPECT_EQ(answers(), "0 2");
-    enterFront(desktop);
-    EXPECT_EQ(answers(), "1 2");
-    enterFront(desktop); // once in, once out
-    leaveFront(desktop);
-    EXPECT_EQ(answers(), "1 3");
-    leaveFront(finalTest);
-    EXPECT_EQ(answers(), "1 3");
+    QString asked; // how often each was enabled by now; once in, once out
+    for (const QString step : {"-d", "+d", "+f", "-d", "+d", "+d", "-d", "-f"}) {
+        Window &window = step.endsWith('d') ? desktop : finalTest;
+        step.startsWith('+') ? enterFront(window) : leaveFront(window);
+        front().enableFront();
+        asked += QString(" %1%2").arg(desktop.enabled).arg(finalTest.enabled);
+    }
+    EXPECT_EQ(asked, " 00 10 11 12 22 32 33 33");
 }
 
 } // namespace
