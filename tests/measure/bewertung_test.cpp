@@ -29,94 +29,84 @@ class Bewertung : public Workshop {
     static QString shown(QString text) {
         return text.replace('.', platform::numberLocale().decimalPoint());
     }
-    /// What must not be left of the step before.
-    static Urteil before(const QString &verdicts) {
-        return {!verdicts.startsWith("ja"), "before", old};
-    }
-    /// Verdicts without and with uncertainty, as "ja ?"; the second is in the language.
-    static void expectVerdicts(const Urteil &urteil, QString verdicts, double muProz) {
+    /// Judges over what the step before left, which must be another verdict; "ja ?, 2" is what was
+    /// found without and with uncertainty, the second in the language, and the uncertainty.
+    template <class Judge>
+    static void expectVerdicts(QString verdicts, Judge judge) {
+        Urteil urteil{!verdicts.startsWith("ja"), "before", old};
+        judge(urteil);
         if (gSprache == 2)
             verdicts.replace(" ja", " yes").replace(" nein", " no");
-        EXPECT_EQ((urteil.ohne ? "ja " : "nein ") + urteil.mit, verdicts);
-        EXPECT_DOUBLE_EQ(urteil.muProz, muProz);
+        EXPECT_EQ((urteil.ohne ? "ja " : "nein ") + urteil.mit, verdicts.section(", ", 0, 0));
+        EXPECT_DOUBLE_EQ(urteil.muProz, verdicts.section(", ", 1).toDouble());
     }
     /// Judges at each edge, from below the tolerance to above it, in both languages.
     template <class Judge>
-    static void expectEdges(const Case &c, double muProz, Judge judge) {
+    static void expectEdges(const Case &c, const QString &muProz, Judge judge) {
         const QStringList edges = c.out.split(' ');
-        const QStringList words = edges.size() == 4
-                                      ? QStringList{"nein nein", "ja ja", "ja ja", "nein nein"}
-                                      : QStringList{"nein nein", "nein ?", "ja ?",   "ja ja",
-                                                    "ja ja",     "ja ?",   "nein ?", "nein nein"};
-        for (qsizetype i = 0; i < 2 * edges.size(); ++i) {
+        const QString words = edges.size() == 4
+                                  ? "nein nein|ja ja|ja ja|nein nein"
+                                  : "nein nein|nein ?|ja ?|ja ja|ja ja|ja ?|nein ?|nein nein";
+        for (int i = 0; i < 2 * edges.size(); ++i) {
             use(i % 2 ? 2 : 1);
             SCOPED_TRACE(testing::Message() << c << ": " << edges[i / 2]);
-            Urteil urteil = before(words[i / 2]);
-            judge(urteil, shown(edges[i / 2]));
-            expectVerdicts(urteil, words[i / 2], muProz);
+            expectVerdicts(words.section('|', i / 2, i / 2) + ", " + muProz,
+                           [&](Urteil &urteil) { judge(urteil, shown(edges[i / 2])); });
         }
     }
 };
 
 TEST_F(Bewertung, OfAPower) {
-    for (const Case &c : cases( // set-point, % and W permitted, uncertainty with its table
-             "50 5 5 -> 44.99 45.00 55.00 55.01 | 100 5 5 -> 94.99 95 105.00 105.01 | "
-             "101 5 5 -> 95.94 95.95 106.05 106.06 | 200 5 5 -> 189.99 190.00 210.00 210.01 | "
-             "120.5 5 5 -> 114.47 114.48 126.52 126.53 | 0 5 5 -> -5.01 -5.00 5.00 5.01 | "
-             "100 0 0 -> 99.99 100.00 100.00 100.01 | 180 0 0.1 -> 179.89 179.90 180.10 180.11 | "
-             "60 0 4.4 -> 55.59 55.60 64.40 64.41 | " // 6440 is a trace more in binary
-             "200 2.5 0 -> 194.99 195.00 205.00 205.01 | "
-             "25 5 5 4 -> 18.99 19.00 20.99 21.00 29.00 29.01 31.00 31.01 | "
-             "10 5 5 10 -> 3.99 4.00 5.99 6.00 14.00 14.01 16.00 16.01 | "
-             "26 5 5 2 -> 20.47 20.48 21.51 21.52 30.48 30.49 31.52 31.53 | "
-             "100 5 5 2 -> 92.99 93.00 96.99 97.00 103.00 103.01 107.00 107.01 | "
-             "200 5 5 1 -> 187.99 188.00 191.99 192.00 208.00 208.01 212.00 212.01 | "
-             "400 5 5 1 -> 375.99 376.00 383.99 384.00 416.00 416.01 424.00 424.01 | "
-             "401 5 5 7.5 -> 380.94 380.95 421.05 421.06")) {
+    // Set-point, % and W permitted, uncertainty with its table; 6440 is a trace more in binary.
+    for (const Case &c : cases(R"(
+            50 5 5 -> 44.99 45.00 55.00 55.01 | 100 5 5 -> 94.99 95 105.00 105.01
+            | 101 5 5 -> 95.94 95.95 106.05 106.06 | 200 5 5 -> 189.99 190.00 210.00 210.01
+            | 120.5 5 5 -> 114.47 114.48 126.52 126.53 | 0 5 5 -> -5.01 -5.00 5.00 5.01
+            | 100 0 0 -> 99.99 100.00 100.00 100.01 | 180 0 0.1 -> 179.89 179.90 180.10 180.11
+            | 60 0 4.4 -> 55.59 55.60 64.40 64.41 | 200 2.5 0 -> 194.99 195.00 205.00 205.01
+            | 25 5 5 4 -> 18.99 19.00 20.99 21.00 29.00 29.01 31.00 31.01
+            | 10 5 5 10 -> 3.99 4.00 5.99 6.00 14.00 14.01 16.00 16.01
+            | 26 5 5 2 -> 20.47 20.48 21.51 21.52 30.48 30.49 31.52 31.53
+            | 100 5 5 2 -> 92.99 93.00 96.99 97.00 103.00 103.01 107.00 107.01
+            | 200 5 5 1 -> 187.99 188.00 191.99 192.00 208.00 208.01 212.00 212.01
+            | 400 5 5 1 -> 375.99 376.00 383.99 384.00 416.00 416.01 424.00 424.01
+            | 401 5 5 7.5 -> 380.94 380.95 421.05 421.06)")) {
         const QStringList in = c.in.split(' ');
-        const bool table = in.size() > 3;
-        expectEdges(c, table ? in[3].toDouble() : old, [&](Urteil &urteil, const QString &ist) {
+        expectEdges(c, in.value(3, "7.5"), [&](Urteil &urteil, const QString &ist) {
             SchrittTexte texte{"60", shown(in[0]), "60", ist, ""};
             leistungBewerten(urteil, texte, {in[1].toDouble(), in[2].toDouble(), 3},
-                             table ? powerRows : none);
+                             in.size() > 3 ? powerRows : none);
             EXPECT_EQ(texte.ist_n_ergom, "0");
         });
     }
 }
 
-TEST_F(Bewertung, OfASpeed) {
-    for (const Case &c : cases( // set-point, reading, 1/min permitted, uncertainty
-             "60 60 2 1 -> 57.39 57.40 58.59 58.60 61.40 61.41 62.60 62.61 | "
-             "10 50 2 1 -> 47.49 47.50 48.49 48.50 51.50 51.51 52.50 52.51 | "
-             "61 60 2 2 -> 56.79 56.80 59.19 59.20 60.80 60.81 63.20 63.21 | "
-             "130 62 2 2 -> 58.75 58.76 61.23 61.24 62.76 62.77 65.24 65.25 | "
-             "60 60 1 1 -> 58.39 58.40 59.59 59.60 60.40 60.41 61.60 61.61 | "
-             "131 60 2 7.5 -> 57.99 58.00 62.00 62.01")) {
+TEST_F(Bewertung, OfASpeed) { // set-point, reading, 1/min permitted, uncertainty
+    for (const Case &c : cases(R"(
+            60 60 2 1 -> 57.39 57.40 58.59 58.60 61.40 61.41 62.60 62.61
+            | 10 50 2 1 -> 47.49 47.50 48.49 48.50 51.50 51.51 52.50 52.51
+            | 61 60 2 2 -> 56.79 56.80 59.19 59.20 60.80 60.81 63.20 63.21
+            | 130 62 2 2 -> 58.75 58.76 61.23 61.24 62.76 62.77 65.24 65.25
+            | 60 60 1 1 -> 58.39 58.40 59.59 59.60 60.40 60.41 61.60 61.61
+            | 131 60 2 7.5 -> 57.99 58.00 62.00 62.01)")) {
         const QStringList in = c.in.split(' ');
-        expectEdges(c, in[3].toDouble(), [&](Urteil &urteil, const QString &ist) {
+        expectEdges(c, in[3], [&](Urteil &urteil, const QString &ist) {
             drehzahlBewerten(urteil, {in[0], "180", ist, "180", in[1]}, {5, 5, in[2].toShort()},
                              speedRows);
         });
     }
 }
 
-TEST_F(Bewertung, WithoutALanguageOnlyTheUndecidedIsSaid) {
-    gSprache = 0;
-    for (const Case &c : cases("208,00 -> ja before | 209,00 -> ja ? | 212,01 -> nein ?")) {
-        Urteil urteil = before(c.out);
-        SchrittTexte texte{"60", "200", "60,00", c.in, ""};
-        leistungBewerten(urteil, texte, {5, 5, 0}, powerRows);
-        expectVerdicts(urteil, c.out, 1);
-    }
-}
-
-TEST_F(Bewertung, TheRowIsChosenByTheLeadingNumber) {
-    for (const int language : {1, 2}) {
-        use(language);
-        Urteil urteil;
-        SchrittTexte texte{"60", shown("25.5"), "60", shown("25.50"), ""};
-        leistungBewerten(urteil, texte, {5, 5, 0}, powerRows);
-        EXPECT_DOUBLE_EQ(urteil.muProz, language == 1 ? 4 : 2) << "25 in the first row";
+TEST_F(Bewertung, ByTheLeadingNumberAndWithoutALanguageOnlyTheUndecidedIsSaid) {
+    for (const Case &c : cases("1, 25.5, 25.50 -> ja ja, 4 | 2, 25.5, 25.50 -> ja ja, 2 | "
+                               "0, 200, 208.00 -> ja before, 1 | 0, 200, 209.00 -> ja ?, 1 | "
+                               "0, 200, 212.01 -> nein ?, 1")) {
+        SCOPED_TRACE(testing::Message() << c);
+        use(c.in_(0).toInt());
+        SchrittTexte texte{"60", shown(c.in_(1)), "60", shown(c.in_(2)), ""};
+        expectVerdicts(c.out, [&](Urteil &urteil) {
+            leistungBewerten(urteil, texte, {5, 5, 0}, powerRows);
+        });
     }
 }
 
@@ -126,34 +116,36 @@ TEST_F(Bewertung, FailuresLeaveTheVerdictsOfTheStepBefore) {
     const auto power = [&](const Unsicherheiten &rows) {
         return raised([&] { leistungBewerten(urteil, texte, {5, 5, 0}, rows); });
     };
-    const auto speed = [&](const Unsicherheiten &rows) {
-        return raised([&] { drehzahlBewerten(urteil, texte, {5, 5, 0}, rows); });
+    const auto both = [&](const Unsicherheiten &rows, int number) {
+        EXPECT_EQ(power(rows), number) << texte.ist_n_torvena;
+        EXPECT_EQ(raised([&] {
+                      drehzahlBewerten(urteil, texte, {5, 5, 0}, rows);
+                  }),
+                  number)
+            << texte.ist_n_torvena;
     };
     EXPECT_EQ(power(powerRows), DivisionByZero);
     EXPECT_EQ(urteil.muProz, 1) << "as the row says";
-    for (const Unsicherheiten &open : {Unsicherheiten{{{}, 1}}, {{400, {}}}}) {
-        EXPECT_EQ(power(open), InvalidUseOfNull);
-        EXPECT_EQ(speed(open), InvalidUseOfNull);
-    }
+    both({{{}, 1}}, InvalidUseOfNull);
+    both({{400, {}}}, InvalidUseOfNull);
     EXPECT_EQ(texte.ist_n_ergom, "61");
     for (const char *text : {"", "12.5", "abc", "1,2,3"}) {
         texte.ist_P_torvena = texte.ist_n_torvena = text;
-        EXPECT_EQ(power(none), TypeMismatch) << text;
-        EXPECT_EQ(speed(none), TypeMismatch) << text;
+        both(none, TypeMismatch);
     }
     EXPECT_TRUE(urteil.ohne);
     EXPECT_EQ(urteil.mit, "nein");
 }
 
 TEST_F(Bewertung, OfAFinalTest) {
-    for (const Case &c : cases( // W, W measured, 1/min measured, read; share, W, 1/min permitted
-             "200 210,00 60,00 50 0.05 5 0 -> good | " // no limit of speed
-             "200 210,01 60,00 60 0.05 5 0 -> bad | 200 190,00 60,00 60 0.05 5 2 -> good | "
-             "200 190,00 60,00 63 0.05 5 2 -> bad | "
-             "200 190,00 62,90 60 0.05 5 2 -> good | " // 62 is what is compared
-             "200 190,00 57,00 60 0.05 5 2 -> bad | "
-             "50 52,00 60 60 0 2.5 2 -> good | 50 52,01 60 60 0 2.5 2 -> bad | " // counts as 2 W
-             "50 52,00 60 60 0 1.5 2 -> good | 100 100,01 60 60 0 0 0 -> bad")) {
+    // W, W measured, 1/min measured, read; share, W, 1/min permitted: 0 is no limit of speed, 2.5 W
+    // count as 2, and of 62,90 1/min 62 is what is compared
+    for (const Case &c : cases(R"(
+            200 210,00 60,00 50 0.05 5 0 -> good | 200 210,01 60,00 60 0.05 5 0 -> bad
+            | 200 190,00 60,00 60 0.05 5 2 -> good | 200 190,00 60,00 63 0.05 5 2 -> bad
+            | 200 190,00 62,90 60 0.05 5 2 -> good | 200 190,00 57,00 60 0.05 5 2 -> bad
+            | 50 52,00 60 60 0 2.5 2 -> good | 50 52,01 60 60 0 2.5 2 -> bad
+            | 50 52,00 60 60 0 1.5 2 -> good | 100 100,01 60 60 0 0 0 -> bad)")) {
         const QStringList in = c.in.split(' ');
         EXPECT_EQ(endprüfungBewerten({"60", in[0], in[2], in[1], in[3]},
                                      {in[4].toDouble(), in[5].toDouble(), in[6].toShort()}),
@@ -175,32 +167,24 @@ TEST_F(Bewertung, PermittedDeviationAndTorque) {
     EXPECT_DOUBLE_EQ(drehmoment(60, 188.4), 30);
 }
 
-TEST_F(Bewertung, UncertaintiesAreReadByPosition) {
+TEST_F(Bewertung, UncertaintiesAndSpecificationsAreReadByPosition) {
     change("DELETE FROM MU_Leistung");
     change("INSERT INTO MU_Leistung VALUES (1, 25, 1), (2, 100.5, 0.25), (3, NULL, NULL)");
     change("DELETE FROM MU_Drehzahl");
     const Unsicherheiten rows = unsicherheitLeistung();
     ASSERT_EQ(rows.size(), 3u);
-    EXPECT_EQ(rows[1].grenze, 100.5);
-    EXPECT_EQ(rows[1].wert, 0.25);
+    EXPECT_TRUE(rows[1].grenze == 100.5 && rows[1].wert == 0.25);
     EXPECT_FALSE(rows[2].grenze || rows[2].wert);
     EXPECT_TRUE(unsicherheitDrehzahl().empty());
-}
-
-TEST_F(Bewertung, SpecificationsHoldAWholeLimitOfSpeed) {
-    change("INSERT INTO Toleranzen (ID, Bezeichnung, Prozent, Watt) VALUES (99, 'X', 2.5, 1.5)");
-    for (const Case &c : cases("1.5 -> 2 | 2.5 -> 2 | 2.6 -> 3 | 0.5 -> 0")) {
-        change("UPDATE Toleranzen SET GrenzAbw = ? WHERE ID = 99", {c.in.toDouble()});
-        ToleranzZeile zeile;
-        ASSERT_TRUE(toleranzLesen(99, zeile));
-        EXPECT_EQ(zeile.spezifikation.grenzAbw, c.out.toInt()) << c;
-        EXPECT_EQ(zeile.spezifikation.prozent, 2.5);
-        EXPECT_EQ(zeile.spezifikation.watt, 1.5);
-        EXPECT_EQ(zeile.bezeichnung, "X");
-    }
-    ToleranzZeile untouched{"as before", {}};
-    EXPECT_FALSE(toleranzLesen(98, untouched));
-    EXPECT_EQ(untouched.bezeichnung, "as before");
+    change("INSERT INTO Toleranzen (ID, Bezeichnung, Prozent, Watt, GrenzAbw) "
+           "VALUES (99, 'X', 2.5, 1.5, 3.5)");
+    ToleranzZeile zeile{"as before", {}};
+    EXPECT_FALSE(toleranzLesen(98, zeile));
+    EXPECT_EQ(zeile.bezeichnung, "as before");
+    ASSERT_TRUE(toleranzLesen(99, zeile));
+    const Spezifikation &is = zeile.spezifikation;
+    EXPECT_TRUE(is.prozent == 2.5 && is.watt == 1.5 && zeile.bezeichnung == "X");
+    EXPECT_EQ(is.grenzAbw, 4) << "a whole limit of speed";
 }
 
 } // namespace

@@ -46,12 +46,9 @@ TEST_F(Reception, ShowsEachValueAsItComes) {
 }
 
 TEST_F(Reception, EndsWhenANewerPassOrTheEndOfTheProgramWantsIt) {
-    const std::function<void()> ends[] = {[] { gDesktopAktiv = false; },
-                                          [] { gMessStatus = messstatus::Ende; },
-                                          [this] {
-                                              superseded = true;
-                                              MSComm1.setPortOpen(false);
-                                          }};
+    const std::function<void()> ends[] = {
+        [] { gDesktopAktiv = false; }, [] { gMessStatus = messstatus::Ende; },
+        [this] { superseded = true, MSComm1.setPortOpen(false); }};
     for (const auto &end : ends) {
         gDesktopAktiv = true;
         gMessStatus = messstatus::Messen;
