@@ -7,12 +7,29 @@ using namespace support;
 
 using CorrectionFaults = Measuring;
 
+/// The stand behind a line that breaks when the first of the two values is written.
+class BreaksAtTheOffset final : public FarEnd {
+  public:
+    explicit BreaksAtTheOffset(SimulatedLine &line) : mLine(line) {}
+    void receive(std::string_view bytes, double now) override {
+        mLine.stand().receive(bytes, now);
+        if (bytes.starts_with('p'))
+            mLine.unplug();
+    }
+    std::string take(double now) override { return mLine.stand().take(now); }
+    std::optional<double> nextEvent() const override { return mLine.stand().nextEvent(); }
+
+  private:
+    SimulatedLine &mLine;
+};
+
 JOURNEY_P(CorrectionFaults, Streams) {
     co_await go(R"(
-        select ; begin ; pbok ; until wireNow ~ f$ ; pass 2000 ; stand fault silent on
-        ? noStream ; ? correctionOff ; pass 15100
+        select ; begin ; pbok ; until wireNow ~ f$ ; pass 2000 ; stand fault silent on ; pass 12900
+        ? noStream ; ? correctionOff ; pass 200 ; focus pbAbbrechen
         stand fault none ; cannot pbWeiter ; abort ; begin ; pbok
-        until wireNow ~ t$ ; pass 2000 ; stand fault silent on ; ? noStream ; ? correctionOff ; pass 15100
+        until wireNow ~ t$ ; pass 2000 ; stand fault silent on ; pass 12900
+        ? noStream ; ? correctionOff ; pass 200
         stand fault none ; cannot pbWeiter ; abort
         # Babble does not disturb the mean.
         begin ; stand fault babble on ; pbok ; pass 31000 ; can pbWeiter ; stand fault none
@@ -36,6 +53,16 @@ JOURNEY_P(CorrectionFaults, DriftBeyondTheLimit) {
             pbok ; until can StatMessen.pbWeiter ; close ; @Desktop ; can pbMessen)");
         act("shaft ~ " + drift.out);
     }
+}
+
+// Nothing is measured with the controller's old values.
+JOURNEY_P(CorrectionFaults, ValuesThatCannotBeWritten) {
+    BreaksAtTheOffset far(line);
+    line.connect(far);
+    co_await go(R"(
+        select ; begin ; ? failed(4003, 8020) ; ? correctionOff ; pbok ; until told == yes
+        pass 100 ; cannot pbWeiter ; line in
+        ? correctionAborted ; pbAbbrechen ; @Desktop ; cannot pbMessen ; shaft ~ factor=none)");
 }
 
 } // namespace

@@ -10,9 +10,12 @@ using FreeInput = Measuring;
 
 JOURNEY_P(FreeInput, LimitsAndKeys) {
     co_await go(R"(
-        measure ; step 1 60 ; pbFreieEing ; until laPrSchritt == FR ; pass 20 ; live == ||
+        measure ; step 1 60 ; pbPlus ; pbFreieEing ; cannot pbPlus pbMinus pbÜbernehmen pbSpeichern pbFreieEing
+        waiting == ; until laPrSchritt == FR ; pass 20 ; live == || ; focus txtSoll_n ; hidden txtMessArt
         txtSoll_n == ; txtSoll_P == ; cmbMessArt ==
+        cmbMessArt rows Leistungsmessung+Drehzahlmessung | Power Measurement+Speed Measurement
         # A minus is a key of the correction in the first box.
+        txtSoll_n = 0 ; txtSoll_n ! ; focus txtSoll_P ; txtSoll_P = 0 ; txtSoll_P ! ; focus cmbMessArt
         txtSoll_n = 130 ; txtSoll_n ! ; txtSoll_P = 800 ; txtSoll_P !
         txtSoll_n = 131 ; ? freeSpeedRange ; txtSoll_n ! ; txtSoll_n == 130 ; focus txtSoll_n
         txtSoll_n = x ; ? freeSpeedNumber ; txtSoll_n ! ; txtSoll_n == 130 ; focus txtSoll_n
@@ -24,13 +27,18 @@ JOURNEY_P(FreeInput, LimitsAndKeys) {
         cmbMessArt = D | S ; cmbMessArt == Drehzahlmessung | Speed Measurement
         cmbMessArt = 1 ; cmbMessArt == Leistungsmessung | Power Measurement
         cmbMessArt = 2 ; cmbMessArt == Drehzahlmessung | Speed Measurement ; beeps ~ .
-        cmbMessArt = s | l ; cmbMessArt == ; beeps == 1
+        cmbMessArt = s | l ; cmbMessArt == ; beeps == 1 ; cmbMessArt = 1 ; cmbMessArt = ; cmbMessArt ==
+        cmbMessArt = 1 ; key Backspace ; cmbMessArt == ; beeps == 0
         # 60 N m
         txtSoll_n = 50 ; txtSoll_n ! ; txtSoll_P = 315 ; txtSoll_P ! ; cmbMessArt = 1
-        waits pbAusführen ; ? freeTorque ; pbAusführen ; notice ==
+        waits pbAusführen ; cmbMessArt ! ; focus pbAusführen
+        ? freeTorque ; pbAusführen ; notice == ; focus txtSoll_n
         # Pressed by its access key from a box that was not left, the box is judged first.
         txtSoll_P = 314 ; txtSoll_P ! ; txtSoll_n = 500 ; ? freeSpeedRange ; pbAusführen
-        notice == ; txtSoll_n == 50 ; pbAusführen ; step FR 50 ; ? emptyProtocol ; leave)");
+        notice == ; txtSoll_n == 50 ; pbAusführen ; waiting == ; step FR 50
+        pbFreieEing ; until txtSoll_n == ; pass 20 ; cmbMessArt == ; pbFirst ; readonly txtSoll_n txtSoll_P
+        hidden cmbMessArt ; shown txtMessArt ; can pbPlus pbMinus ; focus pbAusführen
+        ? emptyProtocol ; leave)");
 }
 
 JOURNEY_P(FreeInput, StepsInOrderOfTimeSpeedZeroAndAReadingThatIsNoNumber) {
@@ -50,6 +58,7 @@ JOURNEY_P(FreeInput, StepsInOrderOfTimeSpeedZeroAndAReadingThatIsNoNumber) {
         wire ~ . ; pbDrehzNull ; step FR 0 ; wire == --*E-0000+>>>6 ; speed == 0 ; cannot pbDrehzNull
         txtMessArt == Leistungsmessung ; ? zeroPower ; pbSpeichern
         sql SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, MU_ohne, MU_mit, MU_Proz FROM Messwerte_temp ORDER BY rowid DESC LIMIT 1 == FR|0|0|0,00|nein|?|0.3 | FR|0|0|0.00|no|?|0.3
+        step FR 0 ; pbFreieEing ; until txtSoll_n == ; pass 20 ; can pbDrehzNull ; pbDrehzNull
         step FR 0 ; pbMessen ; step 2 80 ; can pbDrehzNull ; leave)");
 }
 

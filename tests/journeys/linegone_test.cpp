@@ -26,6 +26,9 @@ JOURNEY_P(LineGone, WithinAStepAndBack) {
         pass 30000 ; front == Messen ; line in ; pbMessen ; @Meldung ; step 1 60
         ? lineLost ; line out ; pass 10000
         pass 30000 ; front == Messen ; line in ; pbMessen ; @Meldung ; step 1 60
+        # What was asked for goes on.
+        line out ; ? failed(3014, 8020) ; pbFreieEing ; pass 1000
+        laPrSchritt == FR ; line in ; pbMessen ; step 1 60
         pbSpeichern ; step 2 80 ; stored Prüfschritt == 1 ; leave ; idle == yes)");
 }
 

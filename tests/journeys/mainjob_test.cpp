@@ -31,21 +31,25 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
         pbMessen ; until StatMessen.laInfo == Motor wird ausgeschaltet | Motor is switched off.
         @VorStatNPK ; shaft ~ speed=[12]?\d\..*motor=off ; stand coupled off
         laText == Vor Durchführung der statischen Nullpunktkorrektur ist die Kreuzgelenkwelle am Normal abzukoppeln. | Before carrying out the static zero-point correction, the universal joint shaft has to be uncoupled from the normal.
-        pbok ; until StatMessen.laInfo == Offset messen | Measure Offset
+        pbok ; until StatMessen.laInfo == Offset messen | Measure Offset ; hidden laMeldung
         until laInfo == 3 Messwerte | 3 Measuring Values ; until laInfo == Gain messen | Measure Gain
-        until can StatMessen.pbWeiter ; focus pbWeiter ; txtGain1 == 250,000 | 250.000
+        until can StatMessen.pbWeiter ; focus pbWeiter ; laInfo == ; shown laMeldung ; txtGain1 == 250,000 | 250.000
+        txtOffset1 == 0,000 | 0.000 ; wire ~ . ; beeps ~ .
         laMeldung == Statische Nullpunkt-Korrektur beendet | Static zero-point correction is terminated.
         shaft ~ offset=(9999|1000[01])\.\d+.factor=1\.0000
-        pbWeiter ; @NachStatNPK ; stand coupled on
+        pbWeiter ; wire == -- ; beeps == 1 ; @NachStatNPK ; stand coupled on
         laText == Vor Beginn der Messung ist die Kreuzgelenkwelle am Normal anzukoppeln und auszurichten. | Before beginning the measurement, the universal joint shaft has to be coupled to the normal, and aligned
-        pbok ; @ProtokollNr ; protocol Abnahme 'Süd' ; cannot pbSpeichern ; hidden txtIST_n_ergom
+        pbok ; @ProtokollNr ; protocol Abnahme 'Süd' ; cannot pbSpeichern ; focus DBGrid1
+        hidden txtIST_n_ergom lbIST_n_ergom lbEinheitErgom ; laRezName == Urteile
         title ~ ^Sechs Runden - Messen       Prüfprotokoll: \d+ - Abnahme 'Süd'$ | ^Six Rounds - Measuring       Test Protocol: \d+ - Abnahme 'Süd'$
         txtMessArt == Leistungsmessung | Power Measurement ; laDrehR == Rechtslauf | Right
         txtSoll_n == 60,0 | 60.0 ; laKorrF == 1,0000 | 1.0000)");
     QStringList shown;
     for (const int step : {1, 2, 3}) {
         const QString measured =
-            QString("stand load %1 ; step %2 60 ; can pbSpeichern").arg(95 + 5 * step).arg(step);
+            QString("stand load %1 ; step %2 60 ; can pbSpeichern ; focus pbSpeichern")
+                .arg(95 + 5 * step)
+                .arg(step);
         co_await go(measured);
         shown += views["live"]();
         co_await go(R"(
@@ -55,7 +59,8 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
     co_await go(R"(
         # Speed waits for the reading of the ergometer.
         step 10 80 ; cannot pbSpeichern ; txtIST_n_ergom = 80,5 | 80.5
-        can pbSpeichern ; txtIST_n_ergom ! ; focus pbSpeichern)");
+        waits pbSpeichern ; txtIST_n_ergom = ; cannot pbSpeichern ; waiting ==
+        txtIST_n_ergom = 80,5 | 80.5 ; can pbSpeichern ; txtIST_n_ergom ! ; focus pbSpeichern)");
     shown += views["live"]();
     co_await go(R"(
         ? recipeEnd ; pbSpeichern ; pass 3000 ; speed == 80    # the motor keeps running

@@ -8,12 +8,13 @@ using namespace support;
 
 JOURNEY(Measuring, Navigation) {
     co_await go(R"(
-        measure ; stand load 100 ; step 1 60 ; can pbSpeichern ; beeps ~ .
+        measure ; stand load 100 ; step 1 60 ; can pbSpeichern ; cannot Desktop.pbKunde Desktop.pbBeenden ; beeps ~ .
         pbPrevious ; laPrSchritt == 1 ; beeps == 1
         pbNext ; laPrSchritt == 2 ; txtSoll_n == 80,0 ; pbNext ; laPrSchritt == 2 ; beeps == 1
         pbFirst ; laPrSchritt == 1 ; pbLast ; laPrSchritt == 2 ; beeps == 0
         # The old set-point goes on being measured, but cannot be stored under the new one.
-        waits pbAusführen ; txtIST_n_ergom = 60 ; pass 13000 ; txtIST_n_torvena ~ ^(60|59),
+        waits pbAusführen ; focus pbAusführen ; txtIST_n_ergom = 60 ; pbFirst ; pbLast ; txtIST_n_ergom ==
+        txtIST_n_ergom = 60 ; pass 13000 ; txtIST_n_torvena ~ ^(60|59),
         cannot pbSpeichern ; wire ~ . ; pbAusführen ; waiting ==
         notice == Meldung: Achtung! Nächster Prüfschritt! ; cannot Messen.pbSpeichern
         until wireNow ~ 6$ ; live == || ; step 2 80 ; wire == -*E-2800+>>>6
@@ -21,18 +22,21 @@ JOURNEY(Measuring, Navigation) {
         cannot pbSpeichern ; txtIST_n_ergom = 80 ; ? recipeEnd ; pbSpeichern ; pass 3000
         laPrSchritt == 2 ; wire ~ -$ ; speed == 80
         # The last step again: overwritten without a message, and nothing is started.
-        pbMessen ; step 2 80 ; txtIST_n_ergom = 80,4 ; pbSpeichern ; pass 3000
+        pbMessen ; live == || ; step 2 80 ; txtIST_n_ergom = 80,4 ; pbSpeichern ; pass 3000
         stored Ist_n_ergom == 80,4 ; laPrSchritt == 2
         # Another step behind the end: stored, and again.
-        pbFirst ; pbAusführen ; step 1 60 ; pbSpeichern ; notice ==
+        pbFirst ; pbAusführen ; step 1 60 ; pbSpeichern ; notice == ; focus DBGrid1
         stored Prüfschritt == 2+1 ; steps == 1+2 ; selected == 1 ; step 1 60 ; pbSpeichern ; notice ==
-        stored Prüfschritt == 2+1 ; steps == 1+2 ; selected == 1 ; step 1 60 ; leave ; idle == yes)");
+        cannot pbSpeichern ; waiting ==
+        stored Prüfschritt == 2+1 ; steps == 1+2 ; selected == 1 ; step 1 60 ; pbMessen
+        step 1 60 ; leave ; idle == yes ; focus pbBeenden)");
 }
 
 JOURNEY(Measuring, CorrectionFactor) {
     co_await go(R"(
         measure ; stand load 100 ; step 1 60 ; laKorrF == 1,0000 ; wire ~ .
-        pbPlus ; txtSoll_n == 60,1 ; laKorrF == 1,0017 ; waits pbÜbernehmen ; pass 7000 ; wire ==
+        pbPlus ; txtSoll_n == 60,1 ; laKorrF == 1,0017 ; waits pbÜbernehmen ; focus pbÜbernehmen
+        pass 7000 ; wire ==
         pbÜbernehmen ; waiting == ; cannot Messen.pbÜbernehmen ; step 1 60.1
         wire == -*E-2103+>>>6 ; pbSpeichern ; stored Soll_n == 60,1
         # It goes along to the next step; the keys change it like the buttons, but offer nothing.

@@ -28,6 +28,16 @@ JOURNEY(Storing, RowThatCannotBeWritten) {
     co_await go("step 2 80 ; leave");
 }
 
+JOURNEY_P(Storing, WhatCannotBeRead) {
+    co_await go(R"(
+        select ; begin ; pbok ; until can StatMessen.pbWeiter ; pbWeiter ; @NachStatNPK
+        spoil SELECT Rezepte ; ? noTable(3013, Rezepte) ; pbok ; @Messen
+        mend ; ? emptyProtocol ; pbAbbrechen ; @Desktop ; idle == yes
+        correct ; protocol Leer ; step 1 60 ; spoil SELECT Messwerte_temp
+        ? noTable(3021, Messwerte_temp) ; pbAbbrechen ; @Desktop
+        mend ; idle == yes)");
+}
+
 JOURNEY(Storing, ContinuedProtocols) {
     co_await go(R"(
         login ; choose AEH-017, Kurzprüfung ; correct ; cannot obLetztes
