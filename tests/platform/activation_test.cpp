@@ -106,14 +106,11 @@ TEST_F(Activation, InputReachesUsableScreensOnlyAndMovesTheFront) {
     type(Qt::Key_Return, "> C.click");
     type(Qt::Key_Enter, "> C.click");
     type(Qt::Key_Escape, "> =C");
-    button->setEnabled(false);
-    type(Qt::Key_Return, ">");
-    button->setEnabled(true);
-    button->hide();
-    type(Qt::Key_Return, ">");
-    button->show();
-    button->setDefault(false);
-    type(Qt::Key_Return, ">");
+    for (const char *lacking : {"enabled", "visible", "default"}) {
+        button->setProperty(lacking, false);
+        type(Qt::Key_Return, ">");
+        button->setProperty(lacking, true);
+    }
 }
 
 TEST_F(Activation, WindowsStandWholeOnTheDisplay) {
@@ -131,11 +128,9 @@ TEST_F(Activation, WindowsStandWholeOnTheDisplay) {
 
 TEST_F(Activation, OnlyLeavingAFieldForAnotherOneIsLeavingIt) {
     rows("A+ > ...");
-    for (const auto &[reason, left] : {std::pair{Qt::TabFocusReason, true},
-                                       {Qt::MouseFocusReason, true},
-                                       {Qt::PopupFocusReason, false},
-                                       {Qt::ActiveWindowFocusReason, false},
-                                       {Qt::MenuBarFocusReason, false}}) {
+    for (const auto reason : {Qt::TabFocusReason, Qt::MouseFocusReason, Qt::PopupFocusReason,
+                              Qt::ActiveWindowFocusReason, Qt::MenuBarFocusReason}) {
+        const bool left = reason == Qt::TabFocusReason || reason == Qt::MouseFocusReason;
         for (const QEvent::Type type : {QEvent::FocusIn, QEvent::FocusOut}) {
             QFocusEvent event(type, reason);
             QCoreApplication::sendEvent(probe(A).box, &event);
