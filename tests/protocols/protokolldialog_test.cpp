@@ -26,12 +26,10 @@ class ProtokollDialog : public ProtokollTest {
         views["number"] = [] { return QString::number(gProtokollID); };
         // Status, whether the old protocol goes on, how often the measurement was activated since.
         views["outcome"] = [] {
-            return QString("%1 %2 %3 %4 %5.")
-                .arg(gMessungLäuft ? "open" : "over")
-                .arg(gMessStatus)
-                .arg(gMessenAktiv ? "on" : "new")
-                .arg(aktivierungen)
-                .arg(loaded(frm::Messen)->caption());
+            const QString flow = gMessungLäuft ? "open " : "over ",
+                          how = gMessenAktiv ? " on " : " new ";
+            return flow + QString::number(gMessStatus) + how + QString::number(aktivierungen) +
+                   ' ' + loaded(frm::Messen)->caption() + '.';
         };
     }
     static Journey open(frm name = frm::ProtokollNr) {
@@ -50,8 +48,8 @@ class ProtokollDialog : public ProtokollTest {
 JOURNEY(ProtokollDialog, OffersOnlyWhatIsPossible) {
     co_await open();
     co_await go(R"(
-        lbProtokollID ~ ^1 - $ ; focus obNeu ; can obNeu ; cannot obVorhanden obLetztes pbok
-        pbexit ; @Messfenster)");
+        lbProtokollID ~ ^1 - $ ; focus obNeu ; can obNeu ; cannot obVorhanden obLetztes pbok ; pbexit
+        @Messfenster)");
     kopf(2147483647);
     expectKnown("failed(9702, 6)");
     co_await open();

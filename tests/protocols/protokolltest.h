@@ -18,12 +18,12 @@ class ProtokollTest : public support::Way {
         gDatenbank.execute("INSERT INTO Normalkalibrierdaten (NK_ID, SerienNr) "
                            "VALUES (5, 'N1'), (6, 'N1'), (7, 'N2')");
         gPrüfer = "O'Neill";
+        gMessverfahren = "Verfahren";
+        gSeriennummer = "N1";
         gKundenID = 3;
         gGerätID = 4;
         gDrehrichtung = 2;
         gToleranzID = 5;
-        gMessverfahren = "Verfahren";
-        gSeriennummer = "N1";
     }
 
     /// A head as this session writes it, of the connected standard.
