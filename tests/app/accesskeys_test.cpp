@@ -1,7 +1,9 @@
 // One road past all screens, and at each stop: every control by keyboard, its label, the default
 // button, the window whole on the display, its title, and in English nothing German left.
 #include <QAbstractScrollArea>
+#include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollBar>

@@ -12,12 +12,6 @@ class Desktop : public Workplace {
   protected:
     Desktop() {
         views["chosen"] = [] { return QString::number(gDrehrichtung); };
-        views["lit"] = [] { // the arrows of the dialog
-            QString arrows;
-            for (const char *arrow : {"laLinks", "laRechts"})
-                arrows += control(frm::MotorDrehR, arrow)->isEnabled() ? arrow[2] : '-';
-            return arrows;
-        };
     }
 };
 
@@ -50,13 +44,15 @@ JOURNEY_P(Desktop, AllowsWhatTheSelectionAllows) {
 JOURNEY_P(Desktop, DirectionOfRotation) {
     co_await logIn();
     co_await go(R"(
-        pbDrehR ; @MotorDrehR ; cannot pbok Desktop.pbKunde ; lit == --
-        obLinks ; chosen == 2 ; lit == L- ; focus pbok
-        obRechts ; chosen == 1 ; lit == -R ; obLinks ; lit == L- ; Desktop.lbDrehrichtung ==
+        pbDrehR ; @MotorDrehR ; cannot pbok Desktop.pbKunde laLinks laRechts
+        obLinks ; chosen == 2 ; can laLinks ; cannot laRechts ; focus pbok
+        obRechts ; chosen == 1 ; can laRechts ; cannot laLinks ; obLinks ; can laLinks
+        cannot laRechts ; Desktop.lbDrehrichtung ==
         key Return ; @Desktop ; lbDrehrichtung == Linkslauf | Left ; can pbMotein)");
     // Shown again as it is; a calibration goes on where it waits.
     front().setMoteinEnabled(false);
-    co_await go("pbDrehR ; @MotorDrehR ; lit == L- ; checked obLinks ; obRechts");
+    co_await go(
+        "pbDrehR ; @MotorDrehR ; can laLinks ; cannot laRechts ; checked obLinks ; obRechts");
     gFormStatus = formstatus::RichtungFehlt;
     co_await go("pbok");
     EXPECT_EQ(gFormStatus, formstatus::Einlaufen);
