@@ -63,7 +63,8 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
         txtIST_n_ergom = 80,5 | 80.5 ; can pbSpeichern ; txtIST_n_ergom ! ; focus pbSpeichern)");
     shown += views["live"]();
     co_await go(R"(
-        ? recipeEnd ; pbSpeichern ; pass 3000 ; speed == 80    # the motor keeps running
+        wire ~ . ; ? recipeEnd ; pbSpeichern ; focus DBGrid1 ; wire == -
+        pass 3000 ; speed == 80    # the motor keeps running
         leave ; shaft ~ ^set=0.00
         stored Prüfschritt, Soll_n, Soll_P, Ist_n_ergom, MU_ohne, MU_mit == 1|60,0|100,0|0|ja|ja+2|60,0|100,0|0|nein|?+3|60,0|100,0|0|nein|nein+10|80,0|0,0|80,5|ja|ja | 1|60.0|100.0|0|yes|yes+2|60.0|100.0|0|no|?+3|60.0|100.0|0|no|no+10|80.0|0.0|80.5|yes|yes
         sql SELECT Protokollname FROM Protokoll_temp ORDER BY ProtokollID DESC LIMIT 1 == Abnahme 'Süd')");

@@ -100,8 +100,12 @@ JOURNEY(Belonging, APassSendsNoSpeedOutsideItsRange) {
         act("pbMinus");
     co_await go(R"(
         pbÜbernehmen ; step 2 140
-        txtSoll_n ^ ; txtSoll_n + - ; pbMessen ; step 2 139.9    # no other limit on a recipe's step
-        leave)");
+        txtSoll_n ^ ; txtSoll_n + - ; pbMessen ; step 2 139.9)"); // no other limit on such a step
+    for (int i = 0; i < 31; ++i)
+        act("pbPlus");
+    co_await go(R"(
+        pbÜbernehmen ; step 2 143 ; pbPlus ; ? freeSpeedRange ; pbÜbernehmen ; until told == yes ; pass 100
+        shaft ~ ^set=143.00 ; txtSoll_n == 143,0 ; leave)");
 }
 
 // A controller that answers late: passes overtake each other, and none is left to itself.
