@@ -49,6 +49,8 @@ TEST_F(Schema, StagingTablesFitTheirViewsWhichAreTheSameButForTheTables) {
         EXPECT_EQ(columnsOf(view), view == "Bericht2" ? staging + " Konform" : staging);
     }
     EXPECT_EQ(columnsOf("EP_Bericht"), columnsOf("EP_Bericht5"));
+    const QString normal = columnsOf("Normalkalibrierdaten"); // read by position, and not yet used
+    EXPECT_EQ(normal.section(' ', 12, 13), "GrenzwStreubreite AnzahlStreu");
 }
 
 TEST_F(Schema, ADeletedCounterDoesNotComeBack) {
