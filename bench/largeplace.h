@@ -31,10 +31,7 @@ class LargePlace : public support::Workplace {
     }
 
     using Workplace::arrive;
-    using Workplace::choose;
-    using Workplace::correctZeroPoint;
-    using Workplace::logIn;
-    using Workplace::newProtocol;
+    using Workplace::go;
     using Workshop::boxes;
     using Workshop::change;
     using Workshop::column;

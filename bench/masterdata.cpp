@@ -43,9 +43,7 @@ void opening(benchmark::State &state, const char *name, const char *button, frm 
     const auto owner = fleet ? std::make_unique<Fleet>() : nullptr;
     std::vector<double> took;
     const auto journey = [&]() -> Journey {
-        const DemoNames names = demoNames();
-        co_await place.logIn();
-        co_await place.choose(names.customer, names.ident, names.recipe);
+        co_await place.go("select");
         for (auto _ : state) {
             QElapsedTimer timer;
             timer.start();
@@ -83,9 +81,7 @@ void filtering(benchmark::State &state, const char *name, const char *button, fr
     const auto owner = fleet ? std::make_unique<Fleet>() : nullptr;
     std::vector<double> took;
     const auto journey = [&]() -> Journey {
-        const DemoNames names = demoNames();
-        co_await place.logIn();
-        co_await place.choose(names.customer, names.ident, names.recipe);
+        co_await place.go("select");
         press(frm::Desktop, button);
         co_await LargePlace::arrive(opened);
         auto *edit = control<QComboBox>(opened, box);

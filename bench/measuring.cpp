@@ -110,7 +110,7 @@ class Road {
         const auto ready = [](frm name, const char *button) {
             return [name, button] { return inFront(name) && canPress(name, button); };
         };
-        const DemoNames demo = demoNames();
+        const DemoNames demo;
         return {
             {"login", front(frm::Login),
              [] {

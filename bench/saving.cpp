@@ -63,12 +63,7 @@ class Saves {
 };
 
 Journey toFirstStep(LargePlace &place) {
-    const DemoNames names = demoNames();
-    co_await place.logIn();
-    co_await place.choose(names.customer, names.ident, names.recipe);
-    co_await place.correctZeroPoint();
-    co_await place.newProtocol("Messreihe");
-    place.line.stand().setLoad(100);
+    co_await place.go("select ; correct ; protocol Messreihe ; stand load 100");
 }
 
 Until measured(const char *step) {

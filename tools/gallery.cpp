@@ -52,7 +52,7 @@ class Gallery : public Workplace {
     }
 
     Journey masterData() {
-        const DemoNames names = demoNames();
+        const DemoNames names;
         press(frm::Desktop, "pbKunde");
         co_await arrive(frm::Kunden);
         co_await visited(frm::Kunden, "pbNeu", frm::NeuKunde, "neukunde", "pbexit");
@@ -129,7 +129,7 @@ class Gallery : public Workplace {
         gDesktopFolge = 0;
 
         co_await masterData();
-        const DemoNames names = demoNames();
+        const DemoNames names;
         press(frm::Desktop, "pbKunde");
         co_await arrive(frm::Kunden);
         type(frm::Kunden, "cmbKundenname", names.customer);

@@ -7,26 +7,17 @@ namespace {
 using namespace support;
 
 JOURNEY_P(Measuring, ByHand) {
-    co_await logIn();
     co_await go(R"(
-        pbKunde ; @Kunden ; mouse lstKunden Herzzentrum Talbrück ; cmbKundenname == Herzzentrum Talbrück
-        wheel cmbOrt ; cmbOrt == ; pbAbbrechen ; @Desktop)");
-    co_await choose(demoNames().customer, "AEH-017", demoNames().recipe);
-    co_await chooseDirection();
-    co_await go(R"(
+        login ; pbKunde ; @Kunden ; mouse lstKunden Herzzentrum Talbrück ; cmbKundenname == Herzzentrum Talbrück
+        wheel cmbOrt ; cmbOrt == ; pbAbbrechen ; @Desktop
+        choose AEH-017, Kurzprüfung ; direction
         # Nothing else while a command is sent.
         stand fault deaf 1 ; after 500 cannot pbMotein pbMotaus pbDrehR pbKunde ; pbMotein
         stand fault deaf 1 ; after 500 cannot pbMotein pbMotaus pbDrehR pbKunde ; pbMotaus
-        can pbDrehR ; cannot pbMotaus)");
-    co_await startMeasuring();
-    co_await go(R"(
-        pbok ; pass 1000
+        can pbDrehR ; cannot pbMotaus ; begin ; pbok ; pass 1000
         keyboard ~ ^(?!pbAbbrechen) ; until can StatMessen.pbWeiter ; drift ~ ^-?0.00. 249.99. -?0.00. -?0.00.$
         line out ; ? failed(4042, 8020) ; pbWeiter ; line in ; pbWeiter ; @NachStatNPK ; pbok
-        @ProtokollNr ; obVorhanden ; shown cmbVorhanden)");
-    co_await newProtocol("Von Hand");
-    co_await go(R"(
-        step 1 60 ; readonly txtSoll_n txtSoll_P ; pbNext ; pbAusführen
+        @ProtokollNr ; obVorhanden ; shown cmbVorhanden ; protocol Von Hand ; step 1 60 ; readonly txtSoll_n txtSoll_P ; pbNext ; pbAusführen
         step 2 80 ; focus txtIST_n_ergom ; txtIST_n_ergom = 80 ; ? recipeEnd ; pbSpeichern ; pass 3000
         pbFreieEing ; pass 100 ; laPrSchritt == FR ; focus txtSoll_n    # as the box says
         txtSoll_n = 70 ; txtSoll_n ! ; cmbMessArt > 2

@@ -82,10 +82,6 @@ class Measuring : public Workplace {
         views["shaft"] = [this] {
             return QString::fromStdString(simulator::runCommand("status", line.stand(), {}));
         };
-        views["idle"] = [this] {
-            expectIdleDesktop();
-            return "yes";
-        };
         // Nothing was written, and a measurement needs the selection anew.
         roads["abort"] = [this](const QString &) {
             return go("? correctionAborted ; pbAbbrechen ; @Desktop ; idle == yes ; released == no "

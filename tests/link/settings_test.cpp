@@ -86,7 +86,7 @@ JOURNEY_P(Settings, ThatThePortRefusesAreMendedOnTheScreen) {
     change("UPDATE Interface SET PortNr = 20, Parameter = '9600,N,5,1'");
     platform::setSerialDeviceMaker([](const QString &) { return std::make_unique<Choosy>(); });
     co_await logIn();
-    co_await chooseDirection();
+    co_await go("direction");
     co_await go(R"(
         ? portRefused ; ? noSettings ; pbMotein ; @Interface
         fields == 20 9600 Keine 5 1    # a number above those of the bar

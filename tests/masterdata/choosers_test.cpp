@@ -89,7 +89,7 @@ JOURNEY_P(Choosers, ChangeTheDesktop) {
 }
 
 JOURNEY_P(Choosers, AreLeftWithoutAChoice) {
-    co_await select();
+    co_await go("select");
     front().setMessenEnabled(false); // after a failed correction: only a choice helps
     co_await go(R"(
         pbKunde ; @Kunden ; cmbKundenname := Kantonsspital Seewilen ; key Escape ; @Desktop

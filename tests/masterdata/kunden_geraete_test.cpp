@@ -19,7 +19,7 @@ class Editing : public Workplace {
 
 JOURNEY_P(Editing, ACustomerIsEnteredAndChanged) {
     co_await logIn();
-    co_await choose("Herzzentrum Talbrück", "HZT-2", "Kurzprüfung");
+    co_await go("choose Herzzentrum Talbrück | HZT-2, Kurzprüfung");
     co_await go(R"(
         pbKunde ; @Kunden ; ? changeCustomer ; pbchange ; focus cmbKundenname ; ? changeCustomer ; pbDelete
         focus cmbKundenname ; cmbOrt > Großlohe ; pbNeu ; @NeuKunde ; focus txtName
@@ -103,7 +103,7 @@ JOURNEY_P(Editing, ACustomerIsDeleted) {
     const QString longest(255, 'W');
     change("INSERT INTO Kunden (Name) VALUES (?)", {longest});
     co_await logIn();
-    co_await choose("Herzzentrum Talbrück", "HZT-2", "Kurzprüfung");
+    co_await go("choose Herzzentrum Talbrück | HZT-2, Kurzprüfung");
     co_await go("pbKunde ; @Kunden ; cmbKundenname := " + longest + " ; pbDelete ; @LöschKunde");
     EXPECT_LT(loaded(frm::LöschKunde)->width(), 600);
     co_await go(QString(R"(
@@ -132,7 +132,7 @@ JOURNEY_P(Editing, AUnitIsDeletedAndTheLastOneToo) {
                     "UNION ALL SELECT count(*) FROM Ergometer WHERE GerätID = 90");
     };
     co_await logIn();
-    co_await choose("St Aldwyn Hospital, Cardiac Unit", "STA-1", "Kurzprüfung");
+    co_await go("choose St Aldwyn Hospital, Cardiac Unit | STA-1, Kurzprüfung");
     co_await go(R"(
         pbGerät ; @Gerät ; cmbTyp > Ohne Nummer ; pbDelete ; @LöschGerät ; focus pbNo
         lbProtocollCount ~ ^Zu dem Gerät 'Ohne Nummer' existiert ein Protokoll\.\nSollen diese Daten jetzt gelöscht werden\?$ | ^For the unit 'Ohne Nummer' there is one protocol existent\.\nShall it be deleted now\?$

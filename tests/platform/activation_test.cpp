@@ -60,9 +60,10 @@ TEST_F(Activation, BoxesAndOtherProgramsMoveNothing) {
     rows("A+ B+ > ...");
     {
         support::Boxes boxes;
-        boxes.expect("nothing");
+        boxes.expect("nothing", {}, -1);
         msgBox("nothing", 0, "");
-        boxes.expect("question", Yes, [this] { rows("> | A+ >"); }); // held back under the box
+        boxes.expect("question", {}, -1, Yes,
+                     [this] { rows("> | A+ >"); }); // held back under the box
         EXPECT_EQ(msgBox("question", YesNo, ""), Yes);
     }
     rows("> A.activate");
@@ -215,7 +216,7 @@ TEST_F(Unloading, OfANoticeInTheMiddleOfSomethingElse) {
     plans["B.unload"] = [this](Probe &) { act(A, '^'); };
     for (const bool command : {true, false}) { // one that fails, or a box
         support::Boxes boxes;
-        boxes.expect("?", OK, [this] { rows("B! > B.unload B.unload-end"); });
+        boxes.expect("?", {}, -1, OK, [this] { rows("B! > B.unload B.unload-end"); });
         rows(command ? "D+ A+ B+ A~ > ... | { >" : "D+ A+ B+ A~ > ...");
         msgBox("?", Critical, "");
         rows(command ? "> | } > A.activate =A" : "> A.activate =A");

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <utility>
 
 #include "cases.h"
@@ -27,17 +26,9 @@ bool Boxes::Expected::matches(const platform::Box &box) const {
     return text.endsWith(QString("…")) ? box.text.startsWith(text.chopped(1)) : box.text == text;
 }
 
-void Boxes::expect(const QString &text, int answer, std::function<void()> meanwhile) {
-    mExpected.push_back({text, {}, -1, answer, std::move(meanwhile)});
-}
-
-void Boxes::expect(const QString &text, const QString &title, int flags, int answer) {
-    mExpected.push_back({text, title, flags, answer, {}});
-}
-
-void Boxes::expectNext(const QString &text, const QString &title, int flags, int answer,
-                       std::function<void()> meanwhile) {
-    mExpected.push_back({text, title, flags, answer, std::move(meanwhile), true});
+void Boxes::expect(const QString &text, const QString &title, int flags, int answer,
+                   std::function<void()> meanwhile) {
+    mExpected.push_back({text, title, flags, answer, std::move(meanwhile)});
 }
 
 void Boxes::allow(const QString &text, int answer) {
@@ -46,15 +37,9 @@ void Boxes::allow(const QString &text, int answer) {
 
 int Boxes::answer(const platform::Box &box) {
     mSeen.push_back(box);
-    const auto due = [&] {
-        bool first = true; // of those in order
-        return std::find_if(mExpected.begin(), mExpected.end(), [&](const Expected &awaited) {
-            return (!awaited.inOrder || std::exchange(first, false)) && awaited.matches(box);
-        });
-    }();
-    if (due != mExpected.end()) {
-        const Expected expected = *due;
-        mExpected.erase(due);
+    if (!mExpected.empty() && mExpected.front().matches(box)) {
+        const Expected expected = mExpected.front();
+        mExpected.pop_front();
         if (expected.flags >= 0) {
             EXPECT_EQ(box.flags, expected.flags) << box.text;
             EXPECT_EQ(box.title, expected.title);

@@ -19,21 +19,15 @@ class Boxes {
     Boxes(const Boxes &) = delete;
     Boxes &operator=(const Boxes &) = delete;
 
-    /// This box comes next, after those that are expected so before it. `meanwhile` runs while it
-    /// is open. A text with a "…" at its end needs to begin the box's own.
-    void expectNext(const QString &text, const QString &title, int flags, int answer = platform::OK,
-                    std::function<void()> meanwhile = {});
-    /// In any order; what remains of these becomes expectNext.
-    void expect(const QString &text, int answer = platform::OK,
+    /// This box comes next, after those that are expected before it. `meanwhile` runs while it is
+    /// open. A text with a "…" at its end needs to begin the box's own; flags below 0 are not
+    /// looked at, nor the title then.
+    void expect(const QString &text, const QString &title, int flags, int answer = platform::OK,
                 std::function<void()> meanwhile = {});
-    /// The same with everything that a person sees.
-    void expect(const QString &text, const QString &title, int flags, int answer = platform::OK);
     /// This box may come any number of times.
     void allow(const QString &text, int answer = platform::OK);
 
     const std::vector<platform::Box> &seen() const { return mSeen; }
-    /// How many boxes came so far.
-    size_t count() const { return mSeen.size(); }
     bool allCame() const { return mExpected.empty(); }
     /// Each expected one that has not come by now fails the test, and is awaited no more.
     void expectAllCame();
@@ -45,7 +39,6 @@ class Boxes {
         int flags = -1;
         int answer = platform::OK;
         std::function<void()> meanwhile;
-        bool inOrder = false;
         bool matches(const platform::Box &box) const;
     };
     int answer(const platform::Box &box);

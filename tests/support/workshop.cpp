@@ -135,8 +135,8 @@ std::pair<KnownBox, QString> known(const QString &written) {
 
 void Workshop::expectKnown(const QString &key, int answer, std::function<void()> meanwhile) {
     const auto [box, text] = known(key);
-    boxes.expectNext(text, inSprache({box.title, box.titleEnglish}), box.flags, answer,
-                     std::move(meanwhile));
+    boxes.expect(text, inSprache({box.title, box.titleEnglish}), box.flags, answer,
+                 std::move(meanwhile));
 }
 
 void Workshop::allowKnown(const QString &key, int answer) {
