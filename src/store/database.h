@@ -44,8 +44,8 @@ class Datenbank {
     Recordset open(const QString &sql, const Params &params = {});
     /// Writes and answers how many rows were touched. Raises DuplicateKey besides those of open().
     int execute(const QString &sql, const Params &params = {});
-    /// Runs statements of which all hold or none; they hold no second of these. What they raise goes
-    /// on to the caller.
+    /// Runs statements of which all hold or none; they hold no second of these. What they raise
+    /// goes on to the caller.
     void together(const std::function<void()> &statements);
 
   private:
