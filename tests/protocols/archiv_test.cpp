@@ -47,6 +47,7 @@ TEST_F(Archiv, AFreedNumberMeetsNoForeignRows) {
     fnc_Archivieren();
     gDatenbank.execute("DELETE FROM Protokoll"); // the head alone
     messwert(6);                                 // left over by a move that failed
+    gDatenbank.execute("INSERT INTO Messwerte (ProtokollID, Prüfschritt) VALUES (6, 'alt')");
     for (const QString tabelle : {"SecControl_temp", "Blutdruck_temp"})
         gDatenbank.execute("INSERT INTO " + tabelle + " (ProtokollID) VALUES (6)");
     ASSERT_EQ(nächsteProtokollNr(), 6);

@@ -103,7 +103,7 @@ JOURNEY_P(ProtokollDialog, ExistingProtocol) {
         cmbVorhanden = 3 ; cmbVorhanden ! ; cmbVorhanden = 1 ; ? noProtocol ; pbok ; cannot pbok
         number == 4 ; outcome == open 6 new 0 Messen.
         sql SELECT * FROM Protokoll_temp WHERE Drehrichtung = 1 ==
-        cmbVorhanden > 2 - A ; pbok ; @Messfenster ; number == 2
+        cmbVorhanden > 2 - A ; cmbVorhanden = 2 ; pbok ; @Messfenster ; number == 2
         outcome == over 0 new 1 Messen       Prüfprotokoll: 2 - A. | over 0 new 1 Messen       Test Protocol: 2 - A.
         sql SELECT ProtokollID FROM Protokoll_temp WHERE Drehrichtung = 1 == 2)");
 }
