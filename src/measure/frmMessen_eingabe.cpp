@@ -10,7 +10,6 @@
 #include "session.h"
 #include "sollwert.h"
 #include "sprache.h"
-#include "sqltext.h"
 #include "waiting.h"
 
 using namespace platform;
@@ -28,12 +27,6 @@ bool isEither(const QString &text, const Text &words) {
 }
 
 } // namespace
-
-double boxWert(const QLineEdit *box) {
-    QString text = box->text();
-    fnc_KommaZuPunkt(text);
-    return Val(text);
-}
 
 void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbAusführen, [this] { pbAusführen_Click(); });

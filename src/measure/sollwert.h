@@ -8,5 +8,6 @@
 inline const Text drehzahlAußerhalb{"Drehzahl liegt außerhalb des gültigen Bereiches",
                                     "The permissible number of revolutions has been exeeded!"};
 
-/// The number that goes to the controller for the text of a box.
+/// The number that goes to the controller for the text of a box, with comma or point; 0 for no
+/// number.
 double boxWert(const QLineEdit *box);
