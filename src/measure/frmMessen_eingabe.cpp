@@ -116,7 +116,7 @@ void frmMessen::fnc_MesswerteLeeren() {
 }
 
 bool frmMessen::fnc_DrehmomentPrüfen() {
-    if (drehmoment(boxWert(ui.txtSoll_n), boxWert(ui.txtSoll_P)) <= grenzDrehmoment)
+    if (drehmoment(boxWert(ui.txtSoll_n->text()), boxWert(ui.txtSoll_P->text())) <= grenzDrehmoment)
         return true;
     meldung({"Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!",
              "The permissible torque has been exeeded!\r\nPlease enter other values!"},
@@ -126,7 +126,7 @@ bool frmMessen::fnc_DrehmomentPrüfen() {
 }
 
 void frmMessen::korrigieren(double schritt) {
-    const double neu = boxWert(ui.txtSoll_n) + schritt;
+    const double neu = boxWert(ui.txtSoll_n->text()) + schritt;
     if (mBasisDrehzahl != 0 && !freieEingabe()) // the factor is one of the steps of the recipe
         korrFSetzen(neu / mBasisDrehzahl);
     ui.txtSoll_n->setText(CStr(neu));

@@ -116,7 +116,7 @@ void frmMessen::motorAbschalten() {
 }
 
 bool frmMessen::sollwertZulässig() const {
-    const double drehzahl = boxWert(ui.txtSoll_n);
+    const double drehzahl = boxWert(ui.txtSoll_n->text());
     return drehzahl >= 0 && drehzahl <= höchsterSollwert;
 }
 

@@ -3,8 +3,7 @@
 #include "runtime.h"
 #include "sqltext.h"
 
-double boxWert(const QLineEdit *box) {
-    QString text = box->text();
+double boxWert(QString text) {
     fnc_KommaZuPunkt(text);
     return Val(text);
 }

@@ -1,7 +1,7 @@
-// What the set-point boxes of the measurement screen have in common.
+// What the set-point boxes of the measurement screen have in common. No widget.
 #pragma once
 
-#include <QLineEdit>
+#include <QString>
 
 #include "fehler.h"
 
@@ -10,4 +10,4 @@ inline const Text drehzahlAußerhalb{"Drehzahl liegt außerhalb des gültigen Be
 
 /// The number that goes to the controller for the text of a box, with comma or point; 0 for no
 /// number.
-double boxWert(const QLineEdit *box);
+double boxWert(QString text);
