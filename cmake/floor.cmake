@@ -10,4 +10,5 @@ function(add_floor name)
         "${CMAKE_CURRENT_SOURCE_DIR}"
         "${CMAKE_CURRENT_BINARY_DIR}/${name}_autogen/include") # ui_*.h of the floor's screens
     target_link_libraries(${name} PUBLIC ${ARGN} PRIVATE warnings)
+    precompile(${name})
 endfunction()
