@@ -1,6 +1,8 @@
 // Renders every screen with demo data in both languages to PNG: gallery [DIR] (default gallery/).
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QTest>
 
 #include <cstdio>
 

@@ -1,14 +1,9 @@
 // Takes the main job by itself, in real time, against the stand behind COM1 of the current
 // directory: from the login to a recipe whose steps stand judged in the database. Leaves a picture
 // of each screen in tour/ and prints the stored rows. Ends with 1 when a station is not reached.
-#include <QAbstractButton>
 #include <QApplication>
-#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
-#include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 
 #include <cmath>
 #include <cstdio>
@@ -17,46 +12,16 @@
 #include "clock.h"
 #include "database.h"
 #include "msgbox.h"
+#include "operate.h"
 #include "runtime.h"
-#include "screens.h"
 #include "session.h"
 #include "start.h"
 
 namespace {
 
+using namespace operate;
+
 constexpr int longestWait = 60'000; // ms for one station: two six-round frames at 60 1/min and more
-
-template <class Control>
-Control *control(frm name, const char *which) {
-    return loaded(name)->findChild<Control *>(which);
-}
-
-bool inFront(frm name) {
-    return loaded(name) && platform::frontScreen() == loaded(name);
-}
-
-bool canPress(frm name, const char *which) {
-    return inFront(name) && loaded(name)->usable() &&
-           control<QAbstractButton>(name, which)->isEnabled();
-}
-
-void press(frm name, const char *which) {
-    control<QAbstractButton>(name, which)->click();
-}
-
-void type(frm name, const char *which, const QString &keys) {
-    auto *box = control<QWidget>(name, which);
-    box->setFocus();
-    for (const QChar key : keys) {
-        QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, QString(key));
-        QApplication::sendEvent(box, &event);
-    }
-}
-
-void enter(frm name, const char *which) {
-    QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r");
-    QApplication::sendEvent(control<QWidget>(name, which), &event);
-}
 
 struct Station {
     const char *name;
@@ -72,10 +37,9 @@ std::vector<Station> stations() {
     // The step is shown and the motor has followed to its speed.
     const auto settled = [](const char *wanted) {
         const auto number = [](const char *box) {
-            return Val(control<QLineEdit>(frm::Messen, box)->text().replace(',', '.'));
+            return Val(text(frm::Messen, box).replace(',', '.'));
         };
-        return inFront(frm::Messen) &&
-               control<QLabel>(frm::Messen, "laPrSchritt")->text() == wanted &&
+        return inFront(frm::Messen) && text(frm::Messen, "laPrSchritt") == wanted &&
                std::fabs(number("txtIST_n_torvena") - number("txtSoll_n")) < 0.5;
     };
     const auto step = [settled](const char *wanted) {

@@ -150,6 +150,20 @@ void Datenbank::createFile(const QString &path, const std::vector<QString> &scri
     });
 }
 
+bool fnc_DateiGeöffnet(const QString &path) {
+    if (!QFileInfo::exists(path)) {
+        throw Fehler(fehlernummer::FileNotFound, {"Die Datei " + path + " wurde nicht gefunden.",
+                                                  "The file " + path + " was not found."});
+    }
+    return translated([&] {
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
+        const int came = database.tryExec("BEGIN EXCLUSIVE; ROLLBACK");
+        if (came != SQLITE_OK && came != SQLITE_BUSY)
+            throw SQLite::Exception(database.getHandle(), came);
+        return came == SQLITE_BUSY;
+    });
+}
+
 void Datenbank::close() {
     mDatabase.reset();
 }

@@ -61,6 +61,11 @@ extern Datenbank gDatenbank;
 /// Name of the database in use, in the current directory.
 inline constexpr const char *datenbankName = "torvena470.mdb";
 
+/// True when somebody holds the database at this path so that it cannot be had alone; an open one
+/// at rest does not. Raises FileNotFound for a missing file, and what else keeps it from being
+/// opened.
+bool fnc_DateiGeöffnet(const QString &path);
+
 /// Opens the database of the current directory into gDatenbank. What fails is shown in a box, not
 /// raised; on another try not again, if it fails as before. Answers 0 always.
 std::int16_t fnc_DatenbankÖffnen(bool nochEinmal = false);

@@ -1,17 +1,8 @@
 #include "sqltext.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QRegularExpression>
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <utility>
-
-#include "fehler.h"
-
-using namespace platform;
 
 QString musterAusdruck(const QString &muster) {
     QString expression;
@@ -72,40 +63,4 @@ void fnc_KommaZuPunkt(QString &text) {
 
 QString fnc_OhnePunkt(const QString &text) {
     return QString(text).remove('.');
-}
-
-namespace {
-
-class OpenFile {
-  public:
-    explicit OpenFile(const QString &path)
-        : mDescriptor(::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC)) {}
-    ~OpenFile() {
-        if (mDescriptor >= 0)
-            ::close(mDescriptor);
-    }
-    OpenFile(const OpenFile &) = delete;
-    OpenFile &operator=(const OpenFile &) = delete;
-    bool ok() const { return mDescriptor >= 0; }
-    /// Whether another process holds a lock on any byte, as the database engine does while in use.
-    bool lockedByAnother() const {
-        struct flock lock = {};
-        lock.l_type = F_WRLCK;
-        lock.l_whence = SEEK_SET;
-        return ::fcntl(mDescriptor, F_GETLK, &lock) == 0 && lock.l_type != F_UNLCK;
-    }
-
-  private:
-    int mDescriptor;
-};
-
-} // namespace
-
-bool fnc_DateiGeöffnet(const QString &path) {
-    if (!QFileInfo::exists(path)) {
-        throw Fehler(fehlernummer::FileNotFound, {"Die Datei " + path + " wurde nicht gefunden.",
-                                                  "The file " + path + " was not found."});
-    }
-    const OpenFile file(path);
-    return !file.ok() || file.lockedByAnother();
 }

@@ -22,7 +22,3 @@ void fnc_KommaZuPunkt(QString &text);
 
 /// The text without any ".".
 QString fnc_OhnePunkt(const QString &text);
-
-/// True when another program holds the file so that it cannot be opened for exclusive use. Any
-/// other failure than PermissionDenied is raised: FileNotFound for a missing file.
-bool fnc_DateiGeöffnet(const QString &path);

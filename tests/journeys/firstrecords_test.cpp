@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QPointer>
 
+#include <QTest>
+
 #include "scripts.h"
 #include "workplace.h"
 

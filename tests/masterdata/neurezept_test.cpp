@@ -1,4 +1,6 @@
 // A new recipe: its name, its steps, leaving it, and filling it from another one.
+#include <QTest>
+
 #include "session.h"
 #include "workplace.h"
 

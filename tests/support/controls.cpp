@@ -1,26 +1,13 @@
 #include "controls.h"
 
-#include <QApplication>
+#include <QAction>
 #include <QGroupBox>
 #include <QHeaderView>
-#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 
 namespace support {
-
-void turnTo(const QWidget &control) {
-    QApplication::setActiveWindow(control.window());
-}
-
-void sendKeys(QWidget &target, const QString &keys) {
-    for (const QChar letter : keys) {
-        const int key = letter.unicode() < 128 ? letter.toUpper().unicode() : 0;
-        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
-            QKeyEvent event(type, key, Qt::NoModifier, QString(letter));
-            QApplication::sendEvent(&target, &event);
-        }
-    }
-}
 
 namespace {
 

@@ -2,7 +2,12 @@
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>
+#include <QAction>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
 #include <QRegularExpression>
+#include <QTest>
 #include <QWheelEvent>
 
 #include <cxxabi.h>
@@ -133,14 +138,6 @@ Screen *screenNamed(const QString &name) {
             return screen;
     }
     return nullptr;
-}
-
-QString shownBy(const QObject *object) {
-    if (auto *label = qobject_cast<const QLabel *>(object))
-        return label->text().remove(QChar(0x200B)); // places to break a long word
-    if (auto *combo = qobject_cast<const QComboBox *>(object))
-        return combo->currentText();
-    return object->property("text").toString();
 }
 
 QString rowsOf(const QObject *object) {

@@ -59,8 +59,6 @@ class Way : public Workshop {
 
 /// The first screen whose class is frm and this name; null when none is loaded.
 Screen *screenNamed(const QString &name);
-/// What a box, label or button shows.
-QString shownBy(const QObject *object);
 /// The rows of a list or grid, "a|b+c|d".
 QString rowsOf(const QObject *object);
 
