@@ -7,9 +7,9 @@
 
 #include "counting.h"
 #include "figures.h"
-#include "frames.h"
-#include "sechsrunden.h"
-#include "statik.h"
+#include "link/frames.h"
+#include "measure/sechsrunden.h"
+#include "measure/statik.h"
 
 namespace {
 

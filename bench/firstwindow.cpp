@@ -11,10 +11,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "app/start.h"
 #include "figures.h"
 #include "largedatabase.h"
-#include "screens.h"
-#include "start.h"
+#include "session/screens.h"
 
 namespace {
 

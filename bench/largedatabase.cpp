@@ -5,8 +5,8 @@
 
 #include <cstdio>
 
-#include "database.h"
-#include "scripts.h"
+#include "store/database.h"
+#include "store/scripts.h"
 
 namespace bench {
 

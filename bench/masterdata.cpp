@@ -1,10 +1,13 @@
 // Opening the master data screens and typing into their search boxes, with everything painted.
+#include <QComboBox>
+#include <QTest>
+
 #include <algorithm>
 #include <memory>
 
 #include "figures.h"
 #include "largeplace.h"
-#include "session.h"
+#include "session/session.h"
 
 namespace {
 

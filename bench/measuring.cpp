@@ -12,13 +12,13 @@
 
 #include <sys/resource.h>
 
-#include "clock.h"
+#include "app/start.h"
 #include "controls.h"
 #include "fastline.h"
 #include "figures.h"
 #include "largedatabase.h"
-#include "msgbox.h"
-#include "start.h"
+#include "platform/clock.h"
+#include "windows/msgbox.h"
 #include "workplace.h"
 
 namespace {

@@ -1,10 +1,10 @@
 // From the button that saves a step to the row on disk, on the real measurement screen.
-#include "controller.h"
 #include "counting.h"
 #include "figures.h"
 #include "largeplace.h"
-#include "protokollnummer.h"
-#include "session.h"
+#include "link/controller.h"
+#include "records/protokollnummer.h"
+#include "session/session.h"
 
 namespace {
 

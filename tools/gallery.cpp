@@ -6,7 +6,7 @@
 
 #include <cstdio>
 
-#include "session.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {
@@ -36,11 +36,11 @@ class Gallery : public Workplace {
     }
 
     Journey opened(frm name, const char *pictureName) {
-        screen(name).show();
+        form(name).show();
         co_await until(pictureName, [name] { return inFront(name); });
         co_await pass(50);
         picture(pictureName);
-        screen(name).unload();
+        form(name).unload();
     }
 
     /// Opened from another screen by its button, and left by its own.
@@ -110,7 +110,7 @@ class Gallery : public Workplace {
         co_await arrive(frm::Rezepte);
         press(frm::Rezepte, "pbexit");
         co_await arrive(frm::Desktop);
-        gDesktopFolge = 0;
+        gDesktopFolge = {};
     }
 
     Journey rounds() {
@@ -127,8 +127,8 @@ class Gallery : public Workplace {
         co_await opened(frm::Einlaufen, "einlaufen");
         co_await opened(frm::Meldung1, "meldung1");
         co_await opened(frm::ProtokollNr_1, "protokollnr_1");
-        gMessStatus = 6; // that dialog was left without a protocol
-        gDesktopFolge = 0;
+        gMessStatus = Messstatus::Ruhe; // that dialog was left without a protocol
+        gDesktopFolge = {};
 
         co_await masterData();
         const DemoNames names;

@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "screens.h"
+#include "session/screens.h"
 
 namespace operate {
 

@@ -9,13 +9,13 @@
 #include <cstdio>
 #include <vector>
 
-#include "clock.h"
-#include "database.h"
-#include "msgbox.h"
+#include "app/start.h"
 #include "operate.h"
-#include "runtime.h"
-#include "session.h"
-#include "start.h"
+#include "platform/clock.h"
+#include "platform/runtime.h"
+#include "session/session.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "frmDesktop.h"
+#include "app/frmDesktop.h"
 
 #include <QCoreApplication>
 #include <QDesktopServices>
@@ -6,19 +6,20 @@
 #include <QKeyEvent>
 #include <QUrl>
 
-#include "auswahl.h"
-#include "controller.h"
-#include "database.h"
-#include "einlauf.h"
-#include "fehler.h"
-#include "interface.h"
-#include "msgbox.h"
-#include "normal.h"
-#include "runtime.h"
-#include "session.h"
-#include "sprache.h"
-#include "sqltext.h"
-#include "system.h"
+#include "app/datenbank.h"
+#include "link/controller.h"
+#include "link/einlauf.h"
+#include "link/interface.h"
+#include "platform/fehler.h"
+#include "platform/runtime.h"
+#include "records/normal.h"
+#include "records/system.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "store/sqltext.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -90,13 +91,13 @@ frmDesktop::frmDesktop()
                     }) {
     ui.setupUi(this);
     verdrahten();
-    enterFront(*this);
+    enterMotorfenster(*this);
     setAuswahlListener([this] { auswahlZeigen(); }, [this] { DesktopButton_Freigeben(); });
 }
 
 frmDesktop::~frmDesktop() {
     setAuswahlListener({}, {});
-    leaveFront(*this);
+    leaveMotorfenster(*this);
 }
 
 // A button and a menu entry for the same; both stay disabled while the screen they lead to does not
@@ -106,7 +107,7 @@ void frmDesktop::öffnet(QPushButton *button, QAction *action, frm ziel, void (f
         if (weg)
             (this->*weg)();
         else
-            ::screen(ziel).showModal();
+            form(ziel).showModal();
     };
     if (button) {
         onClick(button, öffnen);
@@ -169,7 +170,7 @@ void frmDesktop::Form_Load() try {
     ui.Label12->setText(gProduktTitel);
     gDesktopAktiv = true;
     gMotorEin = false;
-    gFormStatus = 0;
+    gFormStatus = Formstatus::Keiner;
     gEingelaufen = false;
     ui.txtPrüfer->setText(gPrüfer);
     gEPModus = false;
@@ -282,31 +283,31 @@ void frmDesktop::spracheSetzen(std::int16_t sprache) {
 
 void frmDesktop::Form_Activate() {
     datumZeigen(datumText(now().date()));
-    if (gMessStatus == messstatus::Ende || gMessStatus == messstatus::Verweigert)
+    if (gMessStatus == Messstatus::Ende || gMessStatus == Messstatus::Verweigert)
         ui.pbDrehR->setEnabled(false);
-    switch (std::exchange(gDesktopFolge, std::int16_t{0})) {
-    case desktopfolge::Gerät:
+    switch (std::exchange(gDesktopFolge, Desktopfolge::Nichts)) {
+    case Desktopfolge::Gerät:
         mnuGerät_Click();
         break;
-    case desktopfolge::Rezept:
+    case Desktopfolge::Rezept:
         mnuRezept_Click();
         break;
-    case desktopfolge::Korrektur:
-        gEinlaufStatus = einlaufstatus::NichtBegonnen;
-        ::screen(frm::StatMessen).showModal();
+    case Desktopfolge::Korrektur:
+        gEinlaufStatus = Einlaufstatus::NichtBegonnen;
+        form(frm::StatMessen).showModal();
         break;
-    case desktopfolge::Messen:
+    case Desktopfolge::Messen:
         pbMessen_Click();
         break;
-    case desktopfolge::Bericht:
+    case Desktopfolge::Bericht:
         if (exists(frm::Bericht))
-            ::screen(frm::Bericht).showModal();
+            form(frm::Bericht).showModal();
         break;
     default:
         break;
     }
-    gFormStatus = formstatus::Keiner;
-    gDesktopFolge = desktopfolge::Nichts;
+    gFormStatus = Formstatus::Keiner;
+    gDesktopFolge = Desktopfolge::Nichts;
     if (gUpdateBeimBeenden)
         ui.pbBeenden->click();
 }
@@ -345,10 +346,10 @@ void frmDesktop::mnuGerät_Click() try {
     const Recordset rows =
         gDatenbank.open("SELECT Gerätetyp FROM Ergometer WHERE KundenID = ? LIMIT 1", {gKundenID});
     if (!rows.empty()) {
-        ::screen(frm::Gerät).showModal();
+        form(frm::Gerät).showModal();
     } else {
         gNeuModus = true;
-        Screen &neu = ::screen(frm::NeuGerät);
+        Screen &neu = form(frm::NeuGerät);
         neu.showInfo(inSprache({"Noch kein Gerät vorhanden!", "No Units existent yet!"}));
         neu.showModal();
     }
@@ -358,16 +359,16 @@ void frmDesktop::mnuGerät_Click() try {
 
 void frmDesktop::mnuRezept_Click() {
     gRezeptAufruf = true;
-    ::screen(frm::Rezepte).showModal();
+    form(frm::Rezepte).showModal();
 }
 
 void frmDesktop::mnuRezepte_Click() try {
     gRezeptAufruf = false;
     if (gDatenbank.open("SELECT RezName FROM Rezeptnamen").empty()) {
         gNeuModus = true;
-        ::screen(frm::NeuRezept).showModal();
+        form(frm::NeuRezept).showModal();
     } else {
-        ::screen(frm::Rezepte).showModal();
+        form(frm::Rezepte).showModal();
     }
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 6001 - ", "ERROR 6001 - ", fehler);
@@ -375,8 +376,8 @@ void frmDesktop::mnuRezepte_Click() try {
 
 void frmDesktop::mnuKalibrierung_Click() {
     if (gDrehrichtung > 0)
-        gFormStatus = formstatus::RichtungFehlt;
-    ::screen(frm::Kalibrierung).showModal();
+        gFormStatus = Formstatus::RichtungFehlt;
+    form(frm::Kalibrierung).showModal();
 }
 
 void frmDesktop::pbReset_Click() {

@@ -2,12 +2,12 @@
 // else. Screens report back through session variables, which the activation here reads.
 #pragma once
 
-#include "front.h"
-#include "screens.h"
-#include "seriennummer.h"
+#include "app/seriennummer.h"
+#include "session/motorfenster.h"
+#include "session/screens.h"
 #include "ui_frmDesktop.h"
 
-class frmDesktop : public Screen, public Front {
+class frmDesktop : public Screen, public Motorfenster {
   public:
     static constexpr frm id = frm::Desktop;
     frmDesktop();
@@ -18,7 +18,7 @@ class frmDesktop : public Screen, public Front {
     /// Asks the instrument for its serial number and takes its calibration data.
     void Seriennummer_ermitteln() { mSeriennummer.Seriennummer_ermitteln(); }
 
-    // Front
+    // Motorfenster
     void setMoteinEnabled(bool enabled) override;
     void setMotausEnabled(bool enabled) override { ui.pbMotaus->setEnabled(enabled); }
     void setDrehREnabled(bool enabled) override { ui.pbDrehR->setEnabled(enabled); }

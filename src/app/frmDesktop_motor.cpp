@@ -1,13 +1,13 @@
 // Motor on and off, and the preconditions of a measurement.
-#include "frmDesktop.h"
+#include "app/frmDesktop.h"
 
-#include "controller.h"
-#include "einlauf.h"
-#include "fehler.h"
-#include "interface.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "link/controller.h"
+#include "link/einlauf.h"
+#include "link/interface.h"
+#include "platform/fehler.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -18,7 +18,7 @@ void frmDesktop::pbMotein_Click() try {
                  "Einstellungen!",
                  "The interface settings do not exist . \rPlease correct it!"},
                 Exclamation, {"Achtung!", "Attention!"});
-        ::screen(frm::Interface).showModal();
+        form(frm::Interface).showModal();
         return;
     }
     einlaufzeitSetzen();
@@ -62,7 +62,7 @@ void frmDesktop::pbMotaus_Click() try {
         showMotorInfo(inSprache({"Motor ist ausgeschaltet", "Motor is switched off"}));
         tiEinlauf.setEnabled(false);
         motorzeitMerken();
-        gMessStatus = messstatus::Ruhe;
+        gMessStatus = Messstatus::Ruhe;
     } else {
         meldung({"Fehler", "Error"}, Exclamation, {"Motor aus", "Motor Off"});
         ui.pbMotein->setEnabled(false);
@@ -78,7 +78,7 @@ void frmDesktop::pbMotaus_Click() try {
 
 void frmDesktop::pbMessen_Click() {
     gMessenFreigabe = true;
-    gMessStatus = messstatus::Ruhe;
+    gMessStatus = Messstatus::Ruhe;
     if (!gEingelaufen) {
         const int antwort = meldung(
             {"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
@@ -96,12 +96,12 @@ void frmDesktop::pbMessen_Click() {
                  "Please select a direction of rotation for the motor first!"},
                 Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
         gMessenFreigabe = true;
-        ::screen(frm::MotorDrehR).showModal();
+        form(frm::MotorDrehR).showModal();
         return;
     }
-    gEinlaufStatus = einlaufstatus::NichtBegonnen;
+    gEinlaufStatus = Einlaufstatus::NichtBegonnen;
     tiEinlauf.setEnabled(false);
     gRestMinuten = gEinlaufzeit;
     gEingelaufen = true;
-    ::screen(frm::StatMessen).showModal();
+    form(frm::StatMessen).showModal();
 }

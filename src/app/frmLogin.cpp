@@ -1,11 +1,11 @@
-#include "frmLogin.h"
+#include "app/frmLogin.h"
 
 #include <QCoreApplication>
 #include <QShortcut>
 
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 namespace {
 constexpr Beschriftung english[] = {
@@ -27,7 +27,7 @@ void frmLogin::Form_Load() {
     if (gSprache == 1)
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
-    ::screen(frm::Splash).disable();
+    form(frm::Splash).disable();
     ui.txtUserName->setFocus();
 }
 
@@ -53,7 +53,7 @@ void frmLogin::pbok_Click() {
     if (Screen *splash = loaded(frm::Splash))
         splash->unload();
     unload();
-    ::screen(frm::Desktop).show();
+    form(frm::Desktop).show();
 }
 
 void frmLogin::pbCancel_Click() {

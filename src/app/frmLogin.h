@@ -1,7 +1,7 @@
 // Asks for the inspector's name.
 #pragma once
 
-#include "screens.h"
+#include "session/screens.h"
 #include "ui_frmLogin.h"
 
 class frmLogin : public Screen {

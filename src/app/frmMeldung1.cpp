@@ -1,6 +1,6 @@
-#include "frmMeldung1.h"
+#include "app/frmMeldung1.h"
 
-#include "sprache.h"
+#include "session/sprache.h"
 
 frmMeldung1::frmMeldung1() {
     ui.setupUi(this);

@@ -1,8 +1,8 @@
 // The notice that the running-in time is over. Closes by itself; nothing depends on it.
 #pragma once
 
-#include "clock.h"
-#include "screens.h"
+#include "platform/clock.h"
+#include "session/screens.h"
 #include "ui_frmMeldung1.h"
 
 class frmMeldung1 : public Screen {

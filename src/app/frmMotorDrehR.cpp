@@ -1,9 +1,9 @@
-#include "frmMotorDrehR.h"
+#include "app/frmMotorDrehR.h"
 
-#include "front.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "session/motorfenster.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 namespace {
 
@@ -32,7 +32,7 @@ void frmMotorDrehR::Form_Load() {
     if (gSprache == 1)
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
-    front().disableFront();
+    motorfenster().disableFront();
     mVorher = gDrehrichtung;
     // Two options of which none is chosen yet.
     ui.obRechts->setAutoExclusive(false);
@@ -56,7 +56,7 @@ void frmMotorDrehR::Form_Unload() {
         gMessenFreigabe = false;
         gDrehrichtung = mVorher;
     }
-    front().enableFront();
+    motorfenster().enableFront();
 }
 
 void frmMotorDrehR::wählen(std::int16_t richtung) {
@@ -70,18 +70,15 @@ void frmMotorDrehR::wählen(std::int16_t richtung) {
 
 void frmMotorDrehR::pbok_Click() {
     mEntschieden = true;
-    const QString wort = inSprache(gDrehrichtung == Rechtslauf ? Text{"Rechtslauf", "Right"}
-                                                               : Text{"Linkslauf", "Left"});
-    front().showDrehrichtung(wort);
-    if (gFormStatus != formstatus::Keiner) {
-        gFormStatus = formstatus::Einlaufen;
-        if (Screen *kalibrierung = loaded(frm::Kalibrierung))
-            kalibrierung->showInfo(wort);
+    drehrichtungZeigen(inSprache(gDrehrichtung == Rechtslauf ? Text{"Rechtslauf", "Right"}
+                                                             : Text{"Linkslauf", "Left"}));
+    if (gFormStatus != Formstatus::Keiner) {
+        gFormStatus = Formstatus::Einlaufen;
     } else {
-        front().setDrehREnabled(true);
-        front().setMoteinEnabled(true);
+        motorfenster().setDrehREnabled(true);
+        motorfenster().setMoteinEnabled(true);
         if (gMessenFreigabe)
-            gDesktopFolge = desktopfolge::Korrektur;
+            gDesktopFolge = Desktopfolge::Korrektur;
     }
     unload();
 }
@@ -89,8 +86,8 @@ void frmMotorDrehR::pbok_Click() {
 void frmMotorDrehR::pbAbbrechen_Click() {
     mEntschieden = true;
     gDrehrichtung = Keine;
-    front().showDrehrichtung({}); // what the box says holds: the motor cannot be switched on
-    front().setMoteinEnabled(false);
+    drehrichtungZeigen({}); // what the box says holds: the motor cannot be switched on
+    motorfenster().setMoteinEnabled(false);
     meldung({"Sie haben keine Drehrichtung gewählt!\r\nDer Motor kann nicht eingeschaltet werden.",
              "Please select a direction of rotation for the motor!\r\n"
              "It is not possible to switch the motor on."},

@@ -1,7 +1,7 @@
 // Choice of the motor's direction of rotation.
 #pragma once
 
-#include "screens.h"
+#include "session/screens.h"
 #include "ui_frmMotorDrehR.h"
 
 class frmMotorDrehR : public Screen {

@@ -1,10 +1,10 @@
-#include "frmSplash.h"
+#include "app/frmSplash.h"
 
-#include "database.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
-#include "system.h"
+#include "app/datenbank.h"
+#include "records/system.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 frmSplash::frmSplash() {
     ui.setupUi(this);
@@ -43,9 +43,9 @@ bool frmSplash::Form_QueryUnload() {
 void frmSplash::tiFormVisible_Timer() {
     tiFormVisible.setEnabled(false);
     try {
-        ::screen(frm::Login).show();
+        form(frm::Login).show();
     } catch (const Fehler &fehler) {
         if (fehler.number() == platform::fehlernummer::NoSuchScreen)
-            ::screen(frm::Login).show();
+            form(frm::Login).show();
     }
 }

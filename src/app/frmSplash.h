@@ -1,8 +1,8 @@
 // The first screen: opens the database, reads the settings of the system, leads to the login.
 #pragma once
 
-#include "clock.h"
-#include "screens.h"
+#include "platform/clock.h"
+#include "session/screens.h"
 #include "ui_frmSplash.h"
 
 class frmSplash : public Screen {

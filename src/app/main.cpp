@@ -5,7 +5,7 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include "start.h"
+#include "app/start.h"
 
 namespace {
 

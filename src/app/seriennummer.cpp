@@ -1,15 +1,28 @@
-#include "seriennummer.h"
+#include "app/seriennummer.h"
 
-#include "controller.h"
-#include "fehler.h"
-#include "interface.h"
-#include "msgbox.h"
-#include "normal.h"
-#include "screen.h"
-#include "session.h"
-#include "sprache.h"
+#include "link/controller.h"
+#include "link/interface.h"
+#include "platform/fehler.h"
+#include "platform/guard.h"
+#include "records/normal.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
+
+namespace {
+
+bool fnc_NormalDatenLesen() {
+    if (normalDatenLesen())
+        return true;
+    meldung({"Es existieren keine Kalibrierdaten zu diesem Gerät in der verwendeten Datenbank!",
+             "There are no calibration data for this device in the database!"},
+            Critical, {"!! Achtung Fehler !!", " !! Attention !!"});
+    return false;
+}
+
+} // namespace
 
 Seriennummer::Seriennummer(std::function<void(const QString &)> info,
                            std::function<void()> gefunden)

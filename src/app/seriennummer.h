@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "clock.h"
+#include "platform/clock.h"
 
 class Seriennummer {
   public:

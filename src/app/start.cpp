@@ -1,17 +1,18 @@
-#include "start.h"
+#include "app/start.h"
 
 #include <QCoreApplication>
 
-#include "controller.h"
-#include "database.h"
-#include "einlauf.h"
-#include "fehler.h"
-#include "messablauf.h"
-#include "msgbox.h"
-#include "screens.h"
-#include "screentable.h"
-#include "session.h"
-#include "sprache.h"
+#include "app/screentable.h"
+#include "link/controller.h"
+#include "link/einlauf.h"
+#include "measure/messablauf.h"
+#include "platform/fehler.h"
+#include "platform/guard.h"
+#include "session/screens.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -60,7 +61,7 @@ void programmStarten() {
     controllerVorbereiten();
     einlaufVorbereiten();
     bindScreens();
-    screen(frm::Splash).show();
+    form(frm::Splash).show();
 }
 
 void beendenOhneFrage() {

@@ -1,15 +1,15 @@
-#include "controller.h"
+#include "link/controller.h"
 
 #include <utility>
 
-#include "fehler.h"
-#include "front.h"
-#include "motorbedienung.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "screens.h"
-#include "session.h"
-#include "sprache.h"
+#include "link/motorbedienung.h"
+#include "platform/fehler.h"
+#include "platform/runtime.h"
+#include "session/motorfenster.h"
+#include "session/screens.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -132,7 +132,7 @@ bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QStr
                          "Communication with the controller is not possible!"},
                         Critical, {"Fehlermeldung", "Error Message"});
             }
-            front().setMoteinEnabled(!gMotorEin);
+            motorfenster().setMoteinEnabled(!gMotorEin);
             return false;
         }
         const bool stop = frame.mid(2) == standstillDigits;
@@ -263,8 +263,8 @@ bool fnc_MotorAus() {
             done = fnc_BefehlSenden("A", gDrehrichtung, "00");
         }
         if (done) {
-            front().setMoteinEnabled(true); // also when it has been off all the time
-            front().setMotausEnabled(false);
+            motorfenster().setMoteinEnabled(true); // also when it has been off all the time
+            motorfenster().setMotausEnabled(false);
             send("-");
             countedDelay(10 * kurzeVerzögerung);
         }
@@ -272,7 +272,7 @@ bool fnc_MotorAus() {
         errorBox("Error 5010-", fehler);
         done = false;
     }
-    front().enableFront();
+    motorfenster().enableFront();
     return done;
 }
 

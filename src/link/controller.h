@@ -7,10 +7,10 @@
 
 #include <cstdint>
 
-#include "clock.h"
-#include "frames.h"
-#include "screen.h"
-#include "serial.h"
+#include "link/frames.h"
+#include "platform/clock.h"
+#include "platform/serial.h"
+#include "windows/screen.h"
 
 extern MSComm MSComm1;
 extern Timer Timer1;     ///< time-out of an exchange; ticks and beeps until disabled

@@ -1,10 +1,10 @@
-#include "einlauf.h"
+#include "link/einlauf.h"
 
-#include "front.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "screens.h"
-#include "session.h"
+#include "platform/runtime.h"
+#include "session/motorfenster.h"
+#include "session/screens.h"
+#include "session/session.h"
+#include "windows/msgbox.h"
 
 Timer tiEinlauf(1000);
 
@@ -20,16 +20,12 @@ void tick() {
     if (over) {
         tiEinlauf.setEnabled(false);
         gEingelaufen = true;
-        if (gFormStatus > 0)
-            gFormStatus = formstatus::Korrektur;
+        if (gFormStatus != Formstatus::Keiner)
+            gFormStatus = Formstatus::Korrektur;
         platform::beep();
-        screen(frm::Meldung1).showNotice();
+        form(frm::Meldung1).showNotice();
     }
-    if (gFormStatus == 0) {
-        front().showEinlauf(gEinlaufRestText);
-    } else if (Screen *calibration = loaded(frm::Kalibrierung)) {
-        calibration->showCountdown(gEinlaufRestText);
-    }
+    einlaufZeigen(gEinlaufRestText);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // Running-in: the countdown behind the motor, shown on the window that runs it.
 #pragma once
 
-#include "clock.h"
+#include "platform/clock.h"
 
 extern Timer tiEinlauf; ///< one tick a second while the countdown runs
 

@@ -1,6 +1,6 @@
-#include "einlaufwert.h"
+#include "link/einlaufwert.h"
 
-#include "runtime.h"
+#include "platform/runtime.h"
 
 std::optional<double> einlaufWert(const QString &text, double grenze) {
     bool numeric = IsNumeric(text);

@@ -1,9 +1,9 @@
-#include "frames.h"
+#include "link/frames.h"
 
-#include "fehler.h"
-#include "runtime.h"
-#include "sprache.h"
-#include "sqltext.h"
+#include "platform/fehler.h"
+#include "platform/runtime.h"
+#include "session/sprache.h"
+#include "store/sqltext.h"
 
 using namespace platform;
 

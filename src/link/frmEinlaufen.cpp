@@ -1,13 +1,13 @@
-#include "frmEinlaufen.h"
+#include "link/frmEinlaufen.h"
 
 #include <QShortcut>
 
-#include "database.h"
-#include "einlaufwert.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sprache.h"
+#include "link/einlaufwert.h"
+#include "platform/runtime.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

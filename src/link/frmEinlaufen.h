@@ -1,7 +1,7 @@
 // Time and load of running-in.
 #pragma once
 
-#include "screens.h"
+#include "session/screens.h"
 #include "ui_frmEinlaufen.h"
 
 class frmEinlaufen : public Screen {

@@ -1,14 +1,14 @@
-#include "frmInterface.h"
+#include "link/frmInterface.h"
 
 #include <QScopeGuard>
 #include <QShortcut>
 
-#include "controller.h"
-#include "interface.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sprache.h"
+#include "link/controller.h"
+#include "link/interface.h"
+#include "platform/runtime.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -161,6 +161,6 @@ void frmInterface::pbok_Click() try {
 }
 
 void frmInterface::pbSS2_Click() {
-    ::screen(frm::SecondInterface).showModal();
+    form(frm::SecondInterface).showModal();
     unload();
 }

@@ -2,7 +2,7 @@
 // once, so it is shown modal and never while an exchange is under way.
 #pragma once
 
-#include "screens.h"
+#include "session/screens.h"
 #include "ui_frmInterface.h"
 
 class frmInterface : public Screen {

@@ -1,9 +1,9 @@
-#include "interface.h"
+#include "link/interface.h"
 
-#include "controller.h"
-#include "database.h"
-#include "runtime.h"
-#include "sprache.h"
+#include "link/controller.h"
+#include "platform/runtime.h"
+#include "session/sprache.h"
+#include "store/database.h"
 
 using namespace platform;
 

@@ -1,7 +1,7 @@
-#include "motorbedienung.h"
+#include "link/motorbedienung.h"
 
-#include "front.h"
-#include "session.h"
+#include "session/motorfenster.h"
+#include "session/session.h"
 
 namespace {
 
@@ -9,8 +9,8 @@ void setzen(bool dreht) {
     if (gMotorEin == dreht)
         return;
     gMotorEin = dreht;
-    front().setMoteinEnabled(!dreht);
-    front().setMotausEnabled(dreht);
+    motorfenster().setMoteinEnabled(!dreht);
+    motorfenster().setMotausEnabled(dreht);
 }
 
 } // namespace

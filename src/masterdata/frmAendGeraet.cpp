@@ -1,10 +1,10 @@
-#include "frmAendGeraet.h"
+#include "masterdata/frmAendGeraet.h"
 
-#include "auswahl.h"
-#include "frmGeraet.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "masterdata/frmGeraet.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 void frmÄndGerät::Form_Load() try {
     setSpeichernEnabled(false);

@@ -1,7 +1,7 @@
 // Changes the unit that the list of units shows.
 #pragma once
 
-#include "geraetemaske.h"
+#include "masterdata/geraetemaske.h"
 
 class frmÄndGerät : public Gerätemaske {
   public:

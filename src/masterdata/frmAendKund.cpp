@@ -1,10 +1,10 @@
-#include "frmAendKund.h"
+#include "masterdata/frmAendKund.h"
 
-#include "auswahl.h"
-#include "frmKunden.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "masterdata/frmKunden.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 void frmÄndKund::Form_Load() try {
     setSpeichernEnabled(false);

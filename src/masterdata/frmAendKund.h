@@ -1,7 +1,7 @@
 // Changes the customer that the list of customers shows.
 #pragma once
 
-#include "kundenmaske.h"
+#include "masterdata/kundenmaske.h"
 
 class frmÄndKund : public Kundenmaske {
   public:

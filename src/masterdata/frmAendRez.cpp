@@ -1,4 +1,4 @@
-#include "frmAendRez.h"
+#include "masterdata/frmAendRez.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -6,15 +6,15 @@
 
 #include <utility>
 
-#include "database.h"
-#include "eintrag.h"
-#include "frmRezepte.h"
-#include "msgbox.h"
-#include "satz.h"
-#include "session.h"
-#include "spalte.h"
-#include "sprache.h"
-#include "umbruch.h"
+#include "controls/eintrag.h"
+#include "controls/umbruch.h"
+#include "masterdata/frmRezepte.h"
+#include "records/satz.h"
+#include "records/spalte.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

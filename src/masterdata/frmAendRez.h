@@ -3,10 +3,10 @@
 // the copy: a new one is written at once and stays.
 #pragma once
 
-#include "pruefschritt.h"
-#include "schrittgitter.h"
-#include "schrittliste.h"
-#include "screens.h"
+#include "controls/schrittgitter.h"
+#include "masterdata/pruefschritt.h"
+#include "records/schrittliste.h"
+#include "session/screens.h"
 #include "ui_frmAendRez.h"
 
 #include <optional>

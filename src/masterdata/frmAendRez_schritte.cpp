@@ -1,11 +1,11 @@
 // Saving, inserting and deleting steps of the working copy, and moving among them.
-#include "frmAendRez.h"
+#include "masterdata/frmAendRez.h"
 
 #include <algorithm>
 
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

@@ -1,4 +1,4 @@
-#include "frmGeraet.h"
+#include "masterdata/frmGeraet.h"
 
 #include <QLineEdit>
 #include <QShortcut>
@@ -7,14 +7,14 @@
 #include <algorithm>
 #include <utility>
 
-#include "auswahl.h"
-#include "database.h"
-#include "msgbox.h"
-#include "schluessel.h"
-#include "session.h"
-#include "spalte.h"
-#include "sprache.h"
-#include "umbruch.h"
+#include "controls/umbruch.h"
+#include "records/schluessel.h"
+#include "records/spalte.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -260,7 +260,7 @@ void frmGerät::pbok_Click() try {
         meldung({"Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
                 YesNo | Question, {"Stammdaten auswählen", "Select Master Data"});
     if (answer == Yes)
-        gDesktopFolge = desktopfolge::Rezept;
+        gDesktopFolge = Desktopfolge::Rezept;
     unload();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1102 - ", "ERROR 1102 - ", fehler);
@@ -276,19 +276,19 @@ bool frmGerät::gerätGezeigt() {
 
 void frmGerät::pbNeu_Click() {
     gNeuModus = false;
-    ::screen(frm::NeuGerät).showModal();
+    form(frm::NeuGerät).showModal();
 }
 
 void frmGerät::pbchange_Click() try {
     if (gerätGezeigt())
-        ::screen(frm::ÄndGerät).showModal();
+        form(frm::ÄndGerät).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1100 - ", "ERROR 1100 - ", fehler);
 }
 
 void frmGerät::pbDelete_Click() try {
     if (gerätGezeigt())
-        ::screen(frm::LöschGerät).showModal();
+        form(frm::LöschGerät).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox({"Fehler 1101 - ", "ERROR 1101 - "}, fehler, {"Achtung Fehler!", "ATTENTION !!"});
 }

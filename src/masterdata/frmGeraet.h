@@ -1,9 +1,9 @@
 // Lists the units of the chosen customer and chooses the one of the session.
 #pragma once
 
-#include "recordset.h"
-#include "session.h"
-#include "suchmaske.h"
+#include "controls/suchmaske.h"
+#include "session/session.h"
+#include "store/recordset.h"
 #include "ui_frmGeraet.h"
 
 class frmGerät : public Suchmaske {

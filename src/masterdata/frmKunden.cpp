@@ -1,4 +1,4 @@
-#include "frmKunden.h"
+#include "masterdata/frmKunden.h"
 
 #include <QLineEdit>
 #include <QShortcut>
@@ -7,14 +7,14 @@
 #include <algorithm>
 #include <utility>
 
-#include "auswahl.h"
-#include "database.h"
-#include "msgbox.h"
-#include "schluessel.h"
-#include "session.h"
-#include "spalte.h"
-#include "sprache.h"
-#include "umbruch.h"
+#include "controls/umbruch.h"
+#include "records/schluessel.h"
+#include "records/spalte.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -100,7 +100,7 @@ bool frmKunden::Form_QueryUnload() {
                                 "Do you want to select a unit for this customer now?"},
                                YesNo | Question, {"Stammdaten auswählen", "Select Master Data"});
     if (answer == Yes)
-        gDesktopFolge = desktopfolge::Gerät;
+        gDesktopFolge = Desktopfolge::Gerät;
     return true;
 }
 
@@ -258,19 +258,19 @@ bool frmKunden::kundeGezeigt() {
 
 void frmKunden::pbNeu_Click() {
     gNeuModus = false;
-    ::screen(frm::NeuKunde).showModal();
+    form(frm::NeuKunde).showModal();
 }
 
 void frmKunden::pbchange_Click() try {
     if (kundeGezeigt())
-        ::screen(frm::ÄndKund).showModal();
+        form(frm::ÄndKund).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1075 - ", "ERROR 1075 - ", fehler);
 }
 
 void frmKunden::pbDelete_Click() try {
     if (kundeGezeigt())
-        ::screen(frm::LöschKunde).showModal();
+        form(frm::LöschKunde).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1076 - ", "ERROR 1076 - ", fehler);
 }

@@ -1,9 +1,9 @@
 // Lists and searches the customers and chooses the one of the session.
 #pragma once
 
-#include "recordset.h"
-#include "session.h"
-#include "suchmaske.h"
+#include "controls/suchmaske.h"
+#include "session/session.h"
+#include "store/recordset.h"
 #include "ui_frmKunden.h"
 
 class frmKunden : public Suchmaske {

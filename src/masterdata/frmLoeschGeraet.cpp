@@ -1,14 +1,14 @@
-#include "frmLoeschGeraet.h"
+#include "masterdata/frmLoeschGeraet.h"
 
 #include <QShortcut>
 
-#include "auswahl.h"
-#include "frmGeraet.h"
-#include "loeschung.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
-#include "umbruch.h"
+#include "controls/umbruch.h"
+#include "masterdata/frmGeraet.h"
+#include "records/loeschung.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 namespace {
 
@@ -48,7 +48,7 @@ void frmLöschGerät::fnc_FrageZeigen() {
     const Schlüssel shown = geräte ? geräte->gerätID() : 0;
     if (shown == 0)
         return;
-    const Text frage = gerätefrage(protokolleZählen(geräteplan, shown), geräte->gerätename());
+    const Text frage = gerätefrage(protokolleZählen(Löschziel::Gerät, shown), geräte->gerätename());
     ui.lbProtocollCount->setText(umbrechbar(inSprache(frage)));
     ui.laIdent->setText(umbrechbar(geräte->identnummer()));
     mGerätID = shown;
@@ -56,7 +56,7 @@ void frmLöschGerät::fnc_FrageZeigen() {
 }
 
 void frmLöschGerät::pbYes_Click() try {
-    löschen(geräteplan, mGerätID, ui.lbProtocollCount);
+    löschen(Löschziel::Gerät, mGerätID, ui.lbProtocollCount);
     meldung({"Daten wurden gelöscht!", "Data have been deleted!"}, platform::Information,
             {"Bestätigung", "Confirmation"});
     if (auto *geräte = loaded<frmGerät>())

@@ -2,8 +2,8 @@
 // protocols.
 #pragma once
 
-#include "loeschabfrage.h"
-#include "session.h"
+#include "masterdata/loeschabfrage.h"
+#include "session/session.h"
 #include "ui_frmLoeschGeraet.h"
 
 class frmLöschGerät : public Löschabfrage {

@@ -1,14 +1,14 @@
-#include "frmLoeschKunde.h"
+#include "masterdata/frmLoeschKunde.h"
 
 #include <QShortcut>
 
-#include "auswahl.h"
-#include "frmKunden.h"
-#include "loeschung.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
-#include "umbruch.h"
+#include "controls/umbruch.h"
+#include "masterdata/frmKunden.h"
+#include "records/loeschung.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 namespace {
 
@@ -49,14 +49,14 @@ void frmLöschKunde::fnc_FrageZeigen() {
         return;
     mGeräte = geräteZählen(shown);
     const Text frage =
-        kundenfrage(mGeräte, protokolleZählen(kundenplan, shown), kunden->kundenname());
+        kundenfrage(mGeräte, protokolleZählen(Löschziel::Kunde, shown), kunden->kundenname());
     ui.lbProtocollCount->setText(umbrechbar(inSprache(frage)));
     mKundenID = shown;
     ui.pbok->setEnabled(true);
 }
 
 void frmLöschKunde::pbok_Click() try {
-    löschen(kundenplan, mKundenID, ui.lbProtocollCount);
+    löschen(Löschziel::Kunde, mKundenID, ui.lbProtocollCount);
     meldung({"Die Daten wurden gelöscht!", "Data have been deleted!"}, platform::Information,
             {"Bestätigung", "Confirmation"});
     if (auto *kunden = loaded<frmKunden>())

@@ -2,8 +2,8 @@
 // its units and protocols.
 #pragma once
 
-#include "loeschabfrage.h"
-#include "session.h"
+#include "masterdata/loeschabfrage.h"
+#include "session/session.h"
 #include "ui_frmLoeschKunde.h"
 
 class frmLöschKunde : public Löschabfrage {

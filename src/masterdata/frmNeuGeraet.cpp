@@ -1,8 +1,8 @@
-#include "frmNeuGeraet.h"
+#include "masterdata/frmNeuGeraet.h"
 
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 void frmNeuGerät::Form_Load() try { vorbereiten(); } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1061 - ", "ERROR 1061 - ", fehler);
@@ -18,7 +18,7 @@ void frmNeuGerät::pbSave_Click() try {
     const Gerätedaten gerät = eingabe();
     gerätEinfügen(gKundenID, gerät);
     if (gNeuModus) // the customer's first: the list of units was skipped, and comes now
-        gDesktopFolge = desktopfolge::Gerät;
+        gDesktopFolge = Desktopfolge::Gerät;
     meldung({"Daten wurden gespeichert!", "Data have been saved!"}, platform::Information,
             {"Bestätigung", "MESSAGE"});
     schließen(gerät.identNr);

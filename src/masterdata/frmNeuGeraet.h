@@ -1,7 +1,7 @@
 // Enters a new unit of the chosen customer.
 #pragma once
 
-#include "geraetemaske.h"
+#include "masterdata/geraetemaske.h"
 
 class frmNeuGerät : public Gerätemaske {
   public:

@@ -1,7 +1,7 @@
-#include "frmNeuKunde.h"
+#include "masterdata/frmNeuKunde.h"
 
-#include "msgbox.h"
-#include "sprache.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 void frmNeuKunde::Form_Load() try { vorbereiten(); } catch (const Fehler &fehler) {
     fehlerBox("Fehler 1051 - ", "ERROR 1051 - ", fehler);

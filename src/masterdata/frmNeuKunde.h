@@ -1,7 +1,7 @@
 // Enters a new customer.
 #pragma once
 
-#include "kundenmaske.h"
+#include "masterdata/kundenmaske.h"
 
 class frmNeuKunde : public Kundenmaske {
   public:

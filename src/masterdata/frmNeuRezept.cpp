@@ -1,18 +1,18 @@
-#include "frmNeuRezept.h"
+#include "masterdata/frmNeuRezept.h"
 
 #include <QShortcut>
 
 #include <utility>
 
-#include "database.h"
-#include "frmRezepte.h"
-#include "msgbox.h"
-#include "rezept.h"
-#include "schluessel.h"
-#include "session.h"
-#include "spalte.h"
-#include "sprache.h"
-#include "umbruch.h"
+#include "controls/umbruch.h"
+#include "masterdata/frmRezepte.h"
+#include "records/rezept.h"
+#include "records/schluessel.h"
+#include "records/spalte.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -118,7 +118,7 @@ void frmNeuRezept::Form_Unload() {
     if (Screen *list = loaded(frm::Rezepte))
         list->show();
     else
-        ::screen(frm::Rezepte).showModal();
+        form(frm::Rezepte).showModal();
 }
 
 void frmNeuRezept::fnc_Fill_CmbToleranz() try {

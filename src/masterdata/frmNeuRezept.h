@@ -2,10 +2,10 @@
 // From the moment the name is saved the recipe exists, so leaving decides whether it stays.
 #pragma once
 
-#include "pruefschritt.h"
-#include "schrittgitter.h"
-#include "schrittliste.h"
-#include "screens.h"
+#include "controls/schrittgitter.h"
+#include "masterdata/pruefschritt.h"
+#include "records/schrittliste.h"
+#include "session/screens.h"
 #include "ui_frmNeuRezept.h"
 
 #include <optional>

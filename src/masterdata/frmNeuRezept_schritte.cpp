@@ -1,16 +1,16 @@
 // The steps of the new recipe: entering, checking, storing, renumbering, and moving among them.
-#include "frmNeuRezept.h"
+#include "masterdata/frmNeuRezept.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 
 #include <utility>
 
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sprache.h"
-#include "sqltext.h"
+#include "platform/runtime.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/sqltext.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -362,7 +362,7 @@ void frmNeuRezept::DBGridRez_RowColChange() {
 }
 
 void frmNeuRezept::pbKopie_Click() try {
-    ::screen(frm::RezeptKopie).showModal();
+    form(frm::RezeptKopie).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 9016 - ", "ERROR 9016 - ", fehler);
 }

@@ -1,16 +1,16 @@
-#include "frmRezeptKopie.h"
+#include "masterdata/frmRezeptKopie.h"
 
 #include <QLineEdit>
 #include <QShortcut>
 
-#include "database.h"
-#include "frmNeuRezept.h"
-#include "msgbox.h"
-#include "rezept.h"
-#include "schrittliste.h"
-#include "session.h"
-#include "spalte.h"
-#include "sprache.h"
+#include "masterdata/frmNeuRezept.h"
+#include "records/rezept.h"
+#include "records/schrittliste.h"
+#include "records/spalte.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

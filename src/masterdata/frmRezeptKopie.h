@@ -2,8 +2,8 @@
 // session stays the new one whatever is looked at here.
 #pragma once
 
-#include "schrittgitter.h"
-#include "suchmaske.h"
+#include "controls/schrittgitter.h"
+#include "controls/suchmaske.h"
 #include "ui_frmRezeptKopie.h"
 
 class frmRezeptKopie : public Suchmaske {

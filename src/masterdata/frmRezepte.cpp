@@ -1,17 +1,17 @@
-#include "frmRezepte.h"
+#include "masterdata/frmRezepte.h"
 
 #include <QLineEdit>
 #include <QShortcut>
 
 #include <utility>
 
-#include "auswahl.h"
-#include "database.h"
-#include "msgbox.h"
-#include "rezept.h"
-#include "session.h"
-#include "spalte.h"
-#include "sprache.h"
+#include "records/rezept.h"
+#include "records/spalte.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -189,7 +189,7 @@ void frmRezepte::pbok_Click() try {
 
 void frmRezepte::pbNeuRezept_Click() {
     gNeuModus = false;
-    ::screen(frm::NeuRezept).showModal();
+    form(frm::NeuRezept).showModal();
 }
 
 void frmRezepte::pbÄndRez_Click() try {
@@ -199,7 +199,7 @@ void frmRezepte::pbÄndRez_Click() try {
                        "ORDER BY Val(Prüfschritt), rowid", // the editor takes them as they come
                        {gRezeptID});
     gRezeptWahl = mGezeigt;
-    Screen &editor = ::screen(frm::ÄndRez);
+    Screen &editor = form(frm::ÄndRez);
     editor.setCaption(
         inSprache({"Änderung im Rezept '%1'", "Canges In Recipe '%1'"}).arg(mGezeigt));
     hide(); // stays loaded; the editor keeps the screens below out of use

@@ -5,8 +5,8 @@
 // Leaving without a choice puts the recipe that the desktop shows back in force.
 #pragma once
 
-#include "schrittgitter.h"
-#include "suchmaske.h"
+#include "controls/schrittgitter.h"
+#include "controls/suchmaske.h"
 #include "ui_frmRezepte.h"
 
 class frmRezepte : public Suchmaske {

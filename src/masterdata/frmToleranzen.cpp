@@ -1,15 +1,15 @@
-#include "frmToleranzen.h"
+#include "masterdata/frmToleranzen.h"
 
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QShortcut>
 
-#include "eintrag.h"
-#include "msgbox.h"
-#include "rezept.h"
-#include "schluessel.h"
-#include "session.h"
-#include "sprache.h"
+#include "controls/eintrag.h"
+#include "records/rezept.h"
+#include "records/schluessel.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

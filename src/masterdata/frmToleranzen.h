@@ -7,8 +7,8 @@
 
 #include <functional>
 
-#include "screens.h"
-#include "toleranz.h"
+#include "records/toleranz.h"
+#include "session/screens.h"
 #include "ui_frmToleranzen.h"
 
 class frmToleranzen : public Screen {

@@ -1,13 +1,13 @@
 // What happens when a field takes the keyboard, is typed into, and is left.
-#include "frmToleranzen.h"
+#include "masterdata/frmToleranzen.h"
 
 #include <QLineEdit>
 
 #include <limits>
 
-#include "eintrag.h"
-#include "msgbox.h"
-#include "sprache.h"
+#include "controls/eintrag.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

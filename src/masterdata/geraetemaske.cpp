@@ -1,13 +1,13 @@
-#include "geraetemaske.h"
+#include "masterdata/geraetemaske.h"
 
 #include <QShortcut>
 
-#include "auswahl.h"
-#include "frmGeraet.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
-#include "umbruch.h"
+#include "controls/umbruch.h"
+#include "masterdata/frmGeraet.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

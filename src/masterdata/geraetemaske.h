@@ -2,9 +2,9 @@
 // refused. The screens derived from it say what is loaded and what is saved.
 #pragma once
 
-#include "geraetedaten.h"
-#include "screens.h"
-#include "text.h"
+#include "platform/text.h"
+#include "records/geraetedaten.h"
+#include "session/screens.h"
 #include "ui_geraetemaske.h"
 
 #include <optional>

@@ -1,15 +1,15 @@
-#include "kundenmaske.h"
+#include "masterdata/kundenmaske.h"
 
 #include <QLineEdit>
 #include <QShortcut>
 
-#include "database.h"
-#include "frmKunden.h"
-#include "msgbox.h"
-#include "namensliste.h"
-#include "session.h"
-#include "spalte.h"
-#include "sprache.h"
+#include "controls/namensliste.h"
+#include "masterdata/frmKunden.h"
+#include "records/spalte.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 

@@ -2,9 +2,9 @@
 // derived from it say what is loaded and what is saved.
 #pragma once
 
-#include "kundendaten.h"
-#include "screens.h"
-#include "text.h"
+#include "platform/text.h"
+#include "records/kundendaten.h"
+#include "session/screens.h"
 #include "ui_kundenmaske.h"
 
 class Kundenmaske : public Screen {

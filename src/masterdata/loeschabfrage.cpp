@@ -1,16 +1,64 @@
-#include "loeschabfrage.h"
+#include "masterdata/loeschabfrage.h"
 
 #include <QCoreApplication>
 #include <QLabel>
 
-#include "sprache.h"
+#include "session/sprache.h"
 
-void Löschabfrage::löschen(const Löschplan &plan, int schlüssel, QLabel *frage) try {
+using platform::Text;
+
+Text kundenfrage(int geräte, int protokolle, const QString &name) {
+    if (geräte == 0 && protokolle == 0)
+        return {"Wollen Sie die Daten zu dem Kunden '" + name + "' jetzt löschen?",
+                "Do you want to delete the data of '" + name + "' now?"};
+    const QString n = QString::number(geräte);
+    const QString m = QString::number(protokolle);
+    Text erster{"Zu dem Kunden '" + name, "For the customer '" + name};
+    const auto weiter = [&erster](const QString &german, const QString &english) {
+        erster.german += german;
+        erster.english += english;
+    };
+    if (geräte == 1 && protokolle == 0)
+        erster = {"Zu diesem Kunden existiert ein Gerät.",
+                  "For this customer there is a unit existent."};
+    else if (protokolle == 0)
+        weiter("' existieren " + n + " Geräte.", "' there are " + n + " units existent.");
+    else if (geräte == 1 && protokolle == 1)
+        weiter("' existiert ein Gerät und ein Protokoll.", "' there is a unit and a protocol.");
+    else if (protokolle == 1)
+        weiter("' existiert " + n + " Geräte und ein Protokoll.",
+               "' there are " + n + " units and a protocol.");
+    else if (geräte == 1)
+        weiter("' existiert ein Gerät und " + m + " Protokolle.",
+               "' there are " + m + " protocols and a unit.");
+    else
+        weiter("' existieren " + n + " Geräte und " + m + " Protokolle.",
+               "' there are " + n + " units and " + m + " protocols.");
+    return {erster.german + "\rWollen Sie alle zu diesem Kunden gehörenden Daten jetzt löschen?",
+            erster.english + "\rShall data of the customer be deleted now?"};
+}
+
+Text gerätefrage(int protokolle, const QString &name) {
+    if (protokolle == 0)
+        return {"Sollen die Daten zu dem Gerät '" + name + "' jetzt gelöscht werden?",
+                "Shall data of the unit '" + name + "' be deleted now?"};
+    const QString german = "Zu dem Gerät '" + name;
+    const QString english = "For the unit '" + name;
+    const QString frage = "\rSollen diese Daten jetzt gelöscht werden?";
+    if (protokolle == 1)
+        return {german + "' existiert ein Protokoll." + frage,
+                english + "' there is one protocol existent.\rShall it be deleted now?"};
+    const QString m = QString::number(protokolle);
+    return {german + "' existieren " + m + " Protokolle." + frage,
+            english + "' there are " + m + " protocols existent.\rShall they be deleted now?"};
+}
+
+void Löschabfrage::löschen(Löschziel ziel, int schlüssel, QLabel *frage) try {
     const HoldActivations hold;
     frage->setText(inSprache({"Die Daten werden gelöscht ...", "Data are being deleted ..."}));
     disable();
     QCoreApplication::processEvents();
-    datensatzLöschen(plan, schlüssel, [] { QCoreApplication::processEvents(); });
+    datensatzLöschen(ziel, schlüssel, [] { QCoreApplication::processEvents(); });
 } catch (const Fehler &) {
     enable();
     throw;

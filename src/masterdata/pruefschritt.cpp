@@ -1,9 +1,9 @@
-#include "pruefschritt.h"
+#include "masterdata/pruefschritt.h"
 
-#include "msgbox.h"
-#include "runtime.h"
-#include "sprache.h"
-#include "sqltext.h"
+#include "platform/runtime.h"
+#include "session/sprache.h"
+#include "store/sqltext.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -42,28 +42,6 @@ void drehmomentMelden(const Schrittgrenzen &grenzen) {
     meldung({"Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!",
              "The permissible torque has been exeeded!\r\nPlease enter other values!"},
             OKOnly, {"Drehmoment<=" + limit + "Nm", "Torque<=" + limit + "Nm"});
-}
-
-int Prüfart::ausAnfang(const QString &text) {
-    const QChar first = text.isEmpty() ? QChar() : text[0].toUpper();
-    if (first == 'L' || first == 'P')
-        return Leistung;
-    return first == 'D' || first == 'S' ? Drehzahl : Keine;
-}
-
-int Prüfart::ausText(const QString &text) {
-    if (text == inSprache(leistungText))
-        return Leistung;
-    return text == inSprache(drehzahlText) ? Drehzahl : Keine;
-}
-
-std::optional<QString> Prüfart::ausTaste(const QString &taste) {
-    for (const auto &[code, text] : {std::pair{"1", &leistungText}, {"2", &drehzahlText}}) {
-        const QString &shown = inSprache(*text);
-        if (taste == code || taste.compare(shown.left(1), Qt::CaseInsensitive) == 0)
-            return shown;
-    }
-    return std::nullopt;
 }
 
 QString fehlendeAngaben(bool drehzahl, bool leistung, bool prüfart) {

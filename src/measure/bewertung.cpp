@@ -1,10 +1,10 @@
-#include "bewertung.h"
+#include "measure/bewertung.h"
 
 #include <cmath>
 
-#include "fehler.h"
-#include "runtime.h"
-#include "session.h"
+#include "platform/fehler.h"
+#include "platform/runtime.h"
+#include "session/session.h"
 
 using namespace platform;
 

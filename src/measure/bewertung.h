@@ -9,41 +9,7 @@
 
 #include <QString>
 
-#include <cstdint>
-#include <optional>
-#include <vector>
-
-/// The specification of the session.
-struct Spezifikation {
-    double prozent = 0;        ///< permissible deviation of power, % of the set-point
-    double watt = 0;           ///< permissible deviation of power at least, W
-    std::int16_t grenzAbw = 0; ///< permissible deviation of speed, 1/min
-};
-
-/// A row of the uncertainty tables: applies up to `grenze` (W or 1/min). What the table leaves open
-/// is nothing, not 0.
-struct Unsicherheit {
-    std::optional<double> grenze;
-    std::optional<double> wert; ///< %; in the first row for power W
-};
-using Unsicherheiten = std::vector<Unsicherheit>;
-
-/// The boxes of a step as they are shown, under the number format of the session.
-struct SchrittTexte {
-    QString soll_n;        // 1/min
-    QString soll_P;        // W
-    QString ist_n_torvena; // 1/min, of the working standard
-    QString ist_P_torvena; // W, of the working standard
-    QString ist_n_ergom;   // 1/min, as read off the ergometer
-};
-
-/// What is stored with a step. Kept from step to step: a verdict that fails half-way leaves the
-/// rest as the step before left it.
-struct Urteil {
-    bool ohne = false; ///< MU_ohne
-    QString mit;       ///< MU_mit: "ja", "nein", "yes", "no" or "?"
-    double muProz = 0; ///< MU_Proz, uncertainty in %
-};
+#include "records/messwerte.h"
 
 /// Judges the power of the working standard against the set-point. Writes "0" to ist_n_ergom.
 /// Raises TypeMismatch for a text that is no number, InvalidUseOfNull for an uncertainty that is

@@ -1,4 +1,4 @@
-#include "driftanzeige.h"
+#include "measure/driftanzeige.h"
 
 #include <QPainter>
 

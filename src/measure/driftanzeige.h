@@ -3,7 +3,7 @@
 
 #include <QWidget>
 
-#include "statik.h"
+#include "measure/statik.h"
 
 class DriftAnzeige : public QWidget {
   public:

@@ -1,12 +1,12 @@
-#include "empfang.h"
+#include "measure/empfang.h"
 
-#include "controller.h"
-#include "fehler.h"
-#include "messablauf.h"
-#include "msgbox.h"
-#include "sechsrunden.h"
-#include "session.h"
-#include "sprache.h"
+#include "link/controller.h"
+#include "measure/messablauf.h"
+#include "measure/sechsrunden.h"
+#include "platform/fehler.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -61,7 +61,8 @@ void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) {
         MSComm1.discardInput();
         SechsRundenDecoder decoder;
         const auto goOn = [&anzeige] {
-            return gDesktopAktiv && gMessStatus <= 0 && !gTimeoutTimer1 && !anzeige.abgelöst();
+            return gDesktopAktiv && gMessStatus == Messstatus::Messen && !gTimeoutTimer1 &&
+                   !anzeige.abgelöst();
         };
         using Ereignis = SechsRundenDecoder::Ereignis;
         do {

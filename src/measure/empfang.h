@@ -2,7 +2,7 @@
 // comes. Runs until the measurement's status says otherwise.
 #pragma once
 
-#include "clock.h"
+#include "platform/clock.h"
 
 /// Where the values go, and who may end the reception.
 class Messanzeige {

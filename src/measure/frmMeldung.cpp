@@ -1,8 +1,8 @@
-#include "frmMeldung.h"
+#include "measure/frmMeldung.h"
 
-#include "frmMessen.h"
-#include "session.h"
-#include "sprache.h"
+#include "measure/frmMessen.h"
+#include "session/session.h"
+#include "session/sprache.h"
 
 namespace {
 
@@ -29,11 +29,11 @@ void frmMeldung::Form_Load() {
         ui.laMeldung1->setText(inSprache(erste));
         ui.laMeldung2->setText(inSprache(zweite));
     };
-    if (gMessStatus == messstatus::Ende) {
+    if (gMessStatus == Messstatus::Ende) {
         zeilen({"Beenden", "Terminate"}, {"des Messens", "the Measuring"});
-    } else if (gMessStatus == messstatus::Starten) {
+    } else if (gMessStatus == Messstatus::Starten) {
         zeilen({"Starten", "Start"}, {"des Messens", "the Measuring"});
-        gMessStatus = messstatus::Messen;
+        gMessStatus = Messstatus::Messen;
     }
     mTimer1.setEnabled(true);
 }

@@ -1,8 +1,8 @@
 // The notice between two steps: closes by itself, and its closing lets the next step begin.
 #pragma once
 
-#include "clock.h"
-#include "screens.h"
+#include "platform/clock.h"
+#include "session/screens.h"
 #include "ui_frmMeldung.h"
 
 class frmMeldung : public Screen {

@@ -1,18 +1,18 @@
-#include "frmMessen.h"
+#include "measure/frmMessen.h"
 
 #include <QHeaderView>
 #include <QScopeGuard>
 
-#include "auswahl.h"
-#include "controller.h"
-#include "fehler.h"
-#include "front.h"
-#include "messwerte.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sprache.h"
-#include "waiting.h"
+#include "link/controller.h"
+#include "platform/fehler.h"
+#include "platform/runtime.h"
+#include "records/messwerte.h"
+#include "session/auswahl.h"
+#include "session/motorfenster.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
+#include "windows/waiting.h"
 
 using namespace platform;
 
@@ -72,7 +72,7 @@ frmMessen::frmMessen() {
 }
 
 void frmMessen::Form_Load() try {
-    front().disableFront();
+    motorfenster().disableFront();
     fnc_BefehlSenden("E", gDrehrichtung, "00");
     if (gSprache == 1)
         ui.retranslateUi(this);
@@ -106,11 +106,11 @@ void frmMessen::Form_Load() try {
     gMessungLäuft = true;
     mDrehzNull = false;
     mRezeptEnde = false;
-    if (gMessStatus == messstatus::Ende || gMessStatus == messstatus::Verweigert ||
-        gMessStatus == messstatus::Neu) {
-        gMessStatus = messstatus::Neu;
+    if (gMessStatus == Messstatus::Ende || gMessStatus == Messstatus::Verweigert ||
+        gMessStatus == Messstatus::Neu) {
+        gMessStatus = Messstatus::Neu;
     } else {
-        gMessStatus = messstatus::Ruhe;
+        gMessStatus = Messstatus::Ruhe;
         gMessenFreigabe = true;
     }
 } catch (const Fehler &fehler) {
@@ -118,7 +118,7 @@ void frmMessen::Form_Load() try {
 }
 
 void frmMessen::Form_Activate() try {
-    if (gMessStatus == messstatus::Ende || gMessStatus == messstatus::Verweigert) {
+    if (gMessStatus == Messstatus::Ende || gMessStatus == Messstatus::Verweigert) {
         unload();
         return;
     }
@@ -132,7 +132,7 @@ void frmMessen::Form_Activate() try {
 
 void frmMessen::ersteAktivierung() {
     ui.laRezName->setText(auswahl().rezept);
-    ui.laDrehR->setText(front().drehrichtung());
+    ui.laDrehR->setText(motorfenster().drehrichtung());
     if (messablauf().protokollErfragen()) {
         ToleranzZeile zeile;
         if (toleranzLesen(gToleranzID, zeile)) {
@@ -144,17 +144,17 @@ void frmMessen::ersteAktivierung() {
     }
     dataRezept = messablauf().schritte();
     if (messablauf().protokollErfragen()) {
-        ::screen(frm::ProtokollNr).showModal();
+        form(frm::ProtokollNr).showModal();
     } else {
         gMessungLäuft = false;
-        gMessStatus = messstatus::Messen;
+        gMessStatus = Messstatus::Messen;
     }
 }
 
 bool frmMessen::Form_QueryUnload() try {
     if (fnc_BefehlSenden("E", gDrehrichtung, "00"))
-        front().setDrehREnabled(true);
-    gMessStatus = messstatus::Ende;
+        motorfenster().setDrehREnabled(true);
+    gMessStatus = Messstatus::Ende;
     gMessenFreigabe = false;
     messablauf().beimVerlassen(Weggang::Ordentlich);
     return true;
@@ -164,8 +164,8 @@ bool frmMessen::Form_QueryUnload() try {
 }
 
 void frmMessen::Form_Unload() {
-    front().enableFront();
-    front().focusBeenden();
+    motorfenster().enableFront();
+    motorfenster().focusBeenden();
 }
 
 void frmMessen::fnc_PrüfschrittAnzeigen() try {
@@ -212,11 +212,11 @@ bool frmMessen::fnc_Bewerten() try {
 void frmMessen::pbSpeichern_Click() {
     if (mWerte != Werte::Eigene)
         return; // a second press, before the button went out
-    gMessStatus = messstatus::Speichern;
+    gMessStatus = Messstatus::Speichern;
     fnc_MesswertSpeichern();
     // A row that could not be written leaves the measurement running and the step current.
-    if (gMessStatus == messstatus::Speichern)
-        gMessStatus = messstatus::Messen;
+    if (gMessStatus == Messstatus::Speichern)
+        gMessStatus = Messstatus::Messen;
 }
 
 void frmMessen::fnc_MesswertSpeichern() try {
@@ -250,11 +250,11 @@ void frmMessen::fnc_MesswertSpeichern() try {
         return;
     }
     gStopMessung = false;
-    gMessStatus = messstatus::Messen;
+    gMessStatus = Messstatus::Messen;
     if (mRezeptEnde)
         return; // the stream of the same set-point goes on
     werteVerwerfen();
-    ::screen(frm::Meldung).show();
+    form(frm::Meldung).show();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 3016 - ", "ERROR 3016 - ", fehler);
 }
@@ -272,27 +272,27 @@ void frmMessen::rezeptAbgearbeitet() {
 }
 
 void frmMessen::pbMessen_Click() {
-    gMessStatus = messstatus::Messen;
+    gMessStatus = Messstatus::Messen;
     werteVerwerfen();
     fnc_MesswerteLeeren();
     fnc_PrüfschrittAnzeigen();
     ui.pbPlus->setEnabled(true);
     ui.pbMinus->setEnabled(true);
-    ::screen(frm::Meldung).show();
+    form(frm::Meldung).show();
     if (messablauf().bedient())
         ui.pbDrehzNull->setEnabled(true);
 }
 
 void frmMessen::pbDynMess_Click() {
-    gMessStatus = messstatus::Dynamisch;
+    gMessStatus = Messstatus::Dynamisch;
 }
 
 void frmMessen::pbAbbrechen_Click() {
     for (QPushButton *button : findChildren<QPushButton *>())
         button->setEnabled(false);
     gMessenFreigabe = false;
-    gMessStatus = messstatus::Ende;
-    ::screen(frm::Meldung).show();
+    gMessStatus = Messstatus::Ende;
+    form(frm::Meldung).show();
     if (mRezeptEnde && leitungFrei())
         unload(); // otherwise the closing of the notice does it, when the exchange has ended
 }

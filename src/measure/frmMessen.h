@@ -5,14 +5,14 @@
 // reads it after each received byte (see fnc_Messzyklus).
 #pragma once
 
-#include "bewertung.h"
-#include "empfang.h"
-#include "fehler.h"
-#include "messablauf.h"
-#include "recordset.h"
-#include "recordsetmodel.h"
-#include "screens.h"
-#include "status.h"
+#include "controls/recordsetmodel.h"
+#include "measure/bewertung.h"
+#include "measure/empfang.h"
+#include "measure/messablauf.h"
+#include "platform/fehler.h"
+#include "session/screens.h"
+#include "session/status.h"
+#include "store/recordset.h"
 #include "ui_frmMessen.h"
 
 class frmMessen : public Screen, private Messanzeige {

@@ -1,16 +1,16 @@
 // Set-points, correction factor and free input of the measurement screen.
-#include "frmMessen.h"
+#include "measure/frmMessen.h"
 
 #include <QKeyEvent>
 
-#include "drehmoment.h"
-#include "messwerte.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sollwert.h"
-#include "sprache.h"
-#include "waiting.h"
+#include "measure/sollwert.h"
+#include "platform/runtime.h"
+#include "records/messwerte.h"
+#include "session/drehmoment.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
+#include "windows/waiting.h"
 
 using namespace platform;
 
@@ -171,23 +171,23 @@ void frmMessen::werteVerwerfen() {
 void frmMessen::pbAusführen_Click() {
     if (!fnc_DrehmomentPrüfen())
         return;
-    gMessStatus = messstatus::Messen;
+    gMessStatus = Messstatus::Messen;
     fnc_GraphGrenzenSetzen();
     fnc_EingabeSperren();
     ergometerFeldZeigen(!istLeistungsmessung());
     if (istDrehzahlmessung() && messablauf().bedient())
         ui.txtIST_n_ergom->setFocus();
-    ::screen(frm::Meldung).show();
+    form(frm::Meldung).show();
 }
 
 void frmMessen::pbÜbernehmen_Click() {
     if (!fnc_DrehmomentPrüfen())
         return;
-    gMessStatus = messstatus::Messen;
+    gMessStatus = Messstatus::Messen;
     fnc_GraphGrenzenSetzen();
     fnc_EingabeSperren();
     korrekturErledigt();
-    ::screen(frm::Meldung).show();
+    form(frm::Meldung).show();
 }
 
 void frmMessen::pbFreieEing_Click() {
@@ -198,7 +198,7 @@ void frmMessen::pbFreieEing_Click() {
          {ui.pbAusführen, ui.pbDynMess, ui.pbFreieEing, ui.pbPlus, ui.pbMinus})
         button->setEnabled(false);
     if (gMessenFreigabe)
-        gMessStatus = messstatus::FreieEingabe;
+        gMessStatus = Messstatus::FreieEingabe;
     else
         fnc_FreieEingabe();
     if (!mDrehzNull && !ui.pbDrehzNull->isEnabled())

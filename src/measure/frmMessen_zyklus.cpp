@@ -1,16 +1,16 @@
 // The pass of the measurement screen: one step from its set-point to the event that ends it.
-#include "frmMessen.h"
+#include "measure/frmMessen.h"
 
 #include <QScopeGuard>
 
-#include "controller.h"
-#include "fehler.h"
-#include "messwerte.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sollwert.h"
-#include "sprache.h"
+#include "link/controller.h"
+#include "measure/sollwert.h"
+#include "platform/fehler.h"
+#include "platform/runtime.h"
+#include "records/messwerte.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -42,7 +42,7 @@ void frmMessen::fnc_Messzyklus() {
 void frmMessen::durchgang() {
     // Set-points that are still being typed are nothing to measure.
     const bool offen = freieEingabe() && !ui.txtSoll_n->isReadOnly();
-    if (gMessStatus == messstatus::Messen && !offen) {
+    if (gMessStatus == Messstatus::Messen && !offen) {
         gMessenFreigabe = true;
         fnc_MesswerteLeeren(); // what stands there belongs to another set-point
         if (!freieEingabe())
@@ -77,32 +77,32 @@ void frmMessen::durchgang() {
 
 void frmMessen::verteilen() {
     switch (gMessStatus) {
-    case messstatus::Speichern:
-        gMessStatus = messstatus::Messen;
+    case Messstatus::Speichern:
+        gMessStatus = Messstatus::Messen;
         messablauf().schrittFertig(*this);
         break;
-    case messstatus::FreieEingabe:
-        gMessStatus = messstatus::Messen;
+    case Messstatus::FreieEingabe:
+        gMessStatus = Messstatus::Messen;
         fnc_MesswerteLeeren();
         fnc_FreieEingabe();
         break;
-    case messstatus::Dynamisch:
+    case Messstatus::Dynamisch:
         if (DynamikMessung *dynamik = dynamikMessung())
             dynamik->messen();
         break;
-    case messstatus::Ende:
+    case Messstatus::Ende:
         gMessenFreigabe = false;
         motorAbschalten();
         break;
-    case messstatus::Verweigert:
+    case Messstatus::Verweigert:
         gMessenFreigabe = false;
         meldung({"Fehler im Gerät oder in der Kommunikation",
                  "Error in the unit under test, or communication error"},
                 Critical, {"Fehler", "Error"});
         requestActivation(*this); // which leaves the screen
         break;
-    case messstatus::MotorAus:
-        gMessStatus = messstatus::Ruhe;
+    case Messstatus::MotorAus:
+        gMessStatus = Messstatus::Ruhe;
         motorAbschalten();
         break;
     default:
@@ -124,7 +124,7 @@ bool frmMessen::sollwertZulässig() const {
 void frmMessen::sollwertAblehnen() {
     meldung(drehzahlAußerhalb, Critical, {"Eingabefehler", "Input Error"});
     werteVerwerfen();
-    gMessStatus = messstatus::Ruhe;
+    gMessStatus = Messstatus::Ruhe;
     fnc_NavigationFreigeben();
     ui.pbFreieEing->setEnabled(true);
     ui.pbAbbrechen->setEnabled(true);
@@ -149,7 +149,7 @@ bool frmMessen::fnc_SollwertSenden() {
     }
     meldung({"Fehler", "Error"}, Critical, {"Motor ein", "Motor On"});
     ui.pbFreieEing->setEnabled(false);
-    gMessStatus = messstatus::Verweigert;
+    gMessStatus = Messstatus::Verweigert;
     return false;
 }
 

@@ -1,9 +1,9 @@
-#include "frmNachStatNPK.h"
+#include "measure/frmNachStatNPK.h"
 
-#include "frmMessen.h"
-#include "frmStatMessen.h"
-#include "session.h"
-#include "sprache.h"
+#include "measure/frmMessen.h"
+#include "measure/frmStatMessen.h"
+#include "session/session.h"
+#include "session/sprache.h"
 
 namespace {
 
@@ -27,7 +27,7 @@ void frmNachStatNPK::Form_Load() {
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
     ui.laText->setText(inSprache(ankoppeln));
-    if (gFormStatus == formstatus::KorrekturFertig) {
+    if (gFormStatus == Formstatus::KorrekturFertig) {
         anzeigen(
             {"Vorbereitung der Hebelarmkalibrierung", "Preparations For The Lever Arm Calibration"},
             {"Montieren Sie den Hebelarm für Linkskalibrierung, wie in der "
@@ -44,18 +44,18 @@ void frmNachStatNPK::anzeigen(const Text &titel, const Text &text) {
 }
 
 void frmNachStatNPK::pbok_Click() {
-    if (gFormStatus == formstatus::KorrekturFertig)
-        gFormStatus = gMessStatus != messstatus::Verweigert ? formstatus::SchwereEingegeben
-                                                            : formstatus::Abgebrochen;
+    if (gFormStatus == Formstatus::KorrekturFertig)
+        gFormStatus = gMessStatus != Messstatus::Verweigert ? Formstatus::SchwereEingegeben
+                                                            : Formstatus::Abgebrochen;
     unload();
 }
 
 void frmNachStatNPK::Form_Unload() {
     // Without a finished correction no measurement may follow, whatever closed this screen.
     auto *korrektur = loaded<frmStatMessen>();
-    const bool weiter = gFormStatus == 0 && gMessStatus != messstatus::Verweigert && korrektur;
+    const bool weiter = gFormStatus == Formstatus::Keiner && gMessStatus != Messstatus::Verweigert && korrektur;
     if (korrektur)
         korrektur->unload();
     if (weiter)
-        ::screen<frmMessen>().show();
+        form<frmMessen>().show();
 }

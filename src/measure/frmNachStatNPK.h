@@ -1,8 +1,8 @@
 // Instruction behind the zero-point correction, and in the lever-arm sequence.
 #pragma once
 
-#include "fehler.h"
-#include "screens.h"
+#include "platform/fehler.h"
+#include "session/screens.h"
 #include "ui_frmNachStatNPK.h"
 
 class frmNachStatNPK : public Screen {

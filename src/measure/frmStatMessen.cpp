@@ -1,17 +1,17 @@
-#include "frmStatMessen.h"
+#include "measure/frmStatMessen.h"
 
 #include <utility>
 
-#include "controller.h"
-#include "database.h"
-#include "einlauf.h"
-#include "frmNachStatNPK.h"
-#include "front.h"
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sprache.h"
-#include "statikwerte.h"
+#include "link/controller.h"
+#include "link/einlauf.h"
+#include "measure/frmNachStatNPK.h"
+#include "measure/statikwerte.h"
+#include "platform/runtime.h"
+#include "session/motorfenster.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -79,16 +79,16 @@ void frmStatMessen::Form_Activate() try {
         pbAbbrechen_Click(); // nothing to compare with
         return;
     }
-    if (gEinlaufStatus == einlaufstatus::NichtBegonnen) {
-        gEinlaufStatus = einlaufstatus::MotorWirdGestoppt;
+    if (gEinlaufStatus == Einlaufstatus::NichtBegonnen) {
+        gEinlaufStatus = Einlaufstatus::MotorWirdGestoppt;
         showInfo(inSprache({"Motor wird ausgeschaltet", "Motor is switched off."}));
         fnc_StatVorbereiten();
-    } else if (gEinlaufStatus == einlaufstatus::Vorbereitet) {
-        gEinlaufStatus = einlaufstatus::Gemessen;
+    } else if (gEinlaufStatus == Einlaufstatus::Vorbereitet) {
+        gEinlaufStatus = Einlaufstatus::Gemessen;
         fnc_StatMessen();
         if (unloaded())
             return;
-        if (gMessStatus == messstatus::Verweigert)
+        if (gMessStatus == Messstatus::Verweigert)
             pbAbbrechen_Click();
         else
             fnc_StatAbschluss();
@@ -103,12 +103,12 @@ bool frmStatMessen::Form_QueryUnload() {
 }
 
 void frmStatMessen::Form_Unload() {
-    if (gFormStatus == 0 && gMessStatus != messstatus::Verweigert && mKorrigiert) {
+    if (gFormStatus == Formstatus::Keiner && gMessStatus != Messstatus::Verweigert && mKorrigiert) {
         gMessenFreigabe = true;
-        gMessStatus = messstatus::Messen;
+        gMessStatus = Messstatus::Messen;
     }
-    if (gMessStatus == messstatus::Verweigert)
-        front().setMessenEnabled(false);
+    if (gMessStatus == Messstatus::Verweigert)
+        motorfenster().setMessenEnabled(false);
 }
 
 void frmStatMessen::fnc_StatVorbereiten() {
@@ -117,10 +117,10 @@ void frmStatMessen::fnc_StatVorbereiten() {
     gErgebnis = fnc_MotorAus();
     enable();
     beep();
-    if (gMessStatus == messstatus::Verweigert || unloaded())
+    if (gMessStatus == Messstatus::Verweigert || unloaded())
         return;
     if (gErgebnis)
-        ::screen(frm::VorStatNPK).showModal();
+        form(frm::VorStatNPK).showModal();
     else
         pbAbbrechen_Click(); // nobody is told to touch a shaft that may be turning
 }
@@ -129,7 +129,7 @@ void frmStatMessen::fnc_StatMessen() {
     gErgebnis = fnc_Messung(codeOffset) && fnc_Messung(codeGain);
     if (!gErgebnis || unloaded() || statikZulässig(gOffsetDiff, gGainDiff))
         return; // without a result there are only the drifts of an earlier run
-    auto &hinweis = ::screen<frmNachStatNPK>();
+    auto &hinweis = form<frmNachStatNPK>();
     hinweis.anzeigen({"Toleranzüberschreitung", "Tolerance Exeeded"},
                      {"Gerät ausschalten, wieder einschalten,\r"
                       "Einlaufzeit einhalten und statische Korrektur wiederholen.\r\r"
@@ -138,7 +138,7 @@ void frmStatMessen::fnc_StatMessen() {
                       "Await the end of running-in time and repeat the static correction.\r\r"
                       "In case of deviations, please call the service!"});
     hinweis.showModal();
-    gMessStatus = messstatus::Verweigert;
+    gMessStatus = Messstatus::Verweigert;
 }
 
 bool frmStatMessen::mittelwertEmpfangen(std::uint8_t code, double &mittel) {
@@ -244,13 +244,13 @@ void frmStatMessen::pbWeiter_Click() try {
     MSComm1.Output("-");
     countedDelay(weiterVerzögerung);
     MSComm1.Output("-");
-    if (gFormStatus == formstatus::Korrektur) {
-        gFormStatus = formstatus::KorrekturFertig;
+    if (gFormStatus == Formstatus::Korrektur) {
+        gFormStatus = Formstatus::KorrekturFertig;
         unload();
         return;
     }
     beep();
-    ::screen(frm::NachStatNPK).showModal();
+    form(frm::NachStatNPK).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("Fehler 4042 - ", "ERROR 4042 - ", fehler);
 }
@@ -259,7 +259,7 @@ void frmStatMessen::pbAbbrechen_Click() {
     meldung({"Die Nullpunkt-Korrektur wurde abgebrochen!",
              "The zero-point correction has been discontinued!"},
             Critical, {"Fehler", "Error"});
-    gMessStatus = messstatus::Verweigert;
-    gFormStatus = formstatus::Abgebrochen;
+    gMessStatus = Messstatus::Verweigert;
+    gFormStatus = Formstatus::Abgebrochen;
     unload();
 }

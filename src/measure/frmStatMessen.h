@@ -2,8 +2,8 @@
 // offset and gain at rest, judges them and writes them to the controller.
 #pragma once
 
-#include "screens.h"
-#include "statik.h"
+#include "measure/statik.h"
+#include "session/screens.h"
 #include "ui_frmStatMessen.h"
 
 class frmStatMessen : public Screen {

@@ -1,7 +1,7 @@
-#include "frmVorStatNPK.h"
+#include "measure/frmVorStatNPK.h"
 
-#include "session.h"
-#include "sprache.h"
+#include "session/session.h"
+#include "session/sprache.h"
 
 namespace {
 
@@ -30,7 +30,7 @@ const Text abkoppeln{"Vor Durchführung der statischen Nullpunktkorrektur "
 frmVorStatNPK::frmVorStatNPK() {
     ui.setupUi(this);
     onClick(ui.pbok, [this] {
-        gEinlaufStatus = einlaufstatus::Vorbereitet;
+        gEinlaufStatus = Einlaufstatus::Vorbereitet;
         unload();
     });
 }
@@ -39,5 +39,5 @@ void frmVorStatNPK::Form_Load() {
     if (gSprache == 1)
         ui.retranslateUi(this);
     englischBeschriften(*this, english);
-    ui.laText->setText(inSprache(gFormStatus != 0 ? hebelarm : abkoppeln));
+    ui.laText->setText(inSprache(gFormStatus != Formstatus::Keiner ? hebelarm : abkoppeln));
 }

@@ -1,7 +1,7 @@
 // Instruction before the zero-point correction.
 #pragma once
 
-#include "screens.h"
+#include "session/screens.h"
 #include "ui_frmVorStatNPK.h"
 
 class frmVorStatNPK : public Screen {

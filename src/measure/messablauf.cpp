@@ -1,10 +1,10 @@
-#include "messablauf.h"
+#include "measure/messablauf.h"
 
-#include "frmMessen.h"
-#include "messwerte.h"
-#include "msgbox.h"
-#include "session.h"
-#include "sprache.h"
+#include "measure/frmMessen.h"
+#include "records/messwerte.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using namespace platform;
 
@@ -20,11 +20,11 @@ class OrdentlicherAblauf : public Messablauf {
     void vorSollwert() override {}
     void nachBlock() override {}
     void schrittFertig(frmMessen &screen) override { screen.fnc_MesswertSpeichern(); }
-    void rezeptEnde(frmMessen &) override { gMessStatus = messstatus::Ruhe; }
+    void rezeptEnde(frmMessen &) override { gMessStatus = Messstatus::Ruhe; }
 
     void beimVerlassen(Weggang weggang) override {
         if (protokollHatMesswerte(gProtokollID)) {
-            gBerichtAntwort = 6;
+            gBerichtAntwort = Yes;
             return;
         }
         if (protokollHatBlätter(gProtokollID))

@@ -5,7 +5,7 @@
 
 #include <QString>
 
-#include "recordset.h"
+#include "store/recordset.h"
 
 class frmMessen;
 

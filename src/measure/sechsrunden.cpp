@@ -1,4 +1,4 @@
-#include "sechsrunden.h"
+#include "measure/sechsrunden.h"
 
 namespace {
 constexpr std::uint8_t syncByte = 0xFF;

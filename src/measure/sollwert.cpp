@@ -1,7 +1,7 @@
-#include "sollwert.h"
+#include "measure/sollwert.h"
 
-#include "runtime.h"
-#include "sqltext.h"
+#include "platform/runtime.h"
+#include "store/sqltext.h"
 
 double boxWert(QString text) {
     fnc_KommaZuPunkt(text);

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "fehler.h"
+#include "platform/fehler.h"
 
 inline const Text drehzahlAußerhalb{"Drehzahl liegt außerhalb des gültigen Bereiches",
                                     "The permissible number of revolutions has been exeeded!"};

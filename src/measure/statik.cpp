@@ -1,10 +1,10 @@
-#include "statik.h"
+#include "measure/statik.h"
 
 #include <QString>
 
 #include <cmath>
 
-#include "runtime.h"
+#include "platform/runtime.h"
 
 using namespace platform;
 

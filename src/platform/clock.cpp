@@ -1,4 +1,4 @@
-#include "clock.h"
+#include "platform/clock.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -6,7 +6,7 @@
 #include <thread>
 #include <unordered_map>
 
-#include "screen.h"
+#include "platform/guard.h"
 
 namespace platform {
 

@@ -1,4 +1,4 @@
-#include "fehler.h"
+#include "platform/fehler.h"
 
 namespace platform {
 

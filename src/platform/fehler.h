@@ -4,7 +4,7 @@
 
 #include <exception>
 
-#include "text.h"
+#include "platform/text.h"
 
 namespace platform {
 

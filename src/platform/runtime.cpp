@@ -1,9 +1,9 @@
-#include "runtime.h"
+#include "platform/runtime.h"
 
 #include <cmath>
 #include <optional>
 
-#include "fehler.h"
+#include "platform/fehler.h"
 
 namespace platform {
 

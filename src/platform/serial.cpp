@@ -1,11 +1,11 @@
-#include "serial.h"
+#include "platform/serial.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QSerialPort>
 #include <QStringList>
 
-#include "fehler.h"
+#include "platform/fehler.h"
 
 namespace platform {
 

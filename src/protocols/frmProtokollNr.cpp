@@ -1,11 +1,11 @@
-#include "frmProtokollNr.h"
+#include "protocols/frmProtokollNr.h"
 
 #include <QLineEdit>
 
-#include "protokollliste.h"
-#include "protokollnummer.h"
-#include "session.h"
-#include "sprache.h"
+#include "protocols/protokollliste.h"
+#include "records/protokollnummer.h"
+#include "session/session.h"
+#include "session/sprache.h"
 
 namespace {
 

@@ -2,8 +2,8 @@
 // values yet, or the last one if nothing has changed since. Shown modally before a measurement.
 #pragma once
 
-#include "protokolldialog.h"
-#include "session.h"
+#include "protocols/protokolldialog.h"
+#include "session/session.h"
 #include "ui_frmProtokollNr.h"
 
 class frmProtokollNr : public Protokolldialog {

@@ -1,8 +1,8 @@
-#include "frmProtokollNr_1.h"
+#include "protocols/frmProtokollNr_1.h"
 
-#include "protokollnummer.h"
-#include "session.h"
-#include "sprache.h"
+#include "records/protokollnummer.h"
+#include "session/session.h"
+#include "session/sprache.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The dialog for the protocol of a measurement reduced to the name of a new protocol.
 #pragma once
 
-#include "protokolldialog.h"
+#include "protocols/protokolldialog.h"
 #include "ui_frmProtokollNr_1.h"
 
 class frmProtokollNr_1 : public Protokolldialog {

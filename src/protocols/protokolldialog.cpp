@@ -1,14 +1,14 @@
-#include "protokolldialog.h"
+#include "protocols/protokolldialog.h"
 
-#include "session.h"
-#include "sprache.h"
+#include "session/session.h"
+#include "session/sprache.h"
 
 void Protokolldialog::messfensterVerbergen() {
     if (Screen *messen = loaded(frm::Messen))
         messen->hide();
 }
 
-void Protokolldialog::abschließen(std::int16_t messStatus) {
+void Protokolldialog::abschließen(Messstatus messStatus) {
     gMessStatus = messStatus;
     mAbgeschlossen = true;
     unload();

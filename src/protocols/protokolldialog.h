@@ -4,22 +4,22 @@
 
 #include <cstdint>
 
-#include "fehler.h"
-#include "screens.h"
-#include "status.h"
+#include "platform/fehler.h"
+#include "session/screens.h"
+#include "session/status.h"
 
 class Protokolldialog : public Screen {
   protected:
     /// `vorsatz` stands before the protocol in the caption of the measurement screen.
     explicit Protokolldialog(Text vorsatz) : mVorsatz(std::move(vorsatz)) {}
 
-    static constexpr std::int16_t angenommen =
-        messstatus::Messen; ///< there is a head under gProtokollID
-    static constexpr std::int16_t abgebrochen = messstatus::Ende;
+    static constexpr Messstatus angenommen =
+        Messstatus::Messen; ///< there is a head under gProtokollID
+    static constexpr Messstatus abgebrochen = Messstatus::Ende;
 
     static void messfensterVerbergen();
     /// Closes the dialog with this outcome.
-    void abschließen(std::int16_t messStatus);
+    void abschließen(Messstatus messStatus);
     /// The chosen protocol for captions: its number and name.
     virtual QString titel() const = 0;
 

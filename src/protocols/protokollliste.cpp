@@ -1,12 +1,12 @@
-#include "protokollliste.h"
+#include "protocols/protokollliste.h"
 
 #include <QComboBox>
 #include <QPushButton>
 
-#include "msgbox.h"
-#include "protokollnummer.h"
-#include "session.h"
-#include "sprache.h"
+#include "records/protokollnummer.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
 
 void protokollListeFüllen(QComboBox &liste, const QStringList &einträge) {
     liste.clear();

@@ -1,4 +1,4 @@
-#include "auswahl.h"
+#include "session/auswahl.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include <functional>
 
-#include "session.h"
+#include "session/session.h"
 
 struct Auswahl {
     QString kunde;

@@ -2,7 +2,7 @@
 // alone, so that a low floor can show a high screen without knowing it.
 #pragma once
 
-#include "screen.h"
+#include "windows/screen.h"
 
 enum class frm {
     // start-up and desktop
@@ -63,7 +63,7 @@ enum class frm {
 };
 
 /// The one instance, made and loaded on first use.
-inline Screen &screen(frm name) {
+inline Screen &form(frm name) {
     return platform::screenWithId(static_cast<int>(name));
 }
 
@@ -79,8 +79,8 @@ inline bool exists(frm name) {
 
 // Typed access, for the own floor and below: each class says `static constexpr frm id`.
 template <class S>
-S &screen() {
-    return static_cast<S &>(screen(S::id));
+S &form() {
+    return static_cast<S &>(form(S::id));
 }
 
 template <class S>

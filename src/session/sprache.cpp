@@ -1,4 +1,4 @@
-#include "sprache.h"
+#include "session/sprache.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -6,9 +6,9 @@
 #include <QLabel>
 #include <QMenu>
 
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
+#include "platform/runtime.h"
+#include "session/session.h"
+#include "windows/msgbox.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 
 #include <span>
 
-#include "fehler.h"
+#include "platform/fehler.h"
 
 /// German for gSprache 1, English for anything else.
 const QString &inSprache(const Text &text);

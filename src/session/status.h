@@ -5,8 +5,7 @@
 #include <cstdint>
 
 /// gMessStatus: what the measuring loop does next.
-namespace messstatus {
-enum : std::int16_t {
+enum class Messstatus : std::int16_t {
     Messen = 0,    ///< the loop runs, or runs at the next activation
     Speichern = 1, ///< save and go on
     FreieEingabe = 2,
@@ -18,21 +17,27 @@ enum : std::int16_t {
     Neu = 8,        ///< the screen was loaded again after 4 or 5
     Starten = 10,   ///< the starting notice is to be shown
 };
-}
 
 /// gEinlaufStatus: stage of the zero-point correction.
-namespace einlaufstatus {
-enum : std::int16_t { NichtBegonnen = 0, MotorWirdGestoppt = 1, Vorbereitet = 2, Gemessen = 3 };
-}
+enum class Einlaufstatus : std::int16_t {
+    NichtBegonnen = 0,
+    MotorWirdGestoppt = 1,
+    Vorbereitet = 2,
+    Gemessen = 3
+};
 
 /// gDesktopFolge: what the desktop does when it is activated next.
-namespace desktopfolge {
-enum : std::int16_t { Nichts = 0, Gerät = 2, Rezept = 3, Korrektur = 4, Messen = 5, Bericht = 6 };
-}
+enum class Desktopfolge : std::int16_t {
+    Nichts = 0,
+    Gerät = 2,
+    Rezept = 3,
+    Korrektur = 4,
+    Messen = 5,
+    Bericht = 6
+};
 
 /// gFormStatus: stage of the lever-arm calibration; 0 outside of one.
-namespace formstatus {
-enum : std::int16_t {
+enum class Formstatus : std::int16_t {
     Keiner = 0,
     RichtungFehlt = 1,
     Einlaufen = 3,
@@ -41,4 +46,3 @@ enum : std::int16_t {
     SchwereEingegeben = 6,
     Abgebrochen = 10,
 };
-}

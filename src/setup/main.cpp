@@ -7,9 +7,9 @@
 #include <QFileInfo>
 #include <QTextStream>
 
-#include "database.h"
-#include "fehler.h"
-#include "scripts.h"
+#include "platform/fehler.h"
+#include "store/database.h"
+#include "store/scripts.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "database.h"
+#include "store/database.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -7,11 +7,8 @@
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
-#include "msgbox.h"
-#include "runtime.h"
-#include "session.h"
-#include "sprache.h"
-#include "sqltext.h"
+#include "platform/runtime.h"
+#include "store/sqltext.h"
 
 using namespace platform;
 
@@ -238,21 +235,4 @@ void Datenbank::together(const std::function<void()> &statements) {
     statements();
     execute("COMMIT");
     undo.dismiss();
-}
-
-std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) {
-    static int gemeldet = 0;
-    try {
-        gDatenbank.openFile(datenbankName);
-    } catch (const Fehler &fehler) {
-        if (gSprache == 0)
-            gSprache = 1; // nobody can be asked for it any more
-        fehlerMerken(fehler);
-        if (fehler.number() == std::exchange(gemeldet, fehler.number()) && nochEinmal)
-            return 0;
-        meldung({"Fehler 1002-" + Str(fehler.number()) + ' ' + gFehlerText,
-                 "Error 1002-" + Str(fehler.number()) + ' ' + gFehlerText},
-                Critical, {"Fehler", "Error"});
-    }
-    return 0;
 }

@@ -13,8 +13,8 @@
 #include <memory>
 #include <vector>
 
-#include "fehler.h"
-#include "recordset.h"
+#include "platform/fehler.h"
+#include "store/recordset.h"
 
 namespace SQLite {
 class Database;
@@ -65,7 +65,3 @@ inline constexpr const char *datenbankName = "torvena470.mdb";
 /// at rest does not. Raises FileNotFound for a missing file, and what else keeps it from being
 /// opened.
 bool fnc_DateiGeöffnet(const QString &path);
-
-/// Opens the database of the current directory into gDatenbank. What fails is shown in a box, not
-/// raised; on another try not again, if it fails as before. Answers 0 always.
-std::int16_t fnc_DatenbankÖffnen(bool nochEinmal = false);

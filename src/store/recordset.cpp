@@ -1,8 +1,8 @@
-#include "recordset.h"
+#include "store/recordset.h"
 
-#include "fehler.h"
-#include "runtime.h"
-#include "sqltext.h"
+#include "platform/fehler.h"
+#include "platform/runtime.h"
+#include "store/sqltext.h"
 
 using namespace platform;
 

@@ -1,8 +1,8 @@
-#include "scripts.h"
+#include "store/scripts.h"
 
 #include <QFile>
 
-#include "database.h"
+#include "store/database.h"
 
 using namespace platform;
 

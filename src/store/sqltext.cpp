@@ -1,4 +1,4 @@
-#include "sqltext.h"
+#include "store/sqltext.h"
 
 #include <QRegularExpression>
 

@@ -4,8 +4,8 @@
 
 #include <algorithm>
 
-#include "database.h"
-#include "scripts.h"
+#include "store/database.h"
+#include "store/scripts.h"
 
 using namespace platform;
 

@@ -180,7 +180,7 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
     for (int name = 0; name <= int(frm::Test); ++name) {
         if (!exists(frm(name)))
             continue;
-        const Screen &other = screen(frm(name));
+        const Screen &other = form(frm(name));
         SCOPED_TRACE(other.caption().toStdString());
         if (!mSeen.contains(&typeid(other)))
             inspect(other);

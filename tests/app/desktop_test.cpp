@@ -1,7 +1,7 @@
 // The desktop: what a selection allows, and the choice of the motor's direction.
-#include "auswahl.h"
-#include "front.h"
-#include "session.h"
+#include "session/auswahl.h"
+#include "session/motorfenster.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {
@@ -33,7 +33,7 @@ JOURNEY_P(Desktop, AllowsWhatTheSelectionAllows) {
     gerätWählen("Typ", "4711");
     co_await go("can pbMessen mnuStartMessen ; desktop ~ ^Praxis.Typ.4711.Kurz");
     // A measurement that was forbidden is allowed by a choice, and by nothing else.
-    front().setMessenEnabled(false);
+    motorfenster().setMessenEnabled(false);
     act(english() ? "mnuDeutsch" : "mnuEnglisch");
     datumZeigen("01.01.2030");
     co_await go("cannot pbMessen mnuStartMessen");
@@ -50,12 +50,12 @@ JOURNEY_P(Desktop, DirectionOfRotation) {
         cannot laRechts ; Desktop.lbDrehrichtung ==
         key Return ; @Desktop ; lbDrehrichtung == Linkslauf | Left ; can pbMotein)");
     // Shown again as it is; a calibration goes on where it waits.
-    front().setMoteinEnabled(false);
+    motorfenster().setMoteinEnabled(false);
     co_await go(
         "pbDrehR ; @MotorDrehR ; can laLinks ; cannot laRechts ; checked obLinks ; obRechts");
-    gFormStatus = formstatus::RichtungFehlt;
+    gFormStatus = Formstatus::RichtungFehlt;
     co_await go("pbok");
-    EXPECT_EQ(gFormStatus, formstatus::Einlaufen);
+    EXPECT_EQ(gFormStatus, Formstatus::Einlaufen);
     co_await go(R"(
         @Desktop ; lbDrehrichtung == Rechtslauf | Right ; cannot pbMotein
         pbDrehR ; @MotorDrehR ; ? noDirection ; pbAbbrechen ; @Desktop ; chosen == 0

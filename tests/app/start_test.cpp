@@ -4,10 +4,11 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include "msgbox.h"
-#include "seriennummer.h"
-#include "session.h"
-#include "start.h"
+#include "app/seriennummer.h"
+#include "app/start.h"
+#include "platform/guard.h"
+#include "session/session.h"
+#include "windows/msgbox.h"
 #include "workplace.h"
 
 namespace {

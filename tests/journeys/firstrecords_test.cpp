@@ -6,7 +6,7 @@
 
 #include <QTest>
 
-#include "scripts.h"
+#include "store/scripts.h"
 #include "workplace.h"
 
 namespace {

@@ -1,13 +1,13 @@
 // The measuring screen in the hands of an operator, and what a test sees of it.
 #pragma once
 
-#include "controller.h"
-#include "einlauf.h"
-#include "runtime.h"
-#include "session.h"
+#include "app/start.h"
+#include "link/controller.h"
+#include "link/einlauf.h"
+#include "platform/runtime.h"
+#include "session/session.h"
 #include "standcommands.h"
-#include "start.h"
-#include "waiting.h"
+#include "windows/waiting.h"
 #include "workplace.h"
 
 namespace support {
@@ -65,7 +65,7 @@ class Measuring : public Workplace {
         views["process"] = [] {
             return gDesktopAktiv || gDatenbank.isOpen() || loaded(frm::Desktop) ? "runs" : "over";
         };
-        views["status"] = [] { return QString::number(gMessStatus); };
+        views["status"] = [] { return QString::number(int(gMessStatus)); };
         views["waiting"] = [] { // the buttons that wait to be pressed
             QStringList names;
             for (const auto *button : loaded(frm::Messen)->findChildren<QAbstractButton *>()) {

@@ -1,7 +1,7 @@
 // The running-in countdown.
-#include "einlaufwert.h"
+#include "link/einlaufwert.h"
 #include "linktest.h"
-#include "runtime.h"
+#include "platform/runtime.h"
 
 namespace {
 
@@ -55,21 +55,24 @@ TEST_F(Countdown, RunsOnTheWindowOfTheMotor) {
     EXPECT_EQ(window.einlauf, "00:00");
     EXPECT_EQ(beeps, 1);
     EXPECT_FALSE(tiEinlauf.enabled());
-    EXPECT_EQ(gFormStatus, 0);
+    EXPECT_EQ(gFormStatus, Formstatus::Keiner);
     motorzeitMerken();
     EXPECT_EQ(gRestMinuten * 60 + gRestSekunden, 62);
 }
 
-TEST_F(Countdown, RunsOnTheCalibrationWhileThatIsInFrontAndEndsWithTheDesktop) {
-    Told calibration(frm::Kalibrierung);
-    gFormStatus = formstatus::Einlaufen;
+TEST_F(Countdown, RunsOnAllWindowsAndEndsWithTheDesktop) {
+    Window calibration;
+    enterMotorfenster(calibration);
+    gFormStatus = Formstatus::Einlaufen;
     begin(0.01);
     clock.run(1500);
-    EXPECT_EQ(calibration.last(), "00:00");
-    EXPECT_EQ(gFormStatus, formstatus::Einlaufen);
+    EXPECT_EQ(calibration.einlauf + window.einlauf, "00:0000:00");
+    leaveMotorfenster(calibration);
+    EXPECT_EQ(gFormStatus, Formstatus::Einlaufen);
     clock.run(1000);
-    EXPECT_EQ(gFormStatus, formstatus::Korrektur);
-    gFormStatus = 0; // on the window again, and over with the desktop
+    EXPECT_EQ(gFormStatus, Formstatus::Korrektur);
+    gFormStatus = {}; // on the window again, and over with the desktop
+    window.einlauf.clear();
     begin(1);
     clock.after(500, [] { gDesktopAktiv = false; });
     clock.run(3000);

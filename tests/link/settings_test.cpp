@@ -1,7 +1,7 @@
 // The settings of the line to the controller and of the running-in.
-#include "controller.h"
-#include "interface.h"
-#include "session.h"
+#include "link/controller.h"
+#include "link/interface.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {

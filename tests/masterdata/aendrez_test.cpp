@@ -1,7 +1,7 @@
 // A recipe is changed: the working copy of its steps, what becomes of it, and the way back.
 #include <QAbstractItemView>
 
-#include "session.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {
@@ -180,7 +180,7 @@ JOURNEY_P(RecipeEditor, LettersStandForWholeWords) {
         cmbPrArt = 1 ; cmbToleranz == medizinische Geräte | Without Tolerance
         cmbPrArt = x ; beeps == 1 ; cmbPrArt == ; specs == 1|2|8 | 7|2|8
         pbNeu ; txtDrehzahl = 90 ; txtLeistung = 77 ; cmbPrArt ^ ; cmbPrArt := Leistungsmessung)");
-    ::screen(frm::Meldung1).show(); // what is typed stays, whatever comes to the front meanwhile
+    form(frm::Meldung1).show(); // what is typed stays, whatever comes to the front meanwhile
     co_await go(R"(
         @Meldung1 ; @ÄndRez ; pass 100 ; fields == 6|90|77|L S-ID 4 ; focus cmbPrArt
         cmbToleranz == medizinische Geräte | Without Tolerance)");

@@ -1,6 +1,6 @@
 // Customers and units: found while typing, by a search and by what belongs to them, and chosen.
-#include "front.h"
-#include "session.h"
+#include "session/motorfenster.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {
@@ -90,7 +90,7 @@ JOURNEY_P(Choosers, ChangeTheDesktop) {
 
 JOURNEY_P(Choosers, AreLeftWithoutAChoice) {
     co_await go("select");
-    front().setMessenEnabled(false); // after a failed correction: only a choice helps
+    motorfenster().setMessenEnabled(false); // after a failed correction: only a choice helps
     co_await go(R"(
         pbKunde ; @Kunden ; cmbKundenname := Kantonsspital Seewilen ; key Escape ; @Desktop
         pbGerät ; @Gerät ; cmbIdent := AEH-002 ; key Escape ; @Desktop

@@ -1,7 +1,7 @@
 // Customers and units entered, changed and deleted, and how lists and desktop follow.
-#include "geraetedaten.h"
-#include "session.h"
-#include "umbruch.h"
+#include "controls/umbruch.h"
+#include "records/geraetedaten.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {

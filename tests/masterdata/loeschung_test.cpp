@@ -1,5 +1,5 @@
 // Deleting a customer or a unit: what is counted, what is asked, and what is left in every table.
-#include "loeschung.h"
+#include "masterdata/loeschabfrage.h"
 #include "workshop.h"
 
 namespace {
@@ -49,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Records, Deletion, testing::Bool());
 
 TEST_P(Deletion, LeavesWhatBelongsToOthers) {
     const bool customer = GetParam();
-    const Löschplan &plan = customer ? kundenplan : geräteplan;
+    const Löschziel plan = customer ? Löschziel::Kunde : Löschziel::Gerät;
     const auto demo = [] {
         return column("SELECT ProtokollID FROM Protokoll WHERE ProtokollID < 1000 UNION "
                       "SELECT ProtokollID FROM Protokoll_temp WHERE ProtokollID < 1000");
@@ -95,14 +95,14 @@ TEST_F(Records, AreDeletedUpToAFailureAndFromThereOn) {
     EXPECT_EQ(geräteZählen(victim), 2);
     EXPECT_EQ(geräteZählen(4711), 0);
     spoil("DELETE", "Messwerte");
-    EXPECT_NE(raised([] { datensatzLöschen(kundenplan, victim); }), 0);
+    EXPECT_NE(raised([] { datensatzLöschen(Löschziel::Kunde, victim); }), 0);
     EXPECT_EQ(keysOf("Protokoll_temp", "ProtokollID"), "");
     EXPECT_EQ(keysOf("SecControl", "ProtokollID"), "1003")
         << "the sheets of 1002 went before its measured values, and they stay gone";
     EXPECT_EQ(keysOf("Protokoll", "ProtokollID"), "1002 1003");
     EXPECT_EQ(geräteZählen(victim), 2);
     mend();
-    datensatzLöschen(kundenplan, victim);
+    datensatzLöschen(Löschziel::Kunde, victim);
     EXPECT_EQ(keysOf("Protokoll", "ProtokollID"), "");
     EXPECT_EQ(keysOf("Kunden", "KundenID"), "102");
 }

@@ -1,7 +1,7 @@
 // A new recipe: its name, its steps, leaving it, and filling it from another one.
 #include <QTest>
 
-#include "session.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {
@@ -114,7 +114,7 @@ JOURNEY_P(NewRecipe, StepsAreStoredOneByOne) {
         txtDrehzahl = 50 ; txtLeistung = 5 ; cmbPrArt = 1 ; look == 1 50/5/L save@pbSave SN(<>) []
         pbSave ; look == 2 // enter@txtDrehzahl (<>)O [1:50/5/1]
         sql SELECT count(*) FROM Rezepte WHERE RezeptID <= 5 == 37 ; txtDrehzahl = 90 ; txtLeistung = 7)");
-    ::screen(frm::Meldung1).show(); // what is typed stays, whatever comes to the front meanwhile
+    form(frm::Meldung1).show(); // what is typed stays, whatever comes to the front meanwhile
     co_await go("@Meldung1 ; @NeuRezept ; pass 100 ; fields == 2 90/7/ enter@txtLeistung (<>)O");
 }
 

@@ -1,5 +1,5 @@
 // Recipes: looked at, chosen for the session, and deleted.
-#include "session.h"
+#include "session/session.h"
 #include "workplace.h"
 
 namespace {

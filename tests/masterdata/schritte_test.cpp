@@ -1,10 +1,10 @@
 // Test steps of a recipe: what may be entered, and how their numbers are kept without gaps.
 #include <random>
 
-#include "pruefschritt.h"
-#include "runtime.h"
-#include "schrittliste.h"
-#include "session.h"
+#include "masterdata/pruefschritt.h"
+#include "platform/runtime.h"
+#include "records/schrittliste.h"
+#include "session/session.h"
 #include "workshop.h"
 
 namespace {

@@ -1,5 +1,5 @@
 // The screen of the specifications: its states, its checks, what it writes, and failures.
-#include "frmToleranzen.h"
+#include "masterdata/frmToleranzen.h"
 #include "workplace.h"
 
 namespace {

@@ -1,10 +1,10 @@
 // The verdicts over a step. What is expected was worked out in decimal arithmetic.
-#include "bewertung.h"
+#include "measure/bewertung.h"
 
-#include "drehmoment.h"
-#include "messwerte.h"
-#include "runtime.h"
-#include "session.h"
+#include "platform/runtime.h"
+#include "records/messwerte.h"
+#include "session/drehmoment.h"
+#include "session/session.h"
 #include "workshop.h"
 
 namespace {

@@ -4,8 +4,8 @@
 #include <random>
 
 #include "cases.h"
-#include "sechsrunden.h"
-#include "statik.h"
+#include "measure/sechsrunden.h"
+#include "measure/statik.h"
 
 namespace {
 

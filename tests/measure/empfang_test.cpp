@@ -1,5 +1,5 @@
 // The receiving end of the six-round stream: what is shown, what ends it, what a person is told.
-#include "empfang.h"
+#include "measure/empfang.h"
 
 #include "../link/linktest.h"
 
@@ -19,7 +19,7 @@ class Reception : public support::ScriptTest, protected Messanzeige {
     void show(const QString &what, double value) {
         shown += what + QString::number(value) + ' ';
         if (what == endsAt)
-            gMessStatus = messstatus::Speichern;
+            gMessStatus = Messstatus::Speichern;
     }
     void receive() { reception.fnc_SechsRundenEmpfang(*this); }
 
@@ -36,7 +36,7 @@ TEST_F(Reception, ShowsEachValueAsItComes) {
     receive();
     EXPECT_EQ(shown, "n60 D30 P180 frame0 ") << "nothing behind the end";
 
-    gMessStatus = messstatus::Messen;
+    gMessStatus = Messstatus::Messen;
     shown.clear();
     endsAt = "n";
     arrive({frame});
@@ -47,11 +47,11 @@ TEST_F(Reception, ShowsEachValueAsItComes) {
 
 TEST_F(Reception, EndsWhenANewerPassOrTheEndOfTheProgramWantsIt) {
     const std::function<void()> ends[] = {
-        [] { gDesktopAktiv = false; }, [] { gMessStatus = messstatus::Ende; },
+        [] { gDesktopAktiv = false; }, [] { gMessStatus = Messstatus::Ende; },
         [this] { superseded = true, MSComm1.setPortOpen(false); }};
     for (const auto &end : ends) {
         gDesktopAktiv = true;
-        gMessStatus = messstatus::Messen;
+        gMessStatus = Messstatus::Messen;
         const double start = clock.elapsed();
         clock.after(5000, end);
         receive();
@@ -68,7 +68,7 @@ TEST_F(Reception, AFrameThatDoesNotEndIsReportedAndTheReceptionGoesOn) {
         arrive({frame.mid(4), frame}, 1000); // ends the spoilt one
     });
     endsAt = "";
-    clock.after(40'000, [] { gMessStatus = messstatus::Ende; });
+    clock.after(40'000, [] { gMessStatus = Messstatus::Ende; });
     receive();
     EXPECT_TRUE(gStopMessung);
     EXPECT_TRUE(shown.endsWith("n60 D30 P180 frame0 ")) << shown;
@@ -80,7 +80,7 @@ TEST_F(Reception, TimeOutsAndALostLineAreTold) {
     expectKnown("noReception");
     receive();
     EXPECT_FALSE(gTimeoutTimer1);
-    EXPECT_EQ(gMessStatus, messstatus::Messen);
+    EXPECT_EQ(gMessStatus, Messstatus::Messen);
     arrive({frame.left(5)}); // the watch over it ends with the reception
     clock.after(1000, [this] { line.unplug(); });
     expectKnown("lineLost");

@@ -11,7 +11,7 @@
 #include <unistd.h>
 
 #include "cases.h"
-#include "serial.h"
+#include "platform/serial.h"
 #include "testclock.h"
 
 namespace {

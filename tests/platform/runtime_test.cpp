@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "cases.h"
-#include "runtime.h"
+#include "platform/runtime.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The move into the archive, and what a failure leaves where.
-#include "archiv.h"
-#include "protokollnummer.h"
+#include "protocols/archivieren.h"
 #include "protokolltest.h"
+#include "records/protokollnummer.h"
 
 namespace {
 

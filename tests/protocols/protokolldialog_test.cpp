@@ -1,6 +1,6 @@
 // The dialogs before a measurement: which protocol, and that every way out is a decision.
+#include "app/screentable.h"
 #include "protokolltest.h"
-#include "screentable.h"
 
 namespace {
 
@@ -28,18 +28,18 @@ class ProtokollDialog : public ProtokollTest {
         views["outcome"] = [] {
             const QString flow = gMessungLäuft ? "open " : "over ",
                           how = gMessenAktiv ? " on " : " new ";
-            return flow + QString::number(gMessStatus) + how + QString::number(aktivierungen) +
+            return flow + QString::number(int(gMessStatus)) + how + QString::number(aktivierungen) +
                    ' ' + loaded(frm::Messen)->caption() + '.';
         };
     }
     static Journey open(frm name = frm::ProtokollNr) {
-        screen(frm::Messen).show();
+        form(frm::Messen).show();
         co_await arrive(frm::Messen);
-        gMessStatus = messstatus::Ruhe;
+        gMessStatus = Messstatus::Ruhe;
         gMessungLäuft = gMessenAktiv = true;
         aktivierungen = 0;
-        screen(frm::Messen).setCaption("Messen");
-        screen(name).showModal();
+        form(frm::Messen).setCaption("Messen");
+        form(name).showModal();
         co_await arrive(name);
         EXPECT_FALSE(loaded(frm::Messen)->isVisible());
     }
@@ -74,7 +74,7 @@ JOURNEY(ProtokollDialog, LeavingWithoutDecisionIsACancel) {
     for (const QString out : {"pbexit", "close"}) {
         co_await open();
         act("obNeu");
-        gMessStatus = messstatus::Messen; // whatever it was before
+        gMessStatus = Messstatus::Messen; // whatever it was before
         co_await go(out + " ; @Messfenster ; outcome == over 4 new 1 Messen. ; "
                           "sql SELECT * FROM Protokoll_temp ==");
         EXPECT_EQ(gProtokollTitel, "");

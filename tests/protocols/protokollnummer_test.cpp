@@ -1,5 +1,5 @@
 // Numbers, empty protocols, continuing, heads.
-#include "protokollnummer.h"
+#include "records/protokollnummer.h"
 
 #include "protokolltest.h"
 

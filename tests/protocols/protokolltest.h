@@ -3,9 +3,9 @@
 
 #include <QFile>
 
-#include "clock.h"
-#include "scripts.h"
-#include "session.h"
+#include "platform/clock.h"
+#include "session/session.h"
+#include "store/scripts.h"
 #include "way.h"
 
 class ProtokollTest : public support::Way {

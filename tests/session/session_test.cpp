@@ -1,7 +1,7 @@
 // The language of the session, its boxes, the selection, and the window that runs the motor.
 #include "../link/linktest.h"
-#include "auswahl.h"
-#include "sprache.h"
+#include "session/auswahl.h"
+#include "session/sprache.h"
 
 namespace {
 
@@ -92,12 +92,12 @@ TEST_F(Session, AnotherCustomerTakesTheUnitAway) {
 
 TEST_F(Session, TheFrontEnteredLastIsInForce) {
     Window desktop, finalTest;
-    EXPECT_EQ(front().drehrichtung(), "");
+    EXPECT_EQ(motorfenster().drehrichtung(), "");
     QString asked; // how often each was enabled by now; once in, once out
     for (const QString step : {"-d", "+d", "+f", "-d", "+d", "+d", "-d", "-f"}) {
         Window &window = step.endsWith('d') ? desktop : finalTest;
-        step.startsWith('+') ? enterFront(window) : leaveFront(window);
-        front().enableFront();
+        step.startsWith('+') ? enterMotorfenster(window) : leaveMotorfenster(window);
+        motorfenster().enableFront();
         asked += QString(" %1%2").arg(desktop.enabled).arg(finalTest.enabled);
     }
     EXPECT_EQ(asked, " 00 10 11 12 22 32 33 33");

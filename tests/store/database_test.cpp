@@ -7,10 +7,10 @@
 
 #include <sys/resource.h>
 
-#include "recordsetmodel.h"
-#include "runtime.h"
-#include "scripts.h"
-#include "sqltext.h"
+#include "controls/recordsetmodel.h"
+#include "platform/runtime.h"
+#include "store/scripts.h"
+#include "store/sqltext.h"
 #include "workshop.h"
 
 namespace {

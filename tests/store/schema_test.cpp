@@ -1,7 +1,7 @@
 // The delivered SQL: tables, stored queries, rows and demo data.
 #include <QRegularExpression>
 
-#include "scripts.h"
+#include "store/scripts.h"
 #include "workshop.h"
 
 namespace {

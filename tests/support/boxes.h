@@ -8,7 +8,7 @@
 #include <list>
 #include <vector>
 
-#include "msgbox.h"
+#include "windows/msgbox.h"
 
 namespace support {
 

@@ -3,7 +3,7 @@
 // at the end stands for anything.
 #pragma once
 
-#include "msgbox.h"
+#include "windows/msgbox.h"
 
 namespace support {
 

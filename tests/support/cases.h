@@ -7,7 +7,7 @@
 #include <ostream>
 #include <vector>
 
-#include "fehler.h"
+#include "platform/fehler.h"
 
 inline void PrintTo(const QString &text, std::ostream *out) {
     *out << '"' << text.toStdString() << '"';

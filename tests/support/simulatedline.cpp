@@ -1,6 +1,6 @@
 #include "simulatedline.h"
 
-#include "fehler.h"
+#include "platform/fehler.h"
 
 namespace support {
 

@@ -4,7 +4,7 @@
 #include <QByteArray>
 
 #include "farend.h"
-#include "serial.h"
+#include "platform/serial.h"
 #include "testclock.h"
 
 namespace support {

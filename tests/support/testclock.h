@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "clock.h"
+#include "platform/clock.h"
 
 namespace support {
 

@@ -13,10 +13,10 @@
 #include <cxxabi.h>
 #include <typeinfo>
 
-#include "runtime.h"
-#include "session.h"
+#include "platform/runtime.h"
+#include "session/session.h"
 #include "standcommands.h"
-#include "waiting.h"
+#include "windows/waiting.h"
 
 namespace support {
 

@@ -1,9 +1,9 @@
 #include "workplace.h"
 
-#include "auswahl.h"
-#include "controller.h"
-#include "session.h"
-#include "start.h"
+#include "app/start.h"
+#include "link/controller.h"
+#include "session/auswahl.h"
+#include "session/session.h"
 
 namespace support {
 

@@ -4,16 +4,16 @@
 
 #include <utility>
 
-#include "auswahl.h"
+#include "app/start.h"
 #include "boxtexts.h"
-#include "controller.h"
-#include "einlauf.h"
-#include "interface.h"
-#include "runtime.h"
-#include "scripts.h"
-#include "session.h"
-#include "sprache.h"
-#include "start.h"
+#include "link/controller.h"
+#include "link/einlauf.h"
+#include "link/interface.h"
+#include "platform/runtime.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/scripts.h"
 
 namespace support {
 
@@ -43,7 +43,11 @@ Workshop::~Workshop() {
 }
 
 void Workshop::forgetSession() {
-    gDrehrichtung = gMessStatus = gFormStatus = gEinlaufStatus = gDesktopFolge = 0;
+    gDrehrichtung = 0;
+    gMessStatus = {};
+    gFormStatus = {};
+    gEinlaufStatus = {};
+    gDesktopFolge = {};
     gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
     gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
     gEinlaufzeit = gEinlaufLeistung = 0;

@@ -8,11 +8,11 @@
 
 #include "boxes.h"
 #include "cases.h"
-#include "database.h"
 #include "journey.h"
+#include "platform/text.h"
 #include "simulatedline.h"
+#include "store/database.h"
 #include "testclock.h"
-#include "text.h"
 
 namespace support {
 

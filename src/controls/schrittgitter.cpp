@@ -1,0 +1,61 @@
+#include "controls/schrittgitter.h"
+
+#include <QHeaderView>
+#include <QScopedValueRollback>
+#include <QTableView>
+
+#include <algorithm>
+
+#include "controls/recordsetmodel.h"
+#include "session/sprache.h"
+
+void Schrittgitter::verbinden(QTableView *gitter, const QString &messart) {
+    mGitter = gitter;
+    mMessart = messart;
+    mModell = new RecordsetModel;
+    mModell->setParent(gitter);
+    gitter->setModel(mModell);
+    gitter->verticalHeader()->hide();
+}
+
+void Schrittgitter::beschriften() {
+    const auto right = Qt::AlignRight | Qt::AlignVCenter;
+    mModell->setSpalten({
+        {"Prüfschritt", inSprache({"Prüfschritt", "Test step"}), right},
+        {"Drehzahl", inSprache({"Drehzahl (1/min)", "Speed (1/min)"}), right},
+        {"Leistung", inSprache({"Leistung (W)", "Power (W)"}), right},
+        {mMessart, inSprache({"Messart", "Type"})},
+    });
+    QHeaderView *head = mGitter->horizontalHeader();
+    head->setSectionResizeMode(QHeaderView::ResizeToContents);
+    head->setStretchLastSection(true);
+    head->setHighlightSections(false); // bold heads would not fit their columns
+}
+
+void Schrittgitter::zeigen(const Recordset &schritte) {
+    const QScopedValueRollback own(mSelbst, true);
+    mModell->setRecordset(schritte);
+}
+
+const Recordset &Schrittgitter::schritte() const {
+    return mModell->recordset();
+}
+
+int Schrittgitter::zeile() const {
+    return mGitter->currentIndex().row();
+}
+
+void Schrittgitter::gehen(int zeile) {
+    if (leer())
+        return;
+    const QScopedValueRollback own(mSelbst, true);
+    const int row = std::clamp(zeile, 0, schritte().count() - 1);
+    mGitter->setCurrentIndex(mModell->index(row, 0));
+    mGitter->scrollTo(mGitter->currentIndex());
+}
+
+Recordset Schrittgitter::aktuell() const {
+    Recordset rows = schritte();
+    rows.moveTo(zeile());
+    return rows;
+}

@@ -1,0 +1,118 @@
+#include "records/messwerte.h"
+
+#include <cmath>
+
+#include "platform/runtime.h"
+#include "session/session.h"
+#include "store/database.h"
+
+namespace {
+
+std::optional<double> zahlOderNichts(const Feld &feld) {
+    return feld.isNull() ? std::nullopt : std::optional(feld.number());
+}
+
+Unsicherheiten uncertaintyTable(const QString &table) {
+    Recordset rows = gDatenbank.open("SELECT * FROM " + table);
+    Unsicherheiten list;
+    for (; !rows.atEnd(); rows.moveNext())
+        list.push_back({zahlOderNichts(rows[1]), zahlOderNichts(rows[2])});
+    return list;
+}
+
+/// Leaves the cursor on the row of the step.
+bool fnc_SchrittVorhanden(Recordset &rows, const QString &schritt) {
+    for (; !rows.atEnd(); rows.moveNext()) {
+        if (rows["Prüfschritt"].text() == schritt)
+            return true;
+    }
+    return false;
+}
+
+/// The row was measured under the set-points of another recipe.
+bool andererSchritt(const Recordset &zeile, const Messwert &wert) {
+    const double abstand = std::fabs(zeile["Soll_n"].number() - wert.schrittDrehzahl);
+    return zeile["Soll_P"].number() != Feld(wert.texte.soll_P).number() ||
+           Round(abstand, 6) > Round(wert.schrittDrehzahl / 10, 6);
+}
+
+} // namespace
+
+Recordset messSchritte(int rezeptID) {
+    return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, Prüfart FROM Rezepte "
+                           "WHERE RezeptID = ? ORDER BY Val(Prüfschritt)",
+                           {rezeptID});
+}
+
+Recordset protokollMesswerte(int protokollID) {
+    return gDatenbank.open(
+        "SELECT * FROM Messwerte_temp WHERE ProtokollID = ? ORDER BY "
+        "iif(length(Prüfschritt) = 1, '0' || Prüfschritt, Prüfschritt), MDat, rowid",
+        {protokollID});
+}
+
+bool toleranzLesen(int toleranzID, ToleranzZeile &zeile) {
+    const Recordset row = gDatenbank.open(
+        "SELECT Bezeichnung, Prozent, Watt, GrenzAbw FROM Toleranzen WHERE Toleranzen.ID = ?",
+        {toleranzID});
+    if (row.empty())
+        return false;
+    zeile.bezeichnung = row[0].text();
+    zeile.spezifikation = {row[1].number(), row[2].number(),
+                           static_cast<std::int16_t>(Round(row[3].number()))};
+    return true;
+}
+
+Unsicherheiten unsicherheitLeistung() {
+    return uncertaintyTable("MU_Leistung");
+}
+
+Unsicherheiten unsicherheitDrehzahl() {
+    return uncertaintyTable("MU_Drehzahl");
+}
+
+void messwertSpeichern(const Messwert &wert) {
+    const SchrittTexte &texte = wert.texte;
+    const bool german = gSprache == 1;
+    const QString ohne = wert.urteil.ohne ? (german ? "ja" : "yes") : (german ? "nein" : "no");
+    Recordset zeilen = gDatenbank.open("SELECT Prüfschritt, Soll_n, Soll_P FROM Messwerte_temp "
+                                       "WHERE ProtokollID = ?",
+                                       {wert.protokollID});
+    if (wert.prüfschritt != freierSchritt && fnc_SchrittVorhanden(zeilen, wert.prüfschritt)) {
+        const bool andere = andererSchritt(zeilen, wert);
+        const QVariant soll_n = andere ? texte.soll_n : zeilen["Soll_n"].value();
+        const QVariant soll_P = andere ? texte.soll_P : zeilen["Soll_P"].value();
+        gDatenbank.execute("UPDATE Messwerte_temp SET Soll_n = ?, Soll_P = ?, IST_n_torvena = ?, "
+                           "IST_P_torvena = ?, IST_D_torvena = ?, IST_n_ergom = ?, MU_ohne = ?, "
+                           "MU_mit = ?, MU_Proz = ? WHERE Prüfschritt = ? AND ProtokollID = ?",
+                           {soll_n, soll_P, texte.ist_n_torvena, texte.ist_P_torvena,
+                            wert.ist_D_torvena, texte.ist_n_ergom, ohne, wert.urteil.mit,
+                            wert.urteil.muProz, wert.prüfschritt, wert.protokollID});
+        return;
+    }
+    gDatenbank.execute(
+        "INSERT INTO Messwerte_temp (ProtokollID, Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, "
+        "Ist_D_torvena, Ist_P_torvena, Ist_n_ergom, MU_ohne, MU_mit, MU_Proz) "
+        "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
+        {wert.protokollID, wert.prüfschritt, texte.soll_n, texte.soll_P, texte.ist_n_torvena,
+         wert.ist_D_torvena, texte.ist_P_torvena, texte.ist_n_ergom, ohne, wert.urteil.mit,
+         wert.urteil.muProz});
+}
+
+bool protokollHatMesswerte(int protokollID) {
+    return !gDatenbank
+                .open("SELECT 1 FROM Messwerte_temp WHERE ProtokollID = ? LIMIT 1", {protokollID})
+                .empty();
+}
+
+bool protokollHatBlätter(int protokollID) {
+    return !gDatenbank
+                .open("SELECT 1 FROM Blutdruck_temp WHERE ProtokollID = ?1 UNION ALL "
+                      "SELECT 1 FROM SecControl_temp WHERE ProtokollID = ?1 LIMIT 1",
+                      {protokollID})
+                .empty();
+}
+
+void protokollkopfLöschen(int protokollID) {
+    gDatenbank.execute("DELETE FROM Protokoll_temp WHERE ProtokollID = ?", {protokollID});
+}

@@ -1,0 +1,64 @@
+#include "records/normal.h"
+
+#include <algorithm>
+
+#include "session/session.h"
+#include "session/sprache.h"
+#include "store/database.h"
+#include "store/sqltext.h"
+
+void ohneFehlendeSpalte(const std::function<void()> &anweisung) {
+    try {
+        anweisung();
+    } catch (const Fehler &fehler) {
+        fehlerMerken(fehler);
+        if (fehler.number() != platform::fehlernummer::MissingColumn)
+            throw;
+    }
+}
+
+void normalÜbernehmen(const Recordset &zeile) {
+    // An older database may lack columns; what it has is taken all the same.
+    ohneFehlendeSpalte([&] { gSeriennummer = zeile[1].text(); });
+    ohneFehlendeSpalte([&] { gNKGerätetyp = zeile[2].text(); });
+    ohneFehlendeSpalte([&] { gKalibrierdatum = datumAus(zeile[4].text()); });
+    ohneFehlendeSpalte([&] { gNormalOffset = zeile[6].number(); });
+    ohneFehlendeSpalte([&] { gNormalGainR = zeile[7].number(); });
+    ohneFehlendeSpalte([&] { gNormalGainL = zeile[8].number(); });
+    ohneFehlendeSpalte([&] { gNormalGrenzwert = zeile[12].number(); });
+    ohneFehlendeSpalte([&] { gNormalAnzahl = static_cast<std::int16_t>(zeile[13].whole()); });
+}
+
+void letztesNormalLesen() {
+    Recordset rows = gDatenbank.open("SELECT * FROM Normalkalibrierdaten ORDER BY NK_ID");
+    rows.moveLast();
+    normalÜbernehmen(rows);
+}
+
+bool normalDatenLesen() {
+    Recordset rows = gDatenbank.open(
+        "SELECT * FROM Normalkalibrierdaten WHERE SerienNr = ? ORDER BY NK_ID", {gSeriennummer});
+    if (rows.empty())
+        return false;
+    rows.moveLast();
+    normalÜbernehmen(rows);
+    return true;
+}
+
+bool fnc_HebelarmDatumLesen() {
+    Recordset rows = gDatenbank.open("SELECT * FROM Hebelarmkalibrierung ORDER BY ID");
+    if (rows.empty())
+        return false;
+    rows.moveLast();
+    gHebelarmDatum = datumAus(rows[2].text());
+    gHebelarmFällig = gHebelarmDatum.addMonths(6);
+    return true;
+}
+
+int hebelarmRest(const QDate &datum, const QDate &fällig, const QDate &heute) {
+    const qint64 total = datum.daysTo(fällig);
+    if (total <= 0)
+        return 0;
+    const qint64 left = std::clamp<qint64>(total - datum.daysTo(heute), 0, total);
+    return static_cast<int>(left * 100 / total);
+}

@@ -1,0 +1,114 @@
+#include "records/protokollnummer.h"
+
+#include <algorithm>
+#include <limits>
+
+#include "platform/clock.h"
+#include "platform/runtime.h"
+#include "store/database.h"
+#include "store/sqltext.h"
+
+namespace {
+
+constexpr Schlüssel höchsteNummer = std::numeric_limits<Schlüssel>::max();
+
+/// What a head does not hold agrees with nothing.
+bool gleich(const Feld &feld, int wert) {
+    return !feld.isNull() && feld.whole() == wert;
+}
+
+QStringList ersteSpalte(Recordset rows) {
+    QStringList liste;
+    for (; !rows.atEnd(); rows.moveNext())
+        liste += rows[0].text();
+    return liste;
+}
+
+} // namespace
+
+Schlüssel nächsteProtokollNr() {
+    const double offen = gDatenbank.open("SELECT MAX(ProtokollID) FROM Protokoll_temp")[0].number();
+    const double archiviert = gDatenbank.open("SELECT MAX(ProtokollID) FROM Protokoll")[0].number();
+    const double höchste = std::max(offen, archiviert);
+    if (höchste >= höchsteNummer) {
+        throw Fehler(platform::fehlernummer::Overflow,
+                     {"Überlauf: Alle Protokollnummern sind vergeben.",
+                      "Overflow: All protocol numbers have been used."});
+    }
+    return static_cast<Schlüssel>(höchste + 1);
+}
+
+QStringList leereProtokolle() {
+    return ersteSpalte(gDatenbank.open(
+        "SELECT Protokoll_temp.ProtokollID || ' - ' || COALESCE(Protokoll_temp.Protokollname, '') "
+        "FROM Protokoll_temp LEFT JOIN Messwerte_temp"
+        " ON Protokoll_temp.ProtokollID = Messwerte_temp.ProtokollID "
+        "WHERE Messwerte_temp.ProtokollID IS NULL"
+        " AND Protokoll_temp.KundenID = ? AND Protokoll_temp.GerätID = ? "
+        "ORDER BY Protokoll_temp.ProtokollID",
+        {gKundenID, gGerätID}));
+}
+
+QStringList protokolleMitNummer(Schlüssel nummer) {
+    QStringList gefunden = leereProtokolle();
+    gefunden.removeIf(
+        [nummer](const QString &eintrag) { return protokollNrAus(eintrag) != nummer; });
+    return gefunden;
+}
+
+Schlüssel protokollNrAus(const QString &eintrag) {
+    const double nummer = Val(eintrag);
+    const bool möglich = nummer >= 1 && nummer <= höchsteNummer && nummer == Int(nummer);
+    return möglich ? static_cast<Schlüssel>(nummer) : 0;
+}
+
+LetztesProtokoll letztesProtokollPrüfen() {
+    LetztesProtokoll letztes;
+    letztes.nummer = gDatenbank
+                         .open("SELECT MAX(Protokoll_temp.ProtokollID) "
+                               "FROM Protokoll_temp INNER JOIN Messwerte_temp "
+                               "ON Protokoll_temp.ProtokollID = Messwerte_temp.ProtokollID")[0]
+                         .whole();
+    if (letztes.nummer < 1)
+        return letztes;
+    // Of the standard that is connected, unlike the head of a new protocol.
+    const Feld kalibrierung = gDatenbank.open(
+        "SELECT MAX(NK_ID) FROM Normalkalibrierdaten WHERE SerienNr = ?", {gSeriennummer})[0];
+    const Recordset kopf =
+        gDatenbank.open("SELECT * FROM Protokoll_temp WHERE ProtokollID = ?", {letztes.nummer});
+    const QDate erstellt = datumAus(kopf["ErstellDatum"].text());
+    letztes.name = kopf["Protokollname"].text();
+    letztes.fortsetzbar =
+        gleich(kopf["KundenID"], gKundenID) && gleich(kopf["GerätID"], gGerätID) &&
+        gleich(kopf["Drehrichtung"], gDrehrichtung) && gleich(kopf["PrüfungsArt"], gToleranzID) &&
+        !kopf["Messverfahren"].isNull() && kopf["Messverfahren"].text() == gMessverfahren &&
+        !kalibrierung.isNull() && gleich(kopf["NK_ID"], kalibrierung.whole()) &&
+        erstellt == platform::now().date();
+    return letztes;
+}
+
+void kopfAnlegen(Schlüssel nummer, const QString &name) {
+    const Feld normal = gDatenbank.open("SELECT MAX(NK_ID) FROM Normalkalibrierdaten")[0];
+    gDatenbank.together([&] {
+        gDatenbank.execute("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, Prüfername, "
+                           "GerätID, KundenID, Drehrichtung, PrüfungsArt, NK_ID, Messverfahren) "
+                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)",
+                           {nummer, name, gPrüfer, gGerätID, gKundenID, gDrehrichtung, gToleranzID,
+                            normal.value(), gMessverfahren});
+        // Left over under this number, by a move that ended half-way for instance.
+        for (const QString inhalt : {"Messwerte_temp", "SecControl_temp", "Blutdruck_temp"})
+            gDatenbank.execute("DELETE FROM " + inhalt + " WHERE ProtokollID = ?", {nummer});
+        for (const QString inhalt : {"Messwerte", "SecControl", "Blutdruck"}) {
+            gDatenbank.execute("DELETE FROM " + inhalt +
+                                   " WHERE ProtokollID = ?1 AND NOT EXISTS "
+                                   "(SELECT 1 FROM Protokoll WHERE ProtokollID = ?1)",
+                               {nummer});
+        }
+    });
+}
+
+bool kopfNachführen(Schlüssel nummer) {
+    return gDatenbank.execute("UPDATE Protokoll_temp SET Drehrichtung = ?, PrüfungsArt = ?, "
+                              "Messverfahren = ? WHERE ProtokollID = ?",
+                              {gDrehrichtung, gToleranzID, gMessverfahren, nummer}) > 0;
+}

@@ -1,0 +1,128 @@
+#include "records/schrittliste.h"
+
+#include "platform/runtime.h"
+#include "records/satz.h"
+#include "session/sprache.h"
+#include "store/database.h"
+
+namespace {
+
+/// Leaves a failing statement and goes on with the next.
+template <class Statement>
+void überspringen(Statement statement) try {
+    statement();
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
+}
+
+/// Raises for a step that no recipe may hold.
+void prüfen(const Schritt &schritt) {
+    CDbl(schritt.drehzahl);
+    CDbl(schritt.leistung);
+    if (schritt.nummer < 1 || schritt.prüfart == Prüfart::Keine)
+        throw Fehler(platform::fehlernummer::TypeMismatch,
+                     {"Der Prüfschritt ist unvollständig.", "The test step is incomplete."});
+}
+
+/// A number as the session writes it. What is none stays as it stands.
+QString angezeigt(const Feld &feld) {
+    const QString text = feld.text();
+    QString number = text;
+    number.replace(',', '.');
+    bool isNumber = false;
+    number.toDouble(&isNumber);
+    return isNumber ? CStr(feld.number()) : text;
+}
+
+} // namespace
+
+std::vector<Umnummerierung> platzSchaffen(int nummer, int größte) {
+    std::vector<Umnummerierung> plan;
+    for (int i = größte; i >= nummer; --i)
+        plan.push_back({i, i + 1});
+    return plan;
+}
+
+std::vector<Umnummerierung> lückeSchließen(int nummer, int größte) {
+    std::vector<Umnummerierung> plan;
+    for (int i = nummer + 1; i <= größte; ++i)
+        plan.push_back({i, i - 1});
+    return plan;
+}
+
+int Schrittliste::execute(const char *sql, const std::vector<QVariant> &params) const {
+    return gDatenbank.execute(QString(sql).arg(mTabelle), params);
+}
+
+int Schrittliste::größteNummer(Schlüssel rezeptID) const {
+    return gDatenbank
+        .open(QString("SELECT max(Val(Prüfschritt)) AS MaxPr FROM %1 WHERE RezeptID = ?")
+                  .arg(mTabelle),
+              {rezeptID})["MaxPr"]
+        .whole();
+}
+
+bool Schrittliste::vorhanden(Schlüssel rezeptID, int nummer) const {
+    return !gDatenbank
+                .open(QString("SELECT Prüfschritt FROM %1 WHERE RezeptID = ? "
+                              "AND Val(Prüfschritt) = ?")
+                          .arg(mTabelle),
+                      {rezeptID, nummer})
+                .empty();
+}
+
+void Schrittliste::anlegen(Schlüssel rezeptID, const Schritt &schritt) const {
+    prüfen(schritt);
+    execute("INSERT INTO %1 (RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart) "
+            "VALUES (?, ?, ?, ?, ?)",
+            {rezeptID, QString::number(schritt.nummer), schritt.drehzahl, CDbl(schritt.leistung),
+             QString::number(schritt.prüfart)});
+}
+
+void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
+    prüfen(schritt);
+    satzÄndern(QString("UPDATE %1 SET Drehzahl = ?, Leistung = ?, Prüfart = ? "
+                       "WHERE Val(Prüfschritt) = ? AND RezeptID = ?")
+                   .arg(mTabelle),
+               {schritt.drehzahl, CDbl(schritt.leistung), QString::number(schritt.prüfart),
+                schritt.nummer, rezeptID});
+}
+
+void Schrittliste::umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const {
+    execute("UPDATE %1 SET Prüfschritt = ? WHERE Val(Prüfschritt) = ? AND RezeptID = ?",
+            {QString::number(schritt.nach), schritt.von, rezeptID});
+}
+
+void Schrittliste::einfügen(Schlüssel rezeptID, const Schritt &schritt) const {
+    prüfen(schritt); // before anything has moved
+    for (const Umnummerierung &step : platzSchaffen(schritt.nummer, größteNummer(rezeptID)))
+        umnummerieren(rezeptID, step);
+    anlegen(rezeptID, schritt);
+}
+
+void Schrittliste::löschen(Schlüssel rezeptID, int nummer) const {
+    const int greatest = größteNummer(rezeptID);
+    überspringen([&] {
+        execute("DELETE FROM %1 WHERE Val(Prüfschritt) = ? AND RezeptID = ?", {nummer, rezeptID});
+    });
+    for (const Umnummerierung &step : lückeSchließen(nummer, greatest))
+        überspringen([&] { umnummerieren(rezeptID, step); });
+}
+
+Recordset gespeicherteSchritte(Schlüssel rezeptID, const Text &leistung, const Text &drehzahl) {
+    return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
+                           "IIF(Prüfart='1', ?, ?) AS Messart "
+                           "FROM Rezepte WHERE RezeptID = ? ORDER BY Val(Prüfschritt)",
+                           {inSprache(leistung), inSprache(drehzahl), rezeptID});
+}
+
+Recordset kopierteSchritte() {
+    return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
+                           "IIF(Prüfart='1', ?, ?) AS Messwerte FROM ÄndRez_temp",
+                           {inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
+}
+
+Schritt schrittAus(const Recordset &rows) {
+    return {rows["Prüfschritt"].whole(), angezeigt(rows["Drehzahl"]), angezeigt(rows["Leistung"]),
+            Prüfart::ausAnfang(rows[3].text())};
+}
