@@ -1,5 +1,6 @@
 // Opening the master data screens and typing into their search boxes, with everything painted.
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTest>
 
 #include <algorithm>

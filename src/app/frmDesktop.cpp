@@ -190,7 +190,7 @@ void frmDesktop::Form_Load() try {
     if (fehler.number() == fehlernummer::DatabaseNotOpen)
         fehlerMerken(fehler); // why it is not was told when it did not open
     else
-        fehlerBox("Fehler D_6002 - ", "ERROR D_6002 - ", fehler);
+        fehlerBox("D_6002 - ", fehler);
 }
 
 // As silent as the first reading.
@@ -210,9 +210,7 @@ void frmDesktop::normalUndHebelarmZeigen() {
 }
 
 void frmDesktop::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     setCaption(gProduktTitel);
     if (!spracheGewählt())
         return;
@@ -354,7 +352,7 @@ void frmDesktop::mnuGerät_Click() try {
         neu.showModal();
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 6000 - ", "ERROR 6000 - ", fehler);
+    fehlerBox("6000 - ", fehler);
 }
 
 void frmDesktop::mnuRezept_Click() {
@@ -371,7 +369,7 @@ void frmDesktop::mnuRezepte_Click() try {
         form(frm::Rezepte).showModal();
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 6001 - ", "ERROR 6001 - ", fehler);
+    fehlerBox("6001 - ", fehler);
 }
 
 void frmDesktop::mnuKalibrierung_Click() {

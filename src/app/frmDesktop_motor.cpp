@@ -44,7 +44,7 @@ void frmDesktop::pbMotein_Click() try {
     enable();
 } catch (const Fehler &fehler) {
     enable();
-    fehlerBox("Fehler 6003- ", "ERROR 6003 - ", fehler);
+    fehlerBox({"Fehler 6003- ", "ERROR 6003 - "}, fehler);
 }
 
 void frmDesktop::pbMotaus_Click() try {
@@ -73,7 +73,7 @@ void frmDesktop::pbMotaus_Click() try {
 } catch (const Fehler &fehler) {
     setMotausEnabled(gMotorEin);
     enable();
-    fehlerBox("Fehler 6004- ", "ERROR 6004 - ", fehler);
+    fehlerBox({"Fehler 6004- ", "ERROR 6004 - "}, fehler);
 }
 
 void frmDesktop::pbMessen_Click() {

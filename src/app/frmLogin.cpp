@@ -1,7 +1,6 @@
 #include "app/frmLogin.h"
 
 #include <QCoreApplication>
-#include <QShortcut>
 
 #include "session/session.h"
 #include "session/sprache.h"
@@ -20,13 +19,11 @@ frmLogin::frmLogin() {
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbCancel, [this] { pbCancel_Click(); });
     onEnter(ui.txtUserName, [this] { pbok_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { pbCancel_Click(); });
+    onEscape([this] { pbCancel_Click(); });
 }
 
 void frmLogin::Form_Load() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     form(frm::Splash).disable();
     ui.txtUserName->setFocus();
 }

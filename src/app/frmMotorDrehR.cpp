@@ -29,9 +29,7 @@ frmMotorDrehR::frmMotorDrehR() {
 }
 
 void frmMotorDrehR::Form_Load() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     motorfenster().disableFront();
     mVorher = gDrehrichtung;
     // Two options of which none is chosen yet.

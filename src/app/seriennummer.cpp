@@ -52,7 +52,7 @@ void Seriennummer::Seriennummer_ermitteln() try {
     MSComm1.Output("N");
     mTimer2.setEnabled(true);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 6002neu - ", "ERROR 6002neu - ", fehler);
+    fehlerBox("6002neu - ", fehler);
 }
 
 void Seriennummer::Timer2_Timer() try {
@@ -74,5 +74,5 @@ void Seriennummer::Timer2_Timer() try {
                 Exclamation, {"Achtung!", "Achtung!"});
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 6008 - ", "ERROR 6008 - ", fehler);
+    fehlerBox("6008 - ", fehler);
 }

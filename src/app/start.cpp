@@ -41,9 +41,9 @@ QString boxCaption(BoxAnswer answer) {
 /// What no handler took: told, and the program goes on.
 void reportUncaught(const std::exception &problem) {
     if (const auto *fehler = dynamic_cast<const Fehler *>(&problem))
-        fehlerBox("Fehler - ", "ERROR - ", *fehler);
+        fehlerBox("- ", *fehler);
     else
-        fehlerBox("Fehler - ", "ERROR - ", Fehler(0, {problem.what(), problem.what()}));
+        fehlerBox("- ", Fehler(0, {problem.what(), problem.what()}));
 }
 
 /// An empty head goes as it does when the operator leaves.

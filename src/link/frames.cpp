@@ -3,7 +3,6 @@
 #include "platform/fehler.h"
 #include "platform/runtime.h"
 #include "session/sprache.h"
-#include "store/sqltext.h"
 
 using namespace platform;
 
@@ -49,7 +48,7 @@ QString fnc_Transformation(const QString &text) {
         }
         return output;
     } catch (const Fehler &fehler) {
-        fehlerBox("Fehler mSI 4 - ", "ERROR mSI 4 - ", fehler);
+        fehlerBox("mSI 4 - ", fehler);
         return {};
     }
 }

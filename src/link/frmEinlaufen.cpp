@@ -1,7 +1,5 @@
 #include "link/frmEinlaufen.h"
 
-#include <QShortcut>
-
 #include "link/einlaufwert.h"
 #include "platform/runtime.h"
 #include "session/session.h"
@@ -29,15 +27,13 @@ frmEinlaufen::frmEinlaufen() {
     ui.setupUi(this);
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbAbbrechen, [this] { unload(); });
-    onEnter(ui.txtZeit, [this] { ui.txtW->setFocus(); });
+    enterChain({ui.txtZeit, ui.txtW});
     onEnter(ui.txtW, [this] { pbok_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmEinlaufen::Form_Load() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     ui.txtZeit->setText(CStr(gEinlaufzeit));
     ui.txtW->setText(CStr(gEinlaufLeistung));
     ui.txtZeit->setFocus();
@@ -67,5 +63,5 @@ void frmEinlaufen::pbok_Click() try {
              "At least one parameter could not be saved!"},
             Critical, {"Eingabefehler", "Attention"});
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler frmEinl01 - ", "ERROR frmEinl01 - ", fehler);
+    fehlerBox("frmEinl01 - ", fehler);
 }

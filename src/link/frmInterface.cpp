@@ -1,7 +1,6 @@
 #include "link/frmInterface.h"
 
 #include <QScopeGuard>
-#include <QShortcut>
 
 #include "link/controller.h"
 #include "link/interface.h"
@@ -41,13 +40,11 @@ frmInterface::frmInterface() {
     onClick(ui.pbexit, [this] { unload(); });
     onClick(ui.pbSS2, [this] { pbSS2_Click(); });
     onEnter(this, [this] { pbok_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmInterface::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
 }
 
 void frmInterface::Form_Load() {
@@ -92,7 +89,7 @@ void frmInterface::fnc_Zurücknehmen() try {
 } catch (const Fehler &fehler) {
     MSComm1.setPortOpen(false);
     MSComm1.setCommPort(mVorher); // the table does not tell: as it was before the trial
-    fehlerBox("Fehler I_1002 - ", "ERROR I_1002 - ", fehler);
+    fehlerBox("I_1002 - ", fehler);
 }
 
 void frmInterface::SbCOM_Change() {
@@ -157,7 +154,7 @@ void frmInterface::pbok_Click() try {
     mGespeichert = true;
     unload();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler I_1003 - ", "ERROR I_1003 - ", fehler);
+    fehlerBox("I_1003 - ", fehler);
 }
 
 void frmInterface::pbSS2_Click() {

@@ -88,7 +88,7 @@ int fnc_PortPrüfen() {
             fehler.number() == fehlernummer::PortSettings)
             gSS1Vorhanden = false; // of no use before the settings have been mended
         if (fehler.number() != fehlernummer::NoSuchPort)
-            fehlerBox("Fehler mI 2 - ", "ERROR mSI 2 - ", fehler);
+            fehlerBox({"Fehler mI 2 - ", "ERROR mSI 2 - "}, fehler);
         return fehler.number();
     }
 }

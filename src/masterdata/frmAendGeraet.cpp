@@ -17,7 +17,7 @@ void frmÄndGerät::Form_Load() try {
     mGerätID = shown;
     setSpeichernEnabled(true);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1150 - ", "ERROR 1150 - ", fehler);
+    fehlerBox("1150 - ", fehler);
 }
 
 void frmÄndGerät::pbSave_Click() try {
@@ -31,5 +31,5 @@ void frmÄndGerät::pbSave_Click() try {
             {"Bestätigung", "MESSAGE"});
     schließen(gerät.identNr);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1150 - ", "ERROR 1150 - ", fehler);
+    fehlerBox("1150 - ", fehler);
 }

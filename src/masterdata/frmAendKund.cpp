@@ -17,7 +17,7 @@ void frmÄndKund::Form_Load() try {
     mKundenID = shown;
     setSpeichernEnabled(true);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1140 - ", "ERROR 1140 - ", fehler);
+    fehlerBox("1140 - ", fehler);
 }
 
 void frmÄndKund::pbSave_Click() try {
@@ -31,5 +31,5 @@ void frmÄndKund::pbSave_Click() try {
             {"Bestätigung", "MESSAGE"});
     schließen(kunde.name);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1140 - ", "ERROR 1140 - ", fehler);
+    fehlerBox("1140 - ", fehler);
 }

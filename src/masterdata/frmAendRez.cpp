@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QShortcut>
 
 #include <utility>
 
@@ -63,7 +62,7 @@ frmÄndRez::frmÄndRez() {
     onClick(ui.pbLetzter, [this] { schrittWählen(mGitter.schritte().count() - 1); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { pbexit_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { ui.pbexit->click(); });
+    onEscape([this] { ui.pbexit->click(); });
 }
 
 void frmÄndRez::felderVerdrahten() {
@@ -80,15 +79,13 @@ void frmÄndRez::felderVerdrahten() {
         msToleranzTaste.clear(); // of the key that led away
     });
     onLostFocus(ui.cmbToleranz, [this] { cmbToleranz_LostFocus(); });
-    onEnter(ui.cmbToleranz, [this] { ui.txtDrehzahl->setFocus(Qt::TabFocusReason); });
+    enterChain({ui.cmbToleranz, ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.pbSpeichern});
 
     onGotFocus(ui.txtDrehzahl, [this] { msAltDrehzahl = ui.txtDrehzahl->text(); });
     onLostFocus(ui.txtDrehzahl, [this] { txtDrehzahl_LostFocus(); });
-    onEnter(ui.txtDrehzahl, [this] { ui.txtLeistung->setFocus(Qt::TabFocusReason); });
 
     onGotFocus(ui.txtLeistung, [this] { msAltLeistung = ui.txtLeistung->text(); });
     onLostFocus(ui.txtLeistung, [this] { txtLeistung_LostFocus(); });
-    onEnter(ui.txtLeistung, [this] { ui.cmbPrArt->setFocus(Qt::TabFocusReason); });
 
     on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { cmbPrArt_Change(); });
     onKey(ui.cmbPrArt, [this](QKeyEvent &key) {
@@ -100,14 +97,11 @@ void frmÄndRez::felderVerdrahten() {
         msPrArtTaste.clear(); // of the key that led away
     });
     onLostFocus(ui.cmbPrArt, [this] { cmbPrArt_LostFocus(); });
-    onEnter(ui.cmbPrArt, [this] { ui.pbSpeichern->setFocus(Qt::TabFocusReason); });
 }
 
 void frmÄndRez::beschriften() {
     const QString recipe = caption(); // names it, from whoever opened the screen
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     setCaption(recipe);
 }
 
@@ -117,7 +111,7 @@ void frmÄndRez::Form_Activate() try {
     if (!mGezeigt)
         zeigen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1122 - ", "ERROR 1122 - ", fehler);
+    fehlerBox("1122 - ", fehler);
 }
 
 void frmÄndRez::zeigen() {
@@ -165,7 +159,7 @@ bool frmÄndRez::fnc_ÄnderungenÜbernehmen() try {
     gDatenbank.execute("DELETE FROM ÄndRez_temp");
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1123 - ", "ERROR 1123 - ", fehler);
+    fehlerBox("1123 - ", fehler);
     return false;
 }
 
@@ -175,7 +169,7 @@ bool frmÄndRez::fnc_ÄnderungenVerwerfen() try {
     gDatenbank.execute("DELETE FROM ÄndRez_temp");
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1124 - ", "ERROR 1124 - ", fehler);
+    fehlerBox("1124 - ", fehler);
     return false;
 }
 
@@ -192,7 +186,7 @@ void frmÄndRez::fnc_Fill_CmbToleranz() try {
     ui.cmbToleranz->clear();
     ui.cmbToleranz->addItems(spalte(gDatenbank.open("SELECT Bezeichnung FROM Toleranzen"), 0));
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler NR01- ", "ERROR NR01- ", fehler);
+    fehlerBox("NR01- ", fehler);
 }
 
 void frmÄndRez::cmbToleranz_Change() {
@@ -229,7 +223,7 @@ void frmÄndRez::cmbToleranz_Click() try {
     mToleranz = name;
 } catch (const Fehler &fehler) {
     eintragSetzen(ui.cmbToleranz, mToleranz); // the one that is in force still
-    fehlerBox("Fehler 1120 - ", "ERROR 1120 - ", fehler);
+    fehlerBox("1120 - ", fehler);
 }
 
 void frmÄndRez::cmbToleranz_LostFocus() {
@@ -276,7 +270,7 @@ void frmÄndRez::fnc_SchrittAnzeigen() try {
     }
     aktualisieren();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1121 - ", "ERROR 1121 - ", fehler);
+    fehlerBox("1121 - ", fehler);
 }
 
 /// Takes the new text of a field that is left, or tells what is wrong with it and sets it back.
@@ -306,7 +300,7 @@ void frmÄndRez::txtDrehzahl_LostFocus() try {
                    "Number of revolutions is outside the valid range!"},
                   {"Eingabefehler", "Input Error"}});
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1135 - ", "ERROR 1135 - ", fehler);
+    fehlerBox("1135 - ", fehler);
 }
 
 void frmÄndRez::txtLeistung_LostFocus() try {
@@ -319,7 +313,7 @@ void frmÄndRez::txtLeistung_LostFocus() try {
          {"Leistung liegt außerhalb des gültigen Bereiches!", "Power is outside the valid range!"},
          {"Eingabefehler!", "Input Error!"}});
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1136 - ", "ERROR 1136 - ", fehler);
+    fehlerBox("1136 - ", fehler);
 }
 
 void frmÄndRez::cmbPrArt_Change() {

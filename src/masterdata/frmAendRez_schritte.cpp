@@ -24,7 +24,7 @@ bool frmÄndRez::fnc_SchrittPrüfen() try {
             Exclamation, {"Achtung!", "Attention!"});
     return false;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1125 - ", "ERROR 1125 - ", fehler);
+    fehlerBox("1125 - ", fehler);
     return false;
 }
 
@@ -40,14 +40,14 @@ bool frmÄndRez::fnc_DrehmomentPrüfen() {
 std::optional<bool> frmÄndRez::fnc_SchrittVorhanden(const Schritt &schritt) try {
     return mListe.vorhanden(gRezeptID, schritt.nummer);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1034 - ", "ERROR 1034 - ", fehler);
+    fehlerBox("1034 - ", fehler);
     return std::nullopt;
 }
 
 void frmÄndRez::fnc_SchrittÄndern(const Schritt &schritt) try {
     mListe.ändern(gRezeptID, schritt);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1035 - ", "ERROR 1035 - ", fehler);
+    fehlerBox("1035 - ", fehler);
 }
 
 void frmÄndRez::pbSpeichern_Click() try {
@@ -68,7 +68,7 @@ void frmÄndRez::pbSpeichern_Click() try {
     mGitter.zeigen(kopierteSchritte());
     mGitter.gehen(step.nummer); // on to the one behind it, while the fields keep this one
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1127 - ", "ERROR 1127 - ", fehler);
+    fehlerBox("1127 - ", fehler);
 }
 
 void frmÄndRez::pbNeu_Click() try {
@@ -84,7 +84,7 @@ void frmÄndRez::pbNeu_Click() try {
     mnAbschluss = Abschluss::NeuerSchritt;
     ui.txtDrehzahl->setFocus();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1126 - ", "ERROR 1126 - ", fehler);
+    fehlerBox("1126 - ", fehler);
 }
 
 void frmÄndRez::pbEinfuegen_Click() try {
@@ -95,7 +95,7 @@ void frmÄndRez::pbEinfuegen_Click() try {
     mGitter.zeigen(kopierteSchritte());
     mGitter.gehen(step.nummer - 1);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1023E - ", "ERROR 1023E - ", fehler);
+    fehlerBox("1023E - ", fehler);
     gitterNachFehler(); // some may have moved
 }
 
@@ -126,7 +126,7 @@ void frmÄndRez::pbLoeschen_Click() try {
         mGitter.gehen(number - 1);
     fnc_SchrittAnzeigen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1023E - ", "ERROR 1023E - ", fehler);
+    fehlerBox("1023E - ", fehler);
 }
 
 /// The row, or the nearest there is, and its step into the fields.

@@ -1,7 +1,6 @@
 #include "masterdata/frmGeraet.h"
 
 #include <QLineEdit>
-#include <QShortcut>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -63,14 +62,14 @@ frmGerät::frmGerät() {
     sucheVerdrahten(
         ui.cmbIdent, ui.lstIdent, [this] { cmbIdent_Change(); }, [this] { pbok_Click(); });
     on(ui.cmbTyp, &QComboBox::currentIndexChanged, [this] { cmbTyp_Click(); });
-    onEnter(ui.cmbTyp, [this] { ui.cmbIdent->setFocus(); });
+    enterChain({ui.cmbTyp, ui.cmbIdent});
     onClick(ui.pbNeu, [this] { pbNeu_Click(); });
     onClick(ui.pbchange, [this] { pbchange_Click(); });
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
     onEnter(this, [this] { pbok_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 QString frmGerät::gerätename() const {
@@ -82,9 +81,7 @@ QString frmGerät::identnummer() const {
 }
 
 void frmGerät::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     ui.cmbIdent->lineEdit()->setPlaceholderText(
         inSprache({"Nummer oder Teil davon", "Number or part of it"}));
 }
@@ -96,7 +93,7 @@ void frmGerät::Form_Load() try {
     listenLesen();
     ui.cmbIdent->setFocus();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1091 - ", "ERROR 1091 - ", fehler);
+    fehlerBox("1091 - ", fehler);
 }
 
 void frmGerät::Form_Activate() {
@@ -140,7 +137,7 @@ void frmGerät::identnummernLesen() {
 }
 
 void frmGerät::fnc_ListeAktualisieren() try { listenLesen(); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1092 - ", "ERROR 1092 - ", fehler);
+    fehlerBox("1092 - ", fehler);
 }
 
 void frmGerät::fnc_ListeLeeren() {
@@ -162,7 +159,7 @@ void frmGerät::fnc_GerätWählen(const QString &identNr) try {
     mSuche.übernehmen(identNr);
     ui.cmbIdent->setFocus(); // Enter chooses it
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1092 - ", "ERROR 1092 - ", fehler);
+    fehlerBox("1092 - ", fehler);
 }
 
 void frmGerät::fnc_GerätZeigen() {
@@ -202,14 +199,14 @@ void frmGerät::cmbTyp_Click() try {
     mSuche.leeren();
     identnummernLesen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1093 - ", "ERROR 1093 - ", fehler);
+    fehlerBox("1093 - ", fehler);
 }
 
 void frmGerät::cmbIdent_Change() try {
     mSuche.textGeändert();
     fnc_GerätZeigen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1094 - ", "ERROR 1094 - ", fehler);
+    fehlerBox("1094 - ", fehler);
 }
 
 /// An ident number is meant as it stands: part of one could be another unit.
@@ -263,7 +260,7 @@ void frmGerät::pbok_Click() try {
         gDesktopFolge = Desktopfolge::Rezept;
     unload();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1102 - ", "ERROR 1102 - ", fehler);
+    fehlerBox("1102 - ", fehler);
 }
 
 bool frmGerät::gerätGezeigt() {
@@ -283,7 +280,7 @@ void frmGerät::pbchange_Click() try {
     if (gerätGezeigt())
         form(frm::ÄndGerät).showModal();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1100 - ", "ERROR 1100 - ", fehler);
+    fehlerBox("1100 - ", fehler);
 }
 
 void frmGerät::pbDelete_Click() try {

@@ -1,7 +1,6 @@
 #include "masterdata/frmKunden.h"
 
 #include <QLineEdit>
-#include <QShortcut>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -58,7 +57,7 @@ frmKunden::frmKunden() {
         ui.cmbKundenname, ui.lstKunden, [this] { cmbKundenname_Change(); },
         [this] { pbexit_Click(); });
     on(ui.cmbOrt, &QComboBox::currentIndexChanged, [this] { cmbOrt_Click(); });
-    onEnter(ui.cmbOrt, [this] { ui.lstKunden->setFocus(); });
+    enterChain({ui.cmbOrt, ui.lstKunden});
     onClick(ui.pbSearch, [this] { pbSearch_Click(); });
     onClick(ui.pbNeu, [this] { pbNeu_Click(); });
     onClick(ui.pbchange, [this] { pbchange_Click(); });
@@ -66,7 +65,7 @@ frmKunden::frmKunden() {
     onClick(ui.pbexit, [this] { pbexit_Click(); });
     onClick(ui.pbAbbrechen, [this] { unload(); });
     onEnter(this, [this] { pbexit_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 QString frmKunden::kundenname() const {
@@ -74,9 +73,7 @@ QString frmKunden::kundenname() const {
 }
 
 void frmKunden::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
 }
 
 void frmKunden::Form_Load() try {
@@ -85,7 +82,7 @@ void frmKunden::Form_Load() try {
     listenLesen();
     ui.cmbKundenname->setFocus();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1070 - ", "ERROR 1070 - ", fehler);
+    fehlerBox("1070 - ", fehler);
 }
 
 void frmKunden::Form_Activate() {
@@ -123,7 +120,7 @@ void frmKunden::listenLesen() {
 }
 
 void frmKunden::fnc_ListeAktualisieren() try { listenLesen(); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1077 - ", "ERROR 1077 - ", fehler);
+    fehlerBox("1077 - ", fehler);
 }
 
 void frmKunden::fnc_ListeLeeren() {
@@ -144,7 +141,7 @@ void frmKunden::fnc_KundeWählen(const QString &name) try {
     mSuche.übernehmen(name);
     ui.cmbKundenname->setFocus(); // Enter chooses it
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1077 - ", "ERROR 1077 - ", fehler);
+    fehlerBox("1077 - ", fehler);
 }
 
 void frmKunden::alleOrte() {
@@ -184,14 +181,14 @@ void frmKunden::cmbKundenname_Change() try {
     mSuche.textGeändert();
     fnc_KundeZeigen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1071 - ", "ERROR 1071 - ", fehler);
+    fehlerBox("1071 - ", fehler);
 }
 
 void frmKunden::cmbOrt_Click() try {
     mSuche.leeren();
     listenLesen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1072 - ", "ERROR 1072 - ", fehler);
+    fehlerBox("1072 - ", fehler);
 }
 
 void frmKunden::pbSearch_Click() try {
@@ -218,7 +215,7 @@ void frmKunden::pbSearch_Click() try {
         mSuche.übernehmen(rows[1].text());
     aktualisieren();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1073 - ", "ERROR 1073 - ", fehler);
+    fehlerBox("1073 - ", fehler);
 }
 
 void frmKunden::pbexit_Click() try {
@@ -244,7 +241,7 @@ void frmKunden::pbexit_Click() try {
     mGewählt = true;
     unload();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1074 - ", "ERROR 1074 - ", fehler);
+    fehlerBox("1074 - ", fehler);
 }
 
 bool frmKunden::kundeGezeigt() {
@@ -265,12 +262,12 @@ void frmKunden::pbchange_Click() try {
     if (kundeGezeigt())
         form(frm::ÄndKund).showModal();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1075 - ", "ERROR 1075 - ", fehler);
+    fehlerBox("1075 - ", fehler);
 }
 
 void frmKunden::pbDelete_Click() try {
     if (kundeGezeigt())
         form(frm::LöschKunde).showModal();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1076 - ", "ERROR 1076 - ", fehler);
+    fehlerBox("1076 - ", fehler);
 }

@@ -1,7 +1,5 @@
 #include "masterdata/frmLoeschGeraet.h"
 
-#include <QShortcut>
-
 #include "controls/umbruch.h"
 #include "masterdata/frmGeraet.h"
 #include "records/loeschung.h"
@@ -25,13 +23,11 @@ frmLöschGerät::frmLöschGerät() {
     ui.setupUi(this);
     onClick(ui.pbYes, [this] { pbYes_Click(); });
     onClick(ui.pbNo, [this] { unload(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmLöschGerät::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
 }
 
 void frmLöschGerät::Form_Load() try {
@@ -39,7 +35,7 @@ void frmLöschGerät::Form_Load() try {
     ui.pbNo->setFocus();
     fnc_FrageZeigen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 31002 - ", "ERROR 31002 - ", fehler);
+    fehlerBox("31002 - ", fehler);
 }
 
 void frmLöschGerät::fnc_FrageZeigen() {
@@ -65,11 +61,11 @@ void frmLöschGerät::pbYes_Click() try {
         gerätAbwählen();
     unload();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 31001 - ", "ERROR 31001 - ", fehler);
+    fehlerBox("31001 - ", fehler);
     nachFehler();
 }
 
 /// Asks about what is left; the unit itself goes last.
 void frmLöschGerät::nachFehler() try { fnc_FrageZeigen(); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 31002 - ", "ERROR 31002 - ", fehler);
+    fehlerBox("31002 - ", fehler);
 }

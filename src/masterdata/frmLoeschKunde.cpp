@@ -1,7 +1,5 @@
 #include "masterdata/frmLoeschKunde.h"
 
-#include <QShortcut>
-
 #include "controls/umbruch.h"
 #include "masterdata/frmKunden.h"
 #include "records/loeschung.h"
@@ -24,20 +22,18 @@ frmLöschKunde::frmLöschKunde() {
     ui.setupUi(this);
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbCancel, [this] { unload(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmLöschKunde::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
 }
 
 void frmLöschKunde::Form_Load() try {
     ui.pbCancel->setFocus();
     fnc_FrageZeigen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler LK 1 - ", "ERROR LK 1 - ", fehler);
+    fehlerBox("LK 1 - ", fehler);
 }
 
 void frmLöschKunde::fnc_FrageZeigen() {
@@ -65,7 +61,7 @@ void frmLöschKunde::pbok_Click() try {
         kundeAbwählen();
     unload();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 31001 - ", "ERROR 31001 - ", fehler);
+    fehlerBox("31001 - ", fehler);
     nachFehler();
 }
 
@@ -76,5 +72,5 @@ void frmLöschKunde::nachFehler() try {
     if (gKundenID == mKundenID && mGeräte < before)
         gerätAbwählen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler LK 1 - ", "ERROR LK 1 - ", fehler);
+    fehlerBox("LK 1 - ", fehler);
 }

@@ -5,7 +5,7 @@
 #include "windows/msgbox.h"
 
 void frmNeuGerät::Form_Load() try { vorbereiten(); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1061 - ", "ERROR 1061 - ", fehler);
+    fehlerBox("1061 - ", fehler);
 }
 
 void frmNeuGerät::Form_Unload() {
@@ -23,5 +23,5 @@ void frmNeuGerät::pbSave_Click() try {
             {"Bestätigung", "MESSAGE"});
     schließen(gerät.identNr);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1060 - ", "ERROR 1060 - ", fehler);
+    fehlerBox("1060 - ", fehler);
 }

@@ -4,7 +4,7 @@
 #include "windows/msgbox.h"
 
 void frmNeuKunde::Form_Load() try { vorbereiten(); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1051 - ", "ERROR 1051 - ", fehler);
+    fehlerBox("1051 - ", fehler);
 }
 
 void frmNeuKunde::pbSave_Click() try {
@@ -16,5 +16,5 @@ void frmNeuKunde::pbSave_Click() try {
             {"Bestätigung", "MESSAGE"});
     schließen(kunde.name);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1050 - ", "ERROR 1050 - ", fehler);
+    fehlerBox("1050 - ", fehler);
 }

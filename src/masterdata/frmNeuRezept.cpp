@@ -1,7 +1,5 @@
 #include "masterdata/frmNeuRezept.h"
 
-#include <QShortcut>
-
 #include <utility>
 
 #include "controls/umbruch.h"
@@ -78,13 +76,11 @@ frmNeuRezept::frmNeuRezept() {
     schritteVerdrahten();
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmNeuRezept::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     for (QPushButton *symbol : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
         symbol->setAccessibleName(symbol->toolTip());
     ui.cmbPrArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
@@ -107,7 +103,7 @@ void frmNeuRezept::Form_Activate() try {
         pbFirst_Click();
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 3039 - ", "ERROR 3039 - ", fehler);
+    fehlerBox("3039 - ", fehler);
 }
 
 bool frmNeuRezept::Form_QueryUnload() {
@@ -130,7 +126,7 @@ void frmNeuRezept::fnc_Fill_CmbToleranz() try {
             inSprache({"Noch keine; angelegt wird im Menü Verwaltung, Spezifikationen",
                        "None yet; use menu Master Data, Specifications to enter one"}));
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler NR01- ", "ERROR NR01- ", fehler);
+    fehlerBox("NR01- ", fehler);
 }
 
 void frmNeuRezept::txtRezName_Change() {
@@ -161,7 +157,7 @@ void frmNeuRezept::fnc_RezeptnameSpeichern() try {
     }
     schritteFreigeben();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1030 - ", "ERROR 1030 - ", fehler);
+    fehlerBox("1030 - ", fehler);
 }
 
 /// Also true when it cannot be found out.
@@ -178,7 +174,7 @@ bool frmNeuRezept::fnc_RezeptnameVorhanden() try {
     ui.txtRezName->clear();
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1041 - ", "ERROR 1041 - ", fehler);
+    fehlerBox("1041 - ", fehler);
     return true;
 }
 
@@ -227,7 +223,7 @@ bool frmNeuRezept::verlassen() try {
     fnc_RezeptlisteAktualisieren();
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1023 - ", "ERROR 1023 - ", fehler);
+    fehlerBox("1023 - ", fehler);
     gitterNachFehler(); // the steps may be gone
     return false;
 }
@@ -255,5 +251,5 @@ void frmNeuRezept::fnc_RezeptlisteAktualisieren() try {
     if (auto *list = loaded<frmRezepte>())
         list->listeLesen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1037 - ", "ERROR 1037 - ", fehler);
+    fehlerBox("1037 - ", fehler);
 }

@@ -9,7 +9,6 @@
 #include "platform/runtime.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/sqltext.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -23,8 +22,7 @@ const Schrittliste rezepte("Rezepte");
 void frmNeuRezept::schritteVerdrahten() {
     onLostFocus(ui.txtDrehzahl, [this] { txtDrehzahl_LostFocus(); });
     onLostFocus(ui.txtLeistung, [this] { txtLeistung_LostFocus(); });
-    onEnter(ui.txtDrehzahl, [this] { ui.txtLeistung->setFocus(Qt::TabFocusReason); });
-    onEnter(ui.txtLeistung, [this] { ui.cmbPrArt->setFocus(); });
+    enterChain({ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt});
 
     ui.cmbPrArt->setCompleter(nullptr); // a key completes the text by itself
     onKey(ui.cmbPrArt, [this](QKeyEvent &taste) {
@@ -94,7 +92,7 @@ void frmNeuRezept::fnc_SchrittAnzeigen() try {
     for (QPushButton *button : {ui.pbAddNew, ui.pbEinfuegen, ui.pbLoeschen})
         button->setEnabled(true);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1025 - ", "ERROR 1025 - ", fehler);
+    fehlerBox("1025 - ", fehler);
 }
 
 /// Where the decimal sign is a point, the step would ask for ten times as much without it.
@@ -113,7 +111,7 @@ bool frmNeuRezept::txtDrehzahl_LostFocus() try {
                         {"Drehzahl liegt außerhalb des gültigen Bereiches.",
                          "Number of revolution is outside the valid range."});
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1039 - ", "ERROR 1039 - ", fehler);
+    fehlerBox("1039 - ", fehler);
     return false;
 }
 
@@ -126,7 +124,7 @@ bool frmNeuRezept::txtLeistung_LostFocus() try {
         {"Leistung muss ein nummerischer Wert sein!", "Power has to be a numeric value!"},
         {"Leistung liegt außerhalb des gültigen Bereiches", "Power is outside the valid range!"});
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1040 - ", "ERROR 1040 - ", fehler);
+    fehlerBox("1040 - ", fehler);
     return false;
 }
 
@@ -174,7 +172,7 @@ bool frmNeuRezept::speichernMöglich() try {
         inSprache({"Sie können den Prüfschritt speichern!", "You can save the test step!"}));
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1038 - ", "ERROR 1038 - ", fehler);
+    fehlerBox("1038 - ", fehler);
     return false;
 }
 
@@ -195,7 +193,7 @@ bool frmNeuRezept::fnc_SchrittPrüfen() try {
             Critical, {"Achtung!", "Attention!"});
     return false;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1024 - ", "ERROR 1024 - ", fehler);
+    fehlerBox("1024 - ", fehler);
     return false;
 }
 
@@ -206,14 +204,14 @@ bool frmNeuRezept::fnc_DrehmomentPrüfen() try {
     ui.txtDrehzahl->setFocus(Qt::TabFocusReason);
     return false;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1042- ", "ERROR 1042- ", fehler);
+    fehlerBox("1042- ", fehler);
     return false;
 }
 
 std::optional<bool> frmNeuRezept::fnc_SchrittVorhanden() try {
     return rezepte.vorhanden(gRezeptID, mnSchritt);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1034 - ", "ERROR 1034 - ", fehler);
+    fehlerBox("1034 - ", fehler);
     return std::nullopt;
 }
 
@@ -221,7 +219,7 @@ bool frmNeuRezept::fnc_SchrittAnlegen() try {
     rezepte.anlegen(gRezeptID, gezeigterSchritt());
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1036 - ", "ERROR 1036 - ", fehler);
+    fehlerBox("1036 - ", fehler);
     return false;
 }
 
@@ -229,7 +227,7 @@ bool frmNeuRezept::fnc_SchrittÄndern() try {
     rezepte.ändern(gRezeptID, gezeigterSchritt());
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1035 - ", "ERROR 1035 - ", fehler);
+    fehlerBox("1035 - ", fehler);
     return false;
 }
 
@@ -245,7 +243,7 @@ void frmNeuRezept::pbSave_Click() try {
     gitterZeigen(mnSchritt - 1);
     fnc_NavigationFreigeben();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1033 - ", "ERROR 1033 - ", fehler);
+    fehlerBox("1033 - ", fehler);
 }
 
 void frmNeuRezept::hinweisNeuerSchritt() {
@@ -261,7 +259,7 @@ void frmNeuRezept::fnc_NeuerSchritt() try {
         button->setEnabled(false);
     hinweisNeuerSchritt();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1032 - ", "ERROR 1032 - ", fehler);
+    fehlerBox("1032 - ", fehler);
 }
 
 void frmNeuRezept::fnc_SchrittEinfügen(int nummer) {
@@ -275,7 +273,7 @@ void frmNeuRezept::fnc_SchrittEinfügen(int nummer) {
 void frmNeuRezept::pbEinfuegen_Click() try {
     fnc_SchrittEinfügen(mnSchritt);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1023E - ", "ERROR 1023E - ", fehler);
+    fehlerBox("1023E - ", fehler);
     gitterNachFehler(); // some may have moved
 }
 
@@ -300,14 +298,14 @@ void frmNeuRezept::fnc_SchrittLöschen(int nummer) {
 void frmNeuRezept::pbLoeschen_Click() try {
     fnc_SchrittLöschen(mnSchritt);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1023E - ", "ERROR 1023E - ", fehler);
+    fehlerBox("1023E - ", fehler);
 }
 
 void frmNeuRezept::fnc_NavigationFreigeben() try {
     for (QPushButton *button : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
         button->setEnabled(true);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1031 - ", "ERROR 1031 - ", fehler);
+    fehlerBox("1031 - ", fehler);
 }
 
 /// Past either end it beeps and stays.
@@ -330,17 +328,17 @@ void frmNeuRezept::schrittÄndern() {
 }
 
 void frmNeuRezept::pbFirst_Click() try { gehen(0); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1026 - ", "ERROR 1026 - ", fehler);
+    fehlerBox("1026 - ", fehler);
 }
 
 void frmNeuRezept::pbLast_Click() try {
     gehen(mGitter.schritte().count() - 1);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1027 - ", "ERROR 1027 - ", fehler);
+    fehlerBox("1027 - ", fehler);
 }
 
 void frmNeuRezept::pbNext_Click() try { gehen(mGitter.zeile() + 1); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1028 - ", "ERROR 1028 - ", fehler);
+    fehlerBox("1028 - ", fehler);
 }
 
 /// A step is being entered that is not stored yet: it stands behind the last.
@@ -353,7 +351,7 @@ bool frmNeuRezept::neuerSchritt() const {
 void frmNeuRezept::pbPrevious_Click() try {
     gehen((neuerSchritt() ? mGitter.schritte().count() : mGitter.zeile()) - 1);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1029 - ", "ERROR 1029 - ", fehler);
+    fehlerBox("1029 - ", fehler);
 }
 
 void frmNeuRezept::DBGridRez_RowColChange() {
@@ -364,5 +362,5 @@ void frmNeuRezept::DBGridRez_RowColChange() {
 void frmNeuRezept::pbKopie_Click() try {
     form(frm::RezeptKopie).showModal();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 9016 - ", "ERROR 9016 - ", fehler);
+    fehlerBox("9016 - ", fehler);
 }

@@ -1,7 +1,6 @@
 #include "masterdata/frmRezeptKopie.h"
 
 #include <QLineEdit>
-#include <QShortcut>
 
 #include "masterdata/frmNeuRezept.h"
 #include "records/rezept.h"
@@ -35,7 +34,7 @@ frmRezeptKopie::frmRezeptKopie() {
     mGitter.verbinden(ui.DBGridRez);
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmRezeptKopie::Form_Load() {
@@ -47,7 +46,7 @@ void frmRezeptKopie::Form_Load() {
 }
 
 void frmRezeptKopie::Form_Activate() try { fnc_ListeFüllen(); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1013 - ", "ERROR 1013 - ", fehler);
+    fehlerBox("1013 - ", fehler);
 }
 
 void frmRezeptKopie::Form_Unload() try {
@@ -56,7 +55,7 @@ void frmRezeptKopie::Form_Unload() try {
         neu->fnc_GitterAktualisieren();
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1018 - ", "ERROR 1018 - ", fehler);
+    fehlerBox("1018 - ", fehler);
 }
 
 void frmRezeptKopie::fnc_ListeFüllen() try {
@@ -64,7 +63,7 @@ void frmRezeptKopie::fnc_ListeFüllen() try {
     ui.laInfo->setText(inSprache({"Rezeptanzahl: ", "Number Of Recipes: "}) +
                        QString::number(mSuche.namen().size()));
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1016 - ", "ERROR 1016 - ", fehler);
+    fehlerBox("1016 - ", fehler);
 }
 
 void frmRezeptKopie::cmbRezeptname_Change() {
@@ -84,7 +83,7 @@ void frmRezeptKopie::cmbRezeptname_Click() try {
     mGitter.zeigen(rezeptSchritte(kopf.rezeptID));
     ui.pbok->setEnabled(true);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1012 - ", "ERROR 1012 - ", fehler);
+    fehlerBox("1012 - ", fehler);
 }
 
 void frmRezeptKopie::cmbRezeptname_Enter() {
@@ -111,7 +110,7 @@ bool frmRezeptKopie::fnc_SchrittAnlegen(const Recordset &schritt) try {
     Schrittliste("Rezepte").anlegen(gRezeptID, copy);
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1036 - ", "ERROR 1036 - ", fehler);
+    fehlerBox("1036 - ", fehler);
     return false;
 }
 
@@ -128,5 +127,5 @@ void frmRezeptKopie::pbok_Click() try {
         neu->neuenSchrittFreigeben();
     unload();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 12008 - ", "ERROR 12008 - ", fehler);
+    fehlerBox("12008 - ", fehler);
 }

@@ -1,7 +1,6 @@
 #include "masterdata/frmRezepte.h"
 
 #include <QLineEdit>
-#include <QShortcut>
 
 #include <utility>
 
@@ -44,13 +43,11 @@ frmRezepte::frmRezepte() {
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
     onEnter(this, [this] { pbok_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmRezepte::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     mGitter.beschriften();
 }
 
@@ -59,7 +56,7 @@ void frmRezepte::Form_Load() try {
     aktualisieren();
     ui.cmbRezeptname->setFocus();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1014 - ", "ERROR 1014 - ", fehler);
+    fehlerBox("1014 - ", fehler);
 }
 
 void frmRezepte::Form_Activate() try {
@@ -77,7 +74,7 @@ void frmRezepte::Form_Activate() try {
     if (only)
         ui.pbok->setFocus();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1013 - ", "ERROR 1013 - ", fehler);
+    fehlerBox("1013 - ", fehler);
 }
 
 void frmRezepte::Form_Unload() {
@@ -94,7 +91,7 @@ void frmRezepte::listeLesen() {
 }
 
 void frmRezepte::fnc_ListeFüllen() try { listeLesen(); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1016 - ", "ERROR 1016 - ", fehler);
+    fehlerBox("1016 - ", fehler);
 }
 
 void frmRezepte::aktualisieren() {
@@ -121,7 +118,7 @@ void frmRezepte::cmbRezeptname_Change() try {
     aktualisieren();
     cmbRezeptname_Click();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1011 - ", "ERROR 1011 - ", fehler);
+    fehlerBox("1011 - ", fehler);
 }
 
 void frmRezepte::cmbRezeptname_Click() try {
@@ -139,7 +136,7 @@ void frmRezepte::cmbRezeptname_Click() try {
     mGitter.zeigen(rezeptSchritte(kopf.rezeptID));
     mGezeigt = name;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1012 - ", "ERROR 1012 - ", fehler);
+    fehlerBox("1012 - ", fehler);
 }
 
 /// Whether the box names a recipe that is in force. Completes part of a name.
@@ -184,7 +181,7 @@ void frmRezepte::pbok_Click() try {
     }
     unload();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1019 - ", "ERROR 1019 - ", fehler);
+    fehlerBox("1019 - ", fehler);
 }
 
 void frmRezepte::pbNeuRezept_Click() {
@@ -205,7 +202,7 @@ void frmRezepte::pbÄndRez_Click() try {
     hide(); // stays loaded; the editor keeps the screens below out of use
     editor.showModal();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1017 - ", "ERROR 1017 - ", fehler);
+    fehlerBox("1017 - ", fehler);
 }
 
 void frmRezepte::pbDelete_Click() try {
@@ -222,6 +219,6 @@ void frmRezepte::pbDelete_Click() try {
     ui.cmbRezeptname->setFocus();
 } catch (const Fehler &fehler) {
     mGezeigt.clear();
-    fehlerBox("Fehler 1018 - ", "ERROR 1018 - ", fehler);
+    fehlerBox("1018 - ", fehler);
     cmbRezeptname_Click(); // its steps may be gone
 }

@@ -2,7 +2,6 @@
 
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QShortcut>
 
 #include "controls/eintrag.h"
 #include "records/rezept.h"
@@ -53,13 +52,11 @@ frmToleranzen::frmToleranzen() {
 
 void frmToleranzen::verdrahten() {
     on(ui.cmbBezTol, &QComboBox::activated, [this] { cmbBezTol_Click(); });
-    QWidget *const order[] = {ui.txtTolBez, ui.txtTolProz, ui.txtTolWatt,
-                              ui.txtAbw,    ui.cmbGKlasse, ui.txtMessverfahren};
-    for (size_t i = 0; i + 1 < std::size(order); ++i) {
-        onEnter(order[i], [next = order[i + 1]] { next->setFocus(Qt::TabFocusReason); });
-        onGotFocus(order[i], [this] { altWertMerken(); });
-    }
-    onGotFocus(ui.txtMessverfahren, [this] { altWertMerken(); });
+    const std::initializer_list<QWidget *> felder{ui.txtTolBez, ui.txtTolProz, ui.txtTolWatt,
+                                                  ui.txtAbw,    ui.cmbGKlasse, ui.txtMessverfahren};
+    enterChain(felder);
+    for (QWidget *feld : felder)
+        onGotFocus(feld, [this] { altWertMerken(); });
     onEnter(ui.txtMessverfahren, [this] {
         if (speichernFreigeben())
             ui.pbSave->setFocus();
@@ -84,13 +81,11 @@ void frmToleranzen::verdrahten() {
     onClick(ui.pbSave, [this] { pbSave_Click(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { pbexit_Click(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { pbexit_Click(); });
+    onEscape([this] { pbexit_Click(); });
 }
 
 void frmToleranzen::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
 }
 
 void frmToleranzen::Form_Load() {
@@ -153,7 +148,7 @@ void frmToleranzen::fnc_Fill_CmbBezTol() try {
     ui.cmbBezTol->setPlaceholderText(
         inSprache({"Auswählen, oder mit Neu anlegen", "Select one, or enter a new one with New"}));
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol01 - ", "ERROR Tol01 - ", fehler);
+    fehlerBox("Tol01 - ", fehler);
 }
 
 void frmToleranzen::fnc_Fill_CmbGKlasse() {
@@ -197,7 +192,7 @@ void frmToleranzen::cmbBezTol_Click() {
         mnToleranzID = before; // the fields and the buttons speak about this one still
         mbGeändert = changed;
         zeileZeigen();
-        fehlerBox("Fehler Tol02 - ", "ERROR Tol02 - ", fehler);
+        fehlerBox("Tol02 - ", fehler);
     }
 }
 
@@ -248,7 +243,7 @@ void frmToleranzen::pbNew_Click() try {
         button->setEnabled(false);
     mbBearbeiten = false;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol04 - ", "ERROR Tol04 - ", fehler);
+    fehlerBox("Tol04 - ", fehler);
 }
 
 void frmToleranzen::pbEdit_Click() try {
@@ -261,7 +256,7 @@ void frmToleranzen::pbEdit_Click() try {
     mbNeu = false;
     felderZeigen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol07 - ", "ERROR Tol07 - ", fehler);
+    fehlerBox("Tol07 - ", fehler);
 }
 
 void frmToleranzen::pbDelete_Click() try {
@@ -286,7 +281,7 @@ void frmToleranzen::pbDelete_Click() try {
         ui.txtTolBez->setFocus();
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol06 - ", "ERROR Tol06 - ", fehler);
+    fehlerBox("Tol06 - ", fehler);
 }
 
 void frmToleranzen::pbSave_Click() try {
@@ -297,7 +292,7 @@ void frmToleranzen::pbSave_Click() try {
 } catch (const Fehler &fehler) {
     ui.cmbBezTol->setFocus(); // the input cannot be saved any more; the picker leads on
     ui.pbSave->setEnabled(mbNeu || mbBearbeiten);
-    fehlerBox("Fehler Tol08 - ", "ERROR Tol08 - ", fehler);
+    fehlerBox("Tol08 - ", fehler);
 }
 
 void frmToleranzen::neueSpeichern() {
@@ -366,7 +361,7 @@ bool frmToleranzen::func_Test_Double() try {
             Information, {"Information", "Information"});
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol03 - ", "ERROR Tol03 - ", fehler);
+    fehlerBox("Tol03 - ", fehler);
     return false;
 }
 
@@ -379,6 +374,6 @@ bool frmToleranzen::func_Test_Interval() try {
             Critical, {"Eingabefehler", "Input Error"});
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol04 - ", "ERROR Tol04 - ", fehler);
+    fehlerBox("Tol04 - ", fehler);
     return false;
 }

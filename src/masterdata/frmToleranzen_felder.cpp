@@ -71,7 +71,7 @@ void frmToleranzen::txtTolBez_LostFocus() try {
     vollständigkeitPrüfen();
     änderungPrüfen(ui.txtTolBez);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol05 - ", "ERROR Tol05 - ", fehler);
+    fehlerBox("Tol05 - ", fehler);
 }
 
 void frmToleranzen::txtTolProz_LostFocus() {
@@ -97,7 +97,7 @@ void frmToleranzen::txtAbw_LostFocus() try {
                {"Eingabfehler!", "Input Error!"},
                [this](const QString &text) { ui.txtAbw->setText(drehzahlGerundet(text)); });
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol05 - ", "ERROR Tol05 - ", fehler);
+    fehlerBox("Tol05 - ", fehler);
 }
 
 void frmToleranzen::txtMessverfahren_LostFocus() {
@@ -109,14 +109,14 @@ void frmToleranzen::func_Round_Procent(const QString &text) try {
     if (const auto rounded = leistungGerundet(text, halbeSchritteAbProzent))
         ui.txtTolProz->setText(*rounded);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol04 - ", "ERROR Tol04 - ", fehler);
+    fehlerBox("Tol04 - ", fehler);
 }
 
 void frmToleranzen::func_Round_Watt(const QString &text) try {
     if (const auto rounded = leistungGerundet(text, halbeSchritteAbWatt))
         ui.txtTolWatt->setText(*rounded);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler Tol05 - ", "ERROR Tol05 - ", fehler);
+    fehlerBox("Tol05 - ", fehler);
 }
 
 void frmToleranzen::cmbGKlasse_Change() {

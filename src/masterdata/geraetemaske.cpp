@@ -1,7 +1,5 @@
 #include "masterdata/geraetemaske.h"
 
-#include <QShortcut>
-
 #include "controls/umbruch.h"
 #include "masterdata/frmGeraet.h"
 #include "session/auswahl.h"
@@ -29,19 +27,15 @@ Gerätemaske::Gerätemaske(const Text &titel) : mTitel(titel) {
     ui.setupUi(this);
     setCaption(mTitel.german);
     ui.Label1->hide();
-    onEnter(ui.txtTyp, [this] { ui.txtHersteller->setFocus(); });
-    onEnter(ui.txtHersteller, [this] { ui.txtSerienNr->setFocus(); });
-    onEnter(ui.txtSerienNr, [this] { ui.txtIdentNr->setFocus(); });
+    enterChain({ui.txtTyp, ui.txtHersteller, ui.txtSerienNr, ui.txtIdentNr});
     onEnter(ui.txtIdentNr, [this] { ui.pbSave->click(); });
     onClick(ui.pbSave, [this] { pbSave_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void Gerätemaske::vorbereiten() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
     ui.laKunde->setText(umbrechbar(auswahl().kunde));
     ui.txtTyp->setFocus();

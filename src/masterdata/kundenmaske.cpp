@@ -1,7 +1,6 @@
 #include "masterdata/kundenmaske.h"
 
 #include <QLineEdit>
-#include <QShortcut>
 
 #include "controls/namensliste.h"
 #include "masterdata/frmKunden.h"
@@ -29,19 +28,15 @@ Kundenmaske::Kundenmaske(const Text &titel) : mTitel(titel) {
     setCaption(mTitel.german);
     ui.cmbOrt->setCompleter(nullptr); // it would write into the box while a person types
     ui.cmbOrt->lineEdit()->setMaxLength(ui.txtName->maxLength());
-    onEnter(ui.txtName, [this] { ui.txtStraße->setFocus(); });
-    onEnter(ui.txtStraße, [this] { ui.txtPLZ->setFocus(); });
-    onEnter(ui.txtPLZ, [this] { ui.cmbOrt->setFocus(); });
+    enterChain({ui.txtName, ui.txtStraße, ui.txtPLZ, ui.cmbOrt});
     onEnter(ui.cmbOrt, [this] { ui.pbSave->click(); });
     onClick(ui.pbSave, [this] { pbSave_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void Kundenmaske::vorbereiten() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
     ui.txtName->setFocus();
     ui.cmbOrt->addItems(

@@ -2,21 +2,15 @@
 
 #include "platform/runtime.h"
 #include "session/sprache.h"
-#include "store/sqltext.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
 
 namespace {
 
-double wert(QString text) {
-    fnc_KommaZuPunkt(text);
-    return Val(text);
-}
-
 Wertprüfung prüfen(const QString &text, double smallest, bool smallestToo, double greatest) {
     // Thousands in groups, as in "0,600", are another number to the torque check.
-    if (!IsNumeric(text) || CDbl(text) != wert(text))
+    if (!IsNumeric(text) || CDbl(text) != ValBeider(text))
         return Wertprüfung::NichtNumerisch;
     const double value = CDbl(text);
     const bool low = smallestToo ? value < smallest : value <= smallest;
@@ -33,8 +27,9 @@ Wertprüfung leistungPrüfen(const QString &text, const Schrittgrenzen &grenzen)
     return prüfen(text, 0, true, grenzen.leistung);
 }
 
-bool drehmomentZulässig(QString drehzahl, QString leistung, const Schrittgrenzen &grenzen) {
-    return drehmoment(wert(std::move(drehzahl)), wert(std::move(leistung))) <= grenzen.drehmoment;
+bool drehmomentZulässig(const QString &drehzahl, const QString &leistung,
+                        const Schrittgrenzen &grenzen) {
+    return drehmoment(ValBeider(drehzahl), ValBeider(leistung)) <= grenzen.drehmoment;
 }
 
 void drehmomentMelden(const Schrittgrenzen &grenzen) {

@@ -18,7 +18,8 @@ Wertprüfung leistungPrüfen(const QString &text, const Schrittgrenzen &grenzen)
 
 /// Whether the torque of the two texts is permissible; a comma counts as the decimal point, and
 /// what is no number as 0.
-bool drehmomentZulässig(QString drehzahl, QString leistung, const Schrittgrenzen &grenzen);
+bool drehmomentZulässig(const QString &drehzahl, const QString &leistung,
+                        const Schrittgrenzen &grenzen);
 /// Tells that it is not.
 void drehmomentMelden(const Schrittgrenzen &grenzen);
 

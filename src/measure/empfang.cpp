@@ -31,7 +31,7 @@ void fnc_SechsRundenStarten() {
         MSComm1.Output("6");
         countedDelay(kurzeVerzögerung);
     } catch (const Fehler &fehler) {
-        fehlerBox("Fehler 3001 - ", "ERROR 3001 - ", fehler);
+        fehlerBox("3001 - ", fehler);
     }
 }
 
@@ -105,7 +105,7 @@ void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) {
         }
     } catch (const Fehler &fehler) {
         stop();
-        fehlerBox("Fehler 3002 - ", "ERROR 3002 - ", fehler);
+        fehlerBox("3002 - ", fehler);
     }
     stop();
 }

@@ -20,9 +20,7 @@ frmMeldung::frmMeldung() {
 }
 
 void frmMeldung::Form_Load() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     if (auto *messen = loaded<frmMessen>())
         messen->disable();
     const auto zeilen = [this](const Text &erste, const Text &zweite) {

@@ -74,9 +74,7 @@ frmMessen::frmMessen() {
 void frmMessen::Form_Load() try {
     motorfenster().disableFront();
     fnc_BefehlSenden("E", gDrehrichtung, "00");
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     const bool deutsch = gSprache != 2;
     ui.cmbMessArt->addItems(deutsch ? QStringList{"Leistungsmessung", "Drehzahlmessung"}
                                     : QStringList{"Power Measurement", "Speed Measurement"});
@@ -114,7 +112,7 @@ void frmMessen::Form_Load() try {
         gMessenFreigabe = true;
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 3010 - ", "ERROR 3010 - ", fehler);
+    fehlerBox("3010 - ", fehler);
 }
 
 void frmMessen::Form_Activate() try {
@@ -127,7 +125,7 @@ void frmMessen::Form_Activate() try {
     if (!gMessungLäuft)
         fnc_Messzyklus();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 3013 - ", "ERROR 3013 - ", fehler);
+    fehlerBox("3013 - ", fehler);
 }
 
 void frmMessen::ersteAktivierung() {
@@ -159,7 +157,7 @@ bool frmMessen::Form_QueryUnload() try {
     messablauf().beimVerlassen(Weggang::Ordentlich);
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 3021 - ", "ERROR 3021 - ", fehler);
+    fehlerBox("3021 - ", fehler);
     return true;
 }
 
@@ -182,7 +180,7 @@ void frmMessen::fnc_PrüfschrittAnzeigen() try {
     ergometerFeldZeigen(art != 1);
     fnc_GraphGrenzenSetzen();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 3017 - ", "ERROR 3017 - ", fehler);
+    fehlerBox("3017 - ", fehler);
 }
 
 void frmMessen::fnc_MesswerteAnzeigen() {
@@ -205,7 +203,7 @@ bool frmMessen::fnc_Bewerten() try {
     }
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 3018 - ", "ERROR 3018 - ", fehler);
+    fehlerBox("3018 - ", fehler);
     return fehler.number() == fehlernummer::DivisionByZero;
 }
 
@@ -256,7 +254,7 @@ void frmMessen::fnc_MesswertSpeichern() try {
     werteVerwerfen();
     form(frm::Meldung).show();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 3016 - ", "ERROR 3016 - ", fehler);
+    fehlerBox("3016 - ", fehler);
 }
 
 void frmMessen::rezeptAbgearbeitet() {

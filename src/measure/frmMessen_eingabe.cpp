@@ -38,8 +38,7 @@ void frmMessen::eingabenVerdrahten() {
 
     onGotFocus(ui.txtSoll_n, [this] { mAltSoll_n = ui.txtSoll_n->text(); });
     onGotFocus(ui.txtSoll_P, [this] { mAltSoll_P = ui.txtSoll_P->text(); });
-    onEnter(ui.txtSoll_n, [this] { ui.txtSoll_P->setFocus(); });
-    onEnter(ui.txtSoll_P, [this] { ui.cmbMessArt->setFocus(); });
+    enterChain({ui.txtSoll_n, ui.txtSoll_P, ui.cmbMessArt});
     onLostFocus(ui.txtSoll_n, [this] {
         sollwertPrüfen(ui.txtSoll_n, mAltSoll_n, höchsteDrehzahl,
                        {"Drehzahl muss ein nummerischer Wert sein!",
@@ -116,7 +115,8 @@ void frmMessen::fnc_MesswerteLeeren() {
 }
 
 bool frmMessen::fnc_DrehmomentPrüfen() {
-    if (drehmoment(boxWert(ui.txtSoll_n->text()), boxWert(ui.txtSoll_P->text())) <= grenzDrehmoment)
+    if (drehmoment(ValBeider(ui.txtSoll_n->text()), ValBeider(ui.txtSoll_P->text())) <=
+        grenzDrehmoment)
         return true;
     meldung({"Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!",
              "The permissible torque has been exeeded!\r\nPlease enter other values!"},
@@ -126,7 +126,7 @@ bool frmMessen::fnc_DrehmomentPrüfen() {
 }
 
 void frmMessen::korrigieren(double schritt) {
-    const double neu = boxWert(ui.txtSoll_n->text()) + schritt;
+    const double neu = ValBeider(ui.txtSoll_n->text()) + schritt;
     if (mBasisDrehzahl != 0 && !freieEingabe()) // the factor is one of the steps of the recipe
         korrFSetzen(neu / mBasisDrehzahl);
     ui.txtSoll_n->setText(CStr(neu));

@@ -34,7 +34,7 @@ void frmMessen::fnc_Messzyklus() {
             durchgang();
         } catch (const Fehler &fehler) {
             gMessenFreigabe = false;
-            fehlerBox("Fehler 3014 - ", "ERROR 3014 - ", fehler);
+            fehlerBox("3014 - ", fehler);
         }
     } while (mNeuerDurchgang && !unloaded());
 }
@@ -70,7 +70,7 @@ void frmMessen::durchgang() {
     try {
         datenstromBeenden();
     } catch (const Fehler &fehler) {
-        fehlerBox("Fehler 3014 - ", "ERROR 3014 - ", fehler); // what was asked for goes on
+        fehlerBox("3014 - ", fehler); // what was asked for goes on
     }
     verteilen();
 }
@@ -116,7 +116,7 @@ void frmMessen::motorAbschalten() {
 }
 
 bool frmMessen::sollwertZulässig() const {
-    const double drehzahl = boxWert(ui.txtSoll_n->text());
+    const double drehzahl = ValBeider(ui.txtSoll_n->text());
     return drehzahl >= 0 && drehzahl <= höchsterSollwert;
 }
 

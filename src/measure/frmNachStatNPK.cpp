@@ -23,9 +23,7 @@ frmNachStatNPK::frmNachStatNPK() {
 }
 
 void frmNachStatNPK::Form_Load() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     ui.laText->setText(inSprache(ankoppeln));
     if (gFormStatus == Formstatus::KorrekturFertig) {
         anzeigen(
@@ -53,7 +51,8 @@ void frmNachStatNPK::pbok_Click() {
 void frmNachStatNPK::Form_Unload() {
     // Without a finished correction no measurement may follow, whatever closed this screen.
     auto *korrektur = loaded<frmStatMessen>();
-    const bool weiter = gFormStatus == Formstatus::Keiner && gMessStatus != Messstatus::Verweigert && korrektur;
+    const bool weiter =
+        gFormStatus == Formstatus::Keiner && gMessStatus != Messstatus::Verweigert && korrektur;
     if (korrektur)
         korrektur->unload();
     if (weiter)

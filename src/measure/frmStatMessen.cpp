@@ -59,9 +59,7 @@ void frmStatMessen::Form_Load() try {
     // The keyboard rests here: Enter must not fall on the button that aborts.
     setFocusPolicy(Qt::StrongFocus);
     setFocus();
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     ui.txtOffset1->setText(Format(0, "0.000"));
     Recordset normal = gDatenbank.open("SELECT * FROM Normalkalibrierdaten ORDER BY NK_ID");
     normal.moveLast();
@@ -71,7 +69,7 @@ void frmStatMessen::Form_Load() try {
     gMomentFaktor = normal[rechts ? "VK1_R" : "VK1_L"].requiredNumber();
     mSollGelesen = true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 4040 - ", "ERROR 4040 - ", fehler);
+    fehlerBox("4040 - ", fehler);
 }
 
 void frmStatMessen::Form_Activate() try {
@@ -94,7 +92,7 @@ void frmStatMessen::Form_Activate() try {
             fnc_StatAbschluss();
     }
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 4041 - ", "ERROR 4041 - ", fehler);
+    fehlerBox("4041 - ", fehler);
 }
 
 bool frmStatMessen::Form_QueryUnload() {
@@ -206,7 +204,7 @@ bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
 } catch (const Fehler &fehler) {
     Timer1.setEnabled(false);
     gTimeoutTimer1 = false;
-    fehlerBox("Fehler 4002 - ", "ERROR 4002 - ", fehler);
+    fehlerBox("4002 - ", fehler);
     return false;
 }
 
@@ -236,7 +234,7 @@ void frmStatMessen::fnc_StatSchreiben() try {
     MSComm1.Output(momentFaktorBefehl(gMomentFaktor));
 } catch (const Fehler &fehler) {
     gErgebnis = false; // nothing goes on with the controller's old values
-    fehlerBox("Fehler 4003 - ", "ERROR 4003 - ", fehler);
+    fehlerBox("4003 - ", fehler);
 }
 
 void frmStatMessen::pbWeiter_Click() try {
@@ -252,7 +250,7 @@ void frmStatMessen::pbWeiter_Click() try {
     beep();
     form(frm::NachStatNPK).showModal();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 4042 - ", "ERROR 4042 - ", fehler);
+    fehlerBox("4042 - ", fehler);
 }
 
 void frmStatMessen::pbAbbrechen_Click() {

@@ -36,8 +36,6 @@ frmVorStatNPK::frmVorStatNPK() {
 }
 
 void frmVorStatNPK::Form_Load() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
     ui.laText->setText(inSprache(gFormStatus != Formstatus::Keiner ? hebelarm : abkoppeln));
 }

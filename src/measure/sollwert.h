@@ -1,4 +1,4 @@
-// What the set-point boxes of the measurement screen have in common. No widget.
+// What the set-point boxes of the measurement screen have in common.
 #pragma once
 
 #include <QString>
@@ -7,7 +7,3 @@
 
 inline const Text drehzahlAußerhalb{"Drehzahl liegt außerhalb des gültigen Bereiches",
                                     "The permissible number of revolutions has been exeeded!"};
-
-/// The number that goes to the controller for the text of a box, with comma or point; 0 for no
-/// number.
-double boxWert(QString text);

@@ -177,6 +177,18 @@ double Round(double value, int digits) {
     return value < 0 ? -rounded : rounded;
 }
 
+double ValBeider(const QString &text) {
+    return Val(QString(text).replace(',', '.'));
+}
+
+void fnc_KommaZuPunkt(QString &text) {
+    text.replace(',', '.');
+}
+
+QString fnc_OhnePunkt(const QString &text) {
+    return QString(text).remove('.');
+}
+
 double Int(double value) {
     return std::floor(value);
 }

@@ -17,6 +17,15 @@ const QLocale &numberLocale();
 /// Reading ends at the first other character, so "12,5" is 12 and "abc" is 0.
 double Val(const QString &text);
 
+/// The same where a comma is a decimal point as well: what was typed under either number format.
+double ValBeider(const QString &text);
+
+/// Replaces every "," by ".", in place.
+void fnc_KommaZuPunkt(QString &text);
+
+/// The text without any ".".
+QString fnc_OhnePunkt(const QString &text);
+
 /// Decimal point, up to 15 significant digits, one leading blank in place of a plus sign.
 QString Str(double value);
 
@@ -46,9 +55,12 @@ double Int(double value);
 
 using platform::CDbl;
 using platform::CStr;
+using platform::fnc_KommaZuPunkt;
+using platform::fnc_OhnePunkt;
 using platform::Format;
 using platform::Int;
 using platform::IsNumeric;
 using platform::Round;
 using platform::Str;
 using platform::Val;
+using platform::ValBeider;

@@ -5,5 +5,5 @@
 #include "session/sprache.h"
 
 void fnc_Archivieren() try { archivieren(gBerichtProtokoll); } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1083 - ", "ERROR 1083 - ", fehler);
+    fehlerBox("1083 - ", fehler);
 }

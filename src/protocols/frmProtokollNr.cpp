@@ -43,9 +43,7 @@ frmProtokollNr::frmProtokollNr()
 }
 
 void frmProtokollNr::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
 }
 
 void frmProtokollNr::Form_Load() try {
@@ -57,7 +55,7 @@ void frmProtokollNr::Form_Load() try {
     fnc_ProtokollNrNeu();
     ui.obNeu->setFocus();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 9705- ", "ERROR 9705- ", fehler);
+    fehlerBox("9705- ", fehler);
 }
 
 void frmProtokollNr::fnc_LeereProtokolle() try {
@@ -65,7 +63,7 @@ void frmProtokollNr::fnc_LeereProtokolle() try {
     protokollListeFüllen(*ui.cmbVorhanden, leere);
     ui.obVorhanden->setEnabled(!leere.isEmpty());
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 9701 - ", "ERROR 9701 - ", fehler);
+    fehlerBox("9701 - ", fehler);
 }
 
 bool frmProtokollNr::fnc_LetztesProtokollPrüfen() try {
@@ -78,7 +76,7 @@ bool frmProtokollNr::fnc_LetztesProtokollPrüfen() try {
     msLetzterName = letztes.name;
     return true;
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 97011 - ", "ERROR 97011 - ", fehler);
+    fehlerBox("97011 - ", fehler);
     return false;
 }
 
@@ -88,7 +86,7 @@ void frmProtokollNr::fnc_ProtokollNrNeu() try {
     ui.lbProtokollID->setText(QString::number(gProtokollID) + " - ");
     ui.obNeu->setEnabled(true);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 9702 - ", "ERROR 9702 - ", fehler);
+    fehlerBox("9702 - ", fehler);
 }
 
 /// Puts the list beside the option that it belongs to.
@@ -138,7 +136,7 @@ void frmProtokollNr::cmbVorhanden_KeyPress() try {
         return; // its one entry is not looked up
     protokollNachschlagen(*ui.cmbVorhanden, *ui.pbok);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 9703- ", "ERROR 9703- ", fehler);
+    fehlerBox("9703- ", fehler);
 }
 
 // gProtokollID takes another number only once its head is known to be there: the new number stays
@@ -162,7 +160,7 @@ void frmProtokollNr::pbok_Click() try {
     }
     abschließen(angenommen);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 9704- ", "ERROR 9704- ", fehler);
+    fehlerBox("9704- ", fehler);
     if (fehler.number() == platform::fehlernummer::DuplicateKey)
         fnc_ProtokollNrNeu(); // another program took the number
 }

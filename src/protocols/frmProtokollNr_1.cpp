@@ -24,9 +24,7 @@ frmProtokollNr_1::frmProtokollNr_1()
 }
 
 void frmProtokollNr_1::beschriften() {
-    if (gSprache == 1)
-        ui.retranslateUi(this);
-    englischBeschriften(*this, english);
+    beschriftungenSetzen(ui, *this, english);
 }
 
 void frmProtokollNr_1::Form_Load() try {
@@ -35,7 +33,7 @@ void frmProtokollNr_1::Form_Load() try {
     ui.txtProtoName->setFocus();
     fnc_ProtokollNrNeu();
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1020 - ", "ERROR 1020 - ", fehler);
+    fehlerBox("1020 - ", fehler);
 }
 
 void frmProtokollNr_1::fnc_ProtokollNrNeu() {
@@ -51,7 +49,7 @@ void frmProtokollNr_1::pbok_Click() try {
     kopfAnlegen(gProtokollID, ui.txtProtoName->text());
     abschließen(angenommen);
 } catch (const Fehler &fehler) {
-    fehlerBox("Fehler 1021 - ", "ERROR 1021 - ", fehler);
+    fehlerBox("1021 - ", fehler);
 }
 
 void frmProtokollNr_1::pbexit_Click() {

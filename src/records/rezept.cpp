@@ -46,5 +46,5 @@ void sitzungsrezeptEinsetzen() try {
     if (fehler.number() == platform::fehlernummer::NoCurrentRecord)
         rezeptWählen({});
     else
-        fehlerBox("Fehler 1015 - ", "ERROR 1015 - ", fehler);
+        fehlerBox("1015 - ", fehler);
 }

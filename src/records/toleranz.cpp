@@ -4,7 +4,6 @@
 #include "records/satz.h"
 #include "session/sprache.h"
 #include "store/database.h"
-#include "store/sqltext.h"
 
 namespace {
 

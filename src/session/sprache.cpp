@@ -1,38 +1,25 @@
 #include "session/sprache.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QGroupBox>
-#include <QLabel>
-#include <QMenu>
-
 #include "platform/runtime.h"
 #include "session/session.h"
 #include "windows/msgbox.h"
 
 namespace {
 
-const Text fehlerTitel{"!! Achtung Fehler !!", " !! Attention !!"};
-
-void setCaption(QObject *object, const QString &text) {
-    if (auto *button = qobject_cast<QAbstractButton *>(object))
-        button->setText(text);
-    else if (auto *label = qobject_cast<QLabel *>(object))
-        label->setText(text);
-    else if (auto *group = qobject_cast<QGroupBox *>(object))
-        group->setTitle(text);
-    else if (auto *menu = qobject_cast<QMenu *>(object))
-        menu->setTitle(text);
-    else if (auto *action = qobject_cast<QAction *>(object))
-        action->setText(text);
-    else
-        Q_ASSERT_X(false, "setCaption", "no caption on this kind of control");
+void setCaption(QObject *object, const char *text) {
+    const char *property = object->property("title").isValid() ? "title" : "text"; // of frame, menu
+    [[maybe_unused]] const bool known = object->setProperty(property, QString(text));
+    Q_ASSERT_X(known, "setCaption", "no caption on this kind of control");
 }
 
 } // namespace
 
 const QString &inSprache(const Text &text) {
     return gSprache == 1 ? text.german : text.english;
+}
+
+bool inDeutsch() {
+    return gSprache == 1;
 }
 
 bool spracheGewählt() {
@@ -54,9 +41,18 @@ void fehlerBox(const Text &kennung, const Fehler &fehler, const Text &titel) {
                      platform::Critical, inSprache(titel));
 }
 
-void fehlerBox(const QString &kennungDeutsch, const QString &kennungEnglisch,
-               const Fehler &fehler) {
-    fehlerBox({kennungDeutsch, kennungEnglisch}, fehler, fehlerTitel);
+void fehlerBox(const QString &kennung, const Fehler &fehler) {
+    fehlerBox({"Fehler " + kennung, "ERROR " + kennung}, fehler);
+}
+
+std::function<void()> gefangen(const QString &kennung, std::function<void()> body) {
+    return [kennung, body = std::move(body)] {
+        try {
+            body();
+        } catch (const Fehler &fehler) {
+            fehlerBox(kennung, fehler);
+        }
+    };
 }
 
 void englischBeschriften(QWidget &screen, std::span<const Beschriftung> texte) {

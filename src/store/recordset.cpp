@@ -2,16 +2,13 @@
 
 #include "platform/fehler.h"
 #include "platform/runtime.h"
-#include "store/sqltext.h"
 
 using namespace platform;
 
 double Feld::number() const {
     if (mValue.typeId() != QMetaType::QString)
         return mValue.toDouble();
-    QString text = mValue.toString(); // as typed, under either number format
-    fnc_KommaZuPunkt(text);
-    return Val(text);
+    return ValBeider(mValue.toString());
 }
 
 double Feld::requiredNumber() const {

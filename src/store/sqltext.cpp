@@ -56,11 +56,3 @@ QDate datumAus(const QString &iso) {
 QString datumText(const QDate &datum) {
     return datum.toString("dd.MM.yyyy");
 }
-
-void fnc_KommaZuPunkt(QString &text) {
-    text.replace(',', '.');
-}
-
-QString fnc_OhnePunkt(const QString &text) {
-    return QString(text).remove('.');
-}

@@ -16,9 +16,3 @@ QDate datumAus(const QString &iso);
 
 /// dd.mm.yyyy; empty for an invalid date.
 QString datumText(const QDate &datum);
-
-/// Replaces every "," by ".", in place.
-void fnc_KommaZuPunkt(QString &text);
-
-/// The text without any ".".
-QString fnc_OhnePunkt(const QString &text);

@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 
 #include <utility>
@@ -223,6 +224,15 @@ void Screen::onClick(QAbstractButton *button, Handler handler) {
 
 void Screen::onEnter(QWidget *control, Handler handler) {
     filterOf(control).enter = std::move(handler);
+}
+
+void Screen::enterChain(std::initializer_list<QWidget *> fields) {
+    for (const auto *field = fields.begin(); field + 1 < fields.end(); ++field)
+        onEnter(*field, [next = field[1]] { next->setFocus(Qt::TabFocusReason); });
+}
+
+void Screen::onEscape(Handler handler) {
+    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, std::move(handler));
 }
 
 void Screen::onGotFocus(QWidget *control, Handler handler) {

@@ -69,6 +69,10 @@ class Screen : public QWidget {
     /// happens.
     void onClick(QAbstractButton *button, Handler handler);
     void onEnter(QWidget *control, Handler handler);
+    /// Enter in each but the last turns to the next.
+    void enterChain(std::initializer_list<QWidget *> fields);
+    /// The Escape key, anywhere on the screen.
+    void onEscape(Handler handler);
     void onGotFocus(QWidget *control, Handler handler);
     /// A control that was to get the keyboard but never did, since the handler of the one before it
     /// sent it elsewhere, is not left.

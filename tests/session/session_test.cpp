@@ -28,7 +28,7 @@ TEST_F(Session, FailureBoxesShowAndKeepNumberAndText) {
         gFehlerNr = 0;
         expectBox({"Fehler 3016 -  13 Typen unverträglich", "ERROR 3016 -  13 Type mismatch"},
                   platform::Critical, {"!! Achtung Fehler !!", " !! Attention !!"});
-        fehlerBox("Fehler 3016 - ", "ERROR 3016 - ", fehler);
+        fehlerBox("3016 - ", fehler);
         EXPECT_EQ(QString::number(gFehlerNr) + gFehlerText, "13" + inSprache(fehler.text()));
     }
     expectBox({"Fehler 7--5 x", "ERROR 7--5 y"}, platform::Critical, {"T", "U"});
