@@ -7,12 +7,15 @@
 #include <QUrl>
 
 #include "app/datenbank.h"
+#include "link/anschluss.h"
 #include "link/controller.h"
 #include "link/einlauf.h"
-#include "link/interface.h"
 #include "platform/fehler.h"
 #include "platform/runtime.h"
+#include "records/geraetedaten.h"
+#include "records/leitung.h"
 #include "records/normal.h"
+#include "records/rezept.h"
 #include "records/system.h"
 #include "session/auswahl.h"
 #include "session/session.h"
@@ -25,66 +28,17 @@ using namespace platform;
 
 namespace {
 
-constexpr Beschriftung english[] = {
-    {"mnuDatei", "&Program"},
-    {"mnuStammdaten", "&Master Data"},
-    {"mnuMessung", "Me&asurement"},
-    {"mnuProtokolle", "P&rotocols"},
-    {"mnuSprache", "&Language"},
-    {"mnuHilfe", "&Help"},
-    {"mnuKunden", "&Customers"},
-    {"mnuGerät", "&Unit"},
-    {"mnuRezept", "&Choose Recipe"},
-    {"mnuRezepte", "&Recipes"},
-    {"mnuStartMessen", "&Start Measuring"},
-    {"mnuProtokoll", "&Print Protocol"},
-    {"mnuProtVerw", "Protocol &Administration"},
-    {"mnuToleranzen", "&Specifications"},
-    {"mnuRoute", "Recall &List"},
-    {"mnuUpdate", "&Update Database"},
-    {"mnuPDF", "&PDF Printer"},
-    {"mnuSSParameter", "&Interface"},
-    {"mnuEinlaufen", "&Running-in Parameters"},
-    {"mnuKalibrierung", "&Lever Arm Calibration"},
-    {"mnuBeenden", "&Exit"},
-    {"mnuDeutsch", "&German"},
-    {"mnuEnglisch", "&English"},
-    {"mnuHelp", "&Help"},
-    {"FrAuswahl", "Selection"},
-    {"lbPrüfer", "Inspector:"},
-    {"lbDatum", "Date:"},
-    {"lbKunde", "Customer:"},
-    {"lbGerät", "Unit:"},
-    {"lbGerätID", "Ident no.:"},
-    {"lbRezept", "Recipe:"},
-    {"lbRezName", "Specification:"},
-    {"lbNormal", "Standard:"},
-    {"lbKalDat", "calibrated until:"},
-    {"pbKunde", "&Customer"},
-    {"pbGerät", "&Unit"},
-    {"pbRezept", "Rec&ipe"},
-    {"FrMotor", "Motor"},
-    {"lbDrehrichtungText", "Direction of rotation:"},
-    {"lbEinlaufText", "Running-in time left:"},
-    {"pbDrehR", "&Direction"},
-    {"pbMotein", "Motor O&N"},
-    {"pbMotaus", "Motor O&FF"},
-    {"FrMessen", "Measuring and Protocols"},
-    {"pbMessen", "&Start Measuring"},
-    {"pbProtokoll", "Pr&otocol"},
-    {"pbBlutdruck", "&Blood Pressure"},
-    {"pbSecControl", "Safet&y (EST)"},
-    {"pbReset", "Rese&t"},
-    {"pbEndprüf", "Final T&est"},
-    {"pbBeenden", "E&xit"},
-};
-
 constexpr auto helpFile = "hilfe.html";
 
 } // namespace
 
 frmDesktop::frmDesktop()
-    : mSeriennummer([this](const QString &text) { showMotorInfo(text); },
+    : mMotor(*this, {{"Motor konnte nicht eingeschaltet werden",
+                      "It was not possible to switch the motor on."},
+                     {"Motor ein", "Motor On"},
+                     {"Fehler", "Error"},
+                     {"Motor aus", "Motor Off"}}),
+      mSeriennummer([this](const QString &text) { showMotorInfo(text); },
                     [this] {
                         datumZeigen(datumText(now().date()));
                         normalUndHebelarmZeigen();
@@ -162,7 +116,7 @@ void frmDesktop::Form_Load() try {
     ui.pbReset->setVisible(endprüfung);
     ui.pbEndprüf->setVisible(endprüfung);
     ohneFehlendeSpalte([] {
-        const InterfaceZeile leitung = interfaceLesen();
+        const Leitungseinstellung leitung = leitungLesen(steuerleitung.tabelle);
         MSComm1.setCommPort(leitung.port);
         MSComm1.setSettings(leitung.parameter);
     });
@@ -198,39 +152,6 @@ void frmDesktop::systemNachlesen() try { systemLesen(); } catch (const Fehler &f
     fehlerMerken(fehler);
 }
 
-void frmDesktop::normalUndHebelarmZeigen() {
-    ui.txtKalDat->setText(datumText(gKalibrierdatum));
-    const QDate heute = now().date();
-    ui.ProgressBar1->setValue(hebelarmRest(gHebelarmDatum, gHebelarmFällig, heute));
-    beschriften();
-    QPalette palette;
-    if (heute > gHebelarmFällig)
-        palette.setColor(QPalette::WindowText, QColor(255, 0, 0));
-    ui.FrHebelarm->setPalette(palette);
-}
-
-void frmDesktop::beschriften() {
-    beschriftungenSetzen(ui, *this, english);
-    setCaption(gProduktTitel);
-    if (!spracheGewählt())
-        return;
-    normalZeigen(gNKGerätetyp + " SerienNr. " + gSeriennummer);
-    ui.FrHebelarm->setTitle(inSprache({"Nächste Hebelarmkalibrierung fällig am ",
-                                       "Next lever arm calibration due on "}) +
-                            datumText(gHebelarmFällig));
-}
-
-void frmDesktop::auswahlZeigen() {
-    const Auswahl &wahl = auswahl();
-    ui.txtKunde->setText(wahl.kunde);
-    ui.txtGerät->setText(wahl.gerät);
-    ui.txtGerätID->setText(wahl.gerätID);
-    ui.txtRezept->setText(wahl.rezept);
-    ui.txtRezName->setText(wahl.rezept.isEmpty() ? QString() : gRezeptName);
-    ui.txtNormal->setText(wahl.normal);
-    ui.txtDatum->setText(wahl.datum);
-}
-
 void frmDesktop::DesktopButton_Freigeben() {
     const DesktopRegeln regeln = desktopRegeln(auswahl());
     ui.mnuGerät->setEnabled(regeln.gerät);
@@ -257,20 +178,6 @@ void frmDesktop::setMessenEnabled(bool enabled) {
 void frmDesktop::messenFreigeben(bool frei) {
     ui.pbMessen->setEnabled(frei);
     ui.mnuStartMessen->setEnabled(frei);
-}
-
-void frmDesktop::showMotorInfo(const QString &text) {
-    mMotorInfo = text;
-    infoZeigen();
-}
-
-void frmDesktop::infoZeigen() {
-    QStringList lines{mMotorInfo};
-    if (mKorrekturFehlt)
-        lines += inSprache({"Messen ist gesperrt. Bitte Kunde, Gerät oder Rezept neu wählen.",
-                            "Measuring is locked. Please choose customer, unit or recipe again."});
-    lines.removeAll(QString());
-    ui.laInfo->setText(lines.join('\n'));
 }
 
 void frmDesktop::spracheSetzen(std::int16_t sprache) {
@@ -340,10 +247,32 @@ void frmDesktop::Form_Unload() {
     QCoreApplication::exit(0); // other screens go with the process
 }
 
+void frmDesktop::pbMotein_Click() try {
+    fnc_PortPrüfen();
+    if (gSS1Vorhanden) {
+        mMotor.ein();
+        return;
+    }
+    meldung({"Die Schnittstellenparameter gibt es nicht. \rBitte korrigieren Sie die "
+             "Einstellungen!",
+             "The interface settings do not exist . \rPlease correct it!"},
+            Exclamation, {"Achtung!", "Attention!"});
+    form(frm::Interface).showModal();
+} catch (const Fehler &fehler) {
+    fehlerBox({"Fehler 6003- ", "ERROR 6003 - "}, fehler);
+}
+
+void frmDesktop::pbMotaus_Click() try { mMotor.aus(); } catch (const Fehler &fehler) {
+    fehlerBox({"Fehler 6004- ", "ERROR 6004 - "}, fehler);
+}
+
+void frmDesktop::pbMessen_Click() {
+    if (mMotor.messbereit())
+        form(frm::StatMessen).showModal();
+}
+
 void frmDesktop::mnuGerät_Click() try {
-    const Recordset rows =
-        gDatenbank.open("SELECT Gerätetyp FROM Ergometer WHERE KundenID = ? LIMIT 1", {gKundenID});
-    if (!rows.empty()) {
+    if (hatGeräte(gKundenID)) {
         form(frm::Gerät).showModal();
     } else {
         gNeuModus = true;
@@ -362,12 +291,9 @@ void frmDesktop::mnuRezept_Click() {
 
 void frmDesktop::mnuRezepte_Click() try {
     gRezeptAufruf = false;
-    if (gDatenbank.open("SELECT RezName FROM Rezeptnamen").empty()) {
-        gNeuModus = true;
-        form(frm::NeuRezept).showModal();
-    } else {
-        form(frm::Rezepte).showModal();
-    }
+    const bool vorhanden = rezepteVorhanden();
+    gNeuModus = gNeuModus || !vorhanden;
+    form(vorhanden ? frm::Rezepte : frm::NeuRezept).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("6001 - ", fehler);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/seriennummer.h"
+#include "link/motorbedienung.h"
 #include "session/motorfenster.h"
 #include "session/screens.h"
 #include "ui_frmDesktop.h"
@@ -22,6 +23,8 @@ class frmDesktop : public Screen, public Motorfenster {
     void setMoteinEnabled(bool enabled) override;
     void setMotausEnabled(bool enabled) override { ui.pbMotaus->setEnabled(enabled); }
     void setDrehREnabled(bool enabled) override { ui.pbDrehR->setEnabled(enabled); }
+    void focusMotein() override { ui.pbMotein->setFocus(); }
+    void focusMotaus() override { ui.pbMotaus->setFocus(); }
     void setMessenEnabled(bool enabled) override;
     void showDrehrichtung(const QString &wort) override { ui.lbDrehrichtung->setText(wort); }
     void showEinlauf(const QString &rest) override { ui.lbEinlauf->setText(rest); }
@@ -57,12 +60,12 @@ class frmDesktop : public Screen, public Motorfenster {
     void mnuHelp_Click();
     void pbReset_Click();
 
-    // Motor and measurement (frmDesktop_motor.cpp)
     void pbMotein_Click();
     void pbMotaus_Click();
     void pbMessen_Click();
 
     Ui::frmDesktop ui;
+    Motorbedienung mMotor;
     Seriennummer mSeriennummer;
     int mAntwort = 0; ///< to the question whether the program shall end
     QString mMotorInfo;

@@ -1,7 +1,7 @@
 #include "app/seriennummer.h"
 
+#include "link/anschluss.h"
 #include "link/controller.h"
-#include "link/interface.h"
 #include "platform/fehler.h"
 #include "platform/guard.h"
 #include "records/normal.h"

@@ -2,9 +2,9 @@
 
 #include "link/einlaufwert.h"
 #include "platform/runtime.h"
+#include "records/system.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -28,7 +28,6 @@ frmEinlaufen::frmEinlaufen() {
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbAbbrechen, [this] { unload(); });
     enterChain({ui.txtZeit, ui.txtW});
-    onEnter(ui.txtW, [this] { pbok_Click(); });
     onEscape([this] { unload(); });
 }
 
@@ -43,14 +42,14 @@ void frmEinlaufen::Form_Load() {
 void frmEinlaufen::pbok_Click() try {
     int failed = 0;
     if (const auto time = einlaufWert(ui.txtZeit->text(), einlaufzeitGrenze)) {
-        gDatenbank.execute("UPDATE System set Einlzeit2 = ?", {*time});
+        einlaufzeitSpeichern(*time);
         gEinlaufzeit = *time;
     } else {
         ++failed;
         ui.txtZeit->setFocus();
     }
     if (const auto power = einlaufWert(ui.txtW->text(), einlaufLeistungGrenze)) {
-        gDatenbank.execute("UPDATE System set EinlW = ?", {*power});
+        einlaufleistungSpeichern(*power);
         gEinlaufLeistung = *power;
     } else if (++failed == 1) {
         ui.txtW->setFocus();

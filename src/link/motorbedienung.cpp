@@ -1,7 +1,15 @@
 #include "link/motorbedienung.h"
 
-#include "session/motorfenster.h"
+#include <QScopeGuard>
+
+#include "link/controller.h"
+#include "link/einlauf.h"
+#include "session/screens.h"
 #include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
+
+using namespace platform;
 
 namespace {
 
@@ -21,4 +29,81 @@ void welleLäuftAn() {
 
 void welleSteht() {
     setzen(false);
+}
+
+bool Motorbedienung::ein() {
+    einlaufzeitSetzen();
+    mFenster.setMoteinEnabled(false);
+    mFenster.setDrehREnabled(false);
+    mFenster.disableFront();
+    const auto wieder = qScopeGuard([this] { mFenster.enableFront(); });
+    mFenster.showMotorInfo(inSprache({"Motor wird eingeschaltet", "Motor is switched on"}));
+    if (fnc_BefehlSenden("E", gDrehrichtung, "60")) {
+        mFenster.focusMotaus(); // left alone it would fall on the button that ends the program
+        einlaufStarten();
+        return true;
+    }
+    meldung(mTexte.nichtEin, Critical, mTexte.nichtEinTitel);
+    mFenster.setMoteinEnabled(true);
+    mFenster.focusMotein();
+    mFenster.setDrehREnabled(!gMotorEin);
+    mFenster.setMotausEnabled(gMotorEin);
+    mFenster.showMotorInfo({});
+    return false;
+}
+
+bool Motorbedienung::aus() {
+    mFenster.setMoteinEnabled(false);
+    mFenster.setDrehREnabled(false);
+    mFenster.setMotausEnabled(false);
+    mFenster.disableFront();
+    const auto wieder = qScopeGuard([this] {
+        mFenster.setMotausEnabled(gMotorEin);
+        mFenster.enableFront();
+    });
+    mFenster.showMotorInfo(inSprache({"Motor wird ausgeschaltet!", "Motor is switched off!"}));
+    tiEinlauf.setEnabled(false);
+    if (fnc_BefehlSenden("E", gDrehrichtung, "00")) {
+        mFenster.setMoteinEnabled(true);
+        mFenster.focusMotein();
+        mFenster.setDrehREnabled(true);
+        mFenster.showMotorInfo(inSprache({"Motor ist ausgeschaltet", "Motor is switched off"}));
+        motorzeitMerken();
+        gMessStatus = Messstatus::Ruhe;
+        return true;
+    }
+    meldung(mTexte.nichtAus, Exclamation, mTexte.nichtAusTitel);
+    mFenster.setMotausEnabled(true);
+    mFenster.focusMotaus();
+    return false;
+}
+
+bool Motorbedienung::messbereit() {
+    gMessenFreigabe = true;
+    gMessStatus = Messstatus::Ruhe;
+    if (!gEingelaufen) {
+        const int antwort = meldung(
+            {"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
+             "beginnen ?",
+             "The unit under test has not completed the run-up yet!\rDo you still want to "
+             "start the measurement?"},
+            YesNo + Exclamation + SecondButtonDefault, {"Messen starten", "Start The Measurement"});
+        if (antwort == No) {
+            gMessenFreigabe = false;
+            return false;
+        }
+    }
+    if (gDrehrichtung == 0) { // also when it was taken back since the running-in
+        meldung({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
+                 "Please select a direction of rotation for the motor first!"},
+                Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
+        gMessenFreigabe = true;
+        form(frm::MotorDrehR).showModal();
+        return false;
+    }
+    gEinlaufStatus = Einlaufstatus::NichtBegonnen;
+    tiEinlauf.setEnabled(false);
+    gRestMinuten = gEinlaufzeit;
+    gEingelaufen = true;
+    return true;
 }

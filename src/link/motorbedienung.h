@@ -1,9 +1,41 @@
-// Whether the shaft may be turning. One place says so, and gMotorEin holds it: true from the moment
-// the confirmation of a speed above 0 begins to go out, false only when that of a stop has gone
-// out. A command that the controller did not take changes nothing of it.
+// The motor of the stand, as the buttons of a window run it.
+//
+// Whether the shaft may be turning is said in one place, and gMotorEin holds it: true from the
+// moment the confirmation of a speed above 0 begins to go out, false only when that of a stop has
+// gone out. A command that the controller did not take changes nothing of it.
 #pragma once
+
+#include "platform/text.h"
+#include "session/motorfenster.h"
 
 /// The confirmation of a speed above 0 is about to go out.
 void welleLäuftAn();
 /// The confirmation of a stop has gone out.
 void welleSteht();
+
+/// What a window says when the controller did not take its command.
+struct Motortexte {
+    platform::Text nichtEin, nichtEinTitel;
+    platform::Text nichtAus, nichtAusTitel;
+};
+
+class Motorbedienung {
+  public:
+    Motorbedienung(Motorfenster &fenster, Motortexte texte)
+        : mFenster(fenster), mTexte(std::move(texte)) {}
+
+    /// Starts the motor at 60 1/min in the direction of the session, and the running-in with it.
+    /// The window takes no input meanwhile. False when the controller did not take it, which is
+    /// told.
+    bool ein();
+    /// Stops the motor and the running-in. False when the controller did not take it, which is
+    /// told: the motor counts as running then.
+    bool aus();
+    /// Asks and tells what stands before a measurement: the running-in, the direction, which is
+    /// chosen next where there is none. True when a measurement may begin now.
+    bool messbereit();
+
+  private:
+    Motorfenster &mFenster;
+    Motortexte mTexte;
+};

@@ -32,6 +32,11 @@ Gerätedaten gerätLesen(Schlüssel gerätID) {
     return {row[2].text(), row[3].text(), row[4].text(), row[5].text()};
 }
 
+bool hatGeräte(Schlüssel kundenID) {
+    return !gDatenbank.open("SELECT 1 FROM Ergometer WHERE KundenID = ? LIMIT 1", {kundenID})
+                .empty();
+}
+
 bool identnummerVergeben(const QString &identNr, Schlüssel außer) {
     return !gDatenbank
                 .open("select GerätID from Ergometer where Gleich(IdentNr, ?) and GerätID <> ?",

@@ -24,6 +24,8 @@ Fehlendes fehlendeAngaben(const Gerätedaten &gerät,
 /// Raises NoCurrentRecord when there is no such unit.
 Gerätedaten gerätLesen(Schlüssel gerätID);
 
+bool hatGeräte(Schlüssel kundenID);
+
 /// True when a unit other than this one, of whichever customer, has the number.
 bool identnummerVergeben(const QString &identNr, Schlüssel außer);
 

@@ -20,6 +20,10 @@ RezeptKopf rezeptKopf(const QString &name) {
     return kopf;
 }
 
+bool rezepteVorhanden() {
+    return !gDatenbank.open("SELECT 1 FROM Rezeptnamen LIMIT 1").empty();
+}
+
 Schlüssel rezeptSchlüssel(const QString &name) {
     const Recordset row =
         gDatenbank.open("select rezeptid from rezeptnamen where rezname = ?", {name});

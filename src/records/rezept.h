@@ -10,6 +10,8 @@
 /// its specification was deleted.
 RezeptKopf rezeptKopf(const QString &name);
 
+bool rezepteVorhanden();
+
 /// The key alone, also of a recipe without a specification. Raises NoCurrentRecord.
 Schlüssel rezeptSchlüssel(const QString &name);
 

@@ -18,6 +18,14 @@ void systemLesen(SystemTitel *titel) {
     gSprache = static_cast<std::int16_t>(system[6].whole());
 }
 
+void einlaufzeitSpeichern(double zeit) {
+    gDatenbank.execute("UPDATE System SET Einlzeit2 = ?", {zeit});
+}
+
+void einlaufleistungSpeichern(double watt) {
+    gDatenbank.execute("UPDATE System SET EinlW = ?", {watt});
+}
+
 bool endprüfungFreigegeben() {
     try {
         const Recordset system = gDatenbank.open("SELECT Endprüfung FROM System");

@@ -12,5 +12,9 @@ struct SystemTitel {
 /// a later column is missing. With no row or more than one nothing is taken. Raises Fehler.
 void systemLesen(SystemTitel *titel = nullptr);
 
+/// The running-in: its time in minutes.seconds, its power in W.
+void einlaufzeitSpeichern(double zeit);
+void einlaufleistungSpeichern(double watt);
+
 /// True when this installation shows reset and final test; false when the setting cannot be read.
 bool endprüfungFreigegeben();

@@ -11,6 +11,8 @@ class Motorfenster {
     virtual void setMoteinEnabled(bool) {}
     virtual void setMotausEnabled(bool) {}
     virtual void setDrehREnabled(bool) {}
+    virtual void focusMotein() {}
+    virtual void focusMotaus() {}
     /// False after a failed zero-point correction: no measurement can be started until the
     /// selection enables it again.
     virtual void setMessenEnabled(bool) {}

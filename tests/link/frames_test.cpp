@@ -2,7 +2,7 @@
 #include <random>
 
 #include "link/frames.h"
-#include "link/interface.h"
+#include "link/anschluss.h"
 #include "linktest.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // The settings of the line to the controller and of the running-in.
 #include "link/controller.h"
-#include "link/interface.h"
+#include "link/anschluss.h"
 #include "session/session.h"
 #include "workplace.h"
 

@@ -8,7 +8,7 @@
 #include "boxtexts.h"
 #include "link/controller.h"
 #include "link/einlauf.h"
-#include "link/interface.h"
+#include "link/anschluss.h"
 #include "platform/runtime.h"
 #include "session/auswahl.h"
 #include "session/session.h"

@@ -1,13 +1,15 @@
-#include "link/interface.h"
+#include "link/anschluss.h"
 
 #include "link/controller.h"
+#include "platform/fehler.h"
 #include "platform/runtime.h"
+#include "records/leitung.h"
 #include "session/sprache.h"
-#include "store/database.h"
 
 using namespace platform;
 
-bool gSS1Vorhanden = false;
+const Anschluss steuerleitung{
+    MSComm1, "Interface", gSS1Vorhanden, {"Fehler mI 2 - ", "ERROR mSI 2 - "}, leitungFreiPrüfen};
 
 namespace {
 
@@ -74,37 +76,33 @@ const QStringList &Schnittstelle::stoppbitzahlen() {
     return list;
 }
 
-int fnc_PortPrüfen() {
-    try {
-        leitungFreiPrüfen(); // the trial would close the port under a running exchange
-        if (!MSComm1.PortOpen())
-            MSComm1.setPortOpen(true);
-        MSComm1.setPortOpen(false);
-        gSS1Vorhanden = true;
-        return 0;
-    } catch (const Fehler &fehler) {
-        fehlerMerken(fehler);
-        if (fehler.number() == fehlernummer::NoSuchPort ||
-            fehler.number() == fehlernummer::PortSettings)
-            gSS1Vorhanden = false; // of no use before the settings have been mended
-        if (fehler.number() != fehlernummer::NoSuchPort)
-            fehlerBox({"Fehler mI 2 - ", "ERROR mSI 2 - "}, fehler);
-        return fehler.number();
-    }
+int portPrüfen(const Anschluss &anschluss) try {
+    anschluss.freiPrüfen(); // the trial would close the port under a running exchange
+    if (!anschluss.leitung.PortOpen())
+        anschluss.leitung.setPortOpen(true);
+    anschluss.leitung.setPortOpen(false);
+    anschluss.vorhanden = true;
+    return 0;
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
+    if (fehler.number() == fehlernummer::NoSuchPort ||
+        fehler.number() == fehlernummer::PortSettings)
+        anschluss.vorhanden = false; // of no use before the settings have been mended
+    if (fehler.number() != fehlernummer::NoSuchPort)
+        fehlerBox(anschluss.kennung, fehler);
+    return fehler.number();
+}
+
+void portWechseln(MSComm &leitung, int port) {
+    if (leitung.PortOpen())
+        leitung.setPortOpen(false);
+    leitung.setCommPort(port);
 }
 
 void fnc_InterfaceSpeichern(const QString &port, const QString &baud, const QString &data,
                             const QString &parity, const QString &stop) {
     const int number = static_cast<int>(Val(port));
-    const Schnittstelle fields{baud, parity, data, stop};
-    gDatenbank.together([&] {
-        gDatenbank.execute("UPDATE Interface SET PortNr = ?", {number});
-        gDatenbank.execute("UPDATE Interface SET Parameter = ?", {fields.parameter()});
-    });
+    leitungSpeichern(steuerleitung.tabelle,
+                     {number, Schnittstelle{baud, parity, data, stop}.parameter()});
     MSComm1.setCommPort(number);
-}
-
-InterfaceZeile interfaceLesen() {
-    const Recordset row = gDatenbank.open("SELECT PortNr, Parameter FROM Interface");
-    return {row[0].whole(), row[1].text()};
 }

@@ -1,0 +1,71 @@
+#include "link/anschlussmaske.h"
+
+#include <QScopedValueRollback>
+
+#include "platform/fehler.h"
+#include "records/leitung.h"
+#include "session/sprache.h"
+
+Anschlussmaske::Anschlussmaske(const Anschluss &anschluss) : mAnschluss(anschluss) {
+    ui.setupUi(this);
+    ui.cmbBaud->addItems(Schnittstelle::baudraten());
+    ui.cmbDatenbits->addItems(Schnittstelle::datenbitzahlen());
+    ui.cmbParitaet->addItems(Schnittstelle::paritäten());
+    ui.cmbStoppbits->addItems(Schnittstelle::stoppbitzahlen());
+    on(ui.SbCOM, &QScrollBar::valueChanged, [this] { SbCOM_Change(); });
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    onEnter(this, [this] { pbok_Click(); });
+    onEscape([this] { unload(); });
+}
+
+void Anschlussmaske::einstellungZeigen() {
+    const Leitungseinstellung row = leitungLesen(mAnschluss.tabelle);
+    ui.SbCOM->setValue(row.port);                  // txtCOM is empty, so nothing is tried
+    ui.txtCOM->setText(QString::number(row.port)); // also one above those of the bar
+    const Schnittstelle fields = Schnittstelle::ausParameter(row.parameter);
+    ui.cmbBaud->setCurrentIndex(ui.cmbBaud->findText(fields.baud));
+    ui.cmbParitaet->setCurrentIndex(ui.cmbParitaet->findText(fields.parität));
+    ui.cmbDatenbits->setCurrentIndex(ui.cmbDatenbits->findText(fields.datenbits));
+    ui.cmbStoppbits->setCurrentIndex(ui.cmbStoppbits->findText(fields.stoppbits));
+}
+
+Schnittstelle Anschlussmaske::felder() const {
+    return {ui.cmbBaud->currentText(), ui.cmbParitaet->currentText(),
+            ui.cmbDatenbits->currentText(), ui.cmbStoppbits->currentText()};
+}
+
+void Anschlussmaske::SbCOM_Change() {
+    const int value = ui.SbCOM->value();
+    if (value > höchsterAnschluss) {
+        ui.SbCOM->setValue(höchsterAnschluss); // comes back here
+        return;
+    }
+    if (mVersuchLäuft)
+        return;
+    const bool tryIt = !ui.txtCOM->text().isEmpty();
+    if (tryIt) {
+        // A box takes the release of the mouse away, and a pressed bar would go on by itself.
+        ui.SbCOM->setEnabled(false);
+        ui.SbCOM->setEnabled(true);
+        ui.SbCOM->setFocus();
+        const QScopedValueRollback trial(mVersuchLäuft, true);
+        portWechseln(mAnschluss.leitung, value);
+        if (portPrüfen(mAnschluss) == platform::fehlernummer::PortSettings)
+            mAnschluss.vorhanden = true; // there, and its settings are mended here
+    }
+    ui.txtCOM->setText(QString::number(value));
+    if (tryIt)
+        zustandZeigen();
+}
+
+void Anschlussmaske::zustandZeigen() {
+    const bool da = mAnschluss.vorhanden;
+    ui.Label2->setText(
+        inSprache(da ? Text{"Vorhanden.", "Existing"} : Text{"Nicht vorhanden!", "Not existing!"}));
+    QPalette colours = ui.Label2->palette();
+    colours.setColor(QPalette::Window, QColor(32, 32, 32)); // the bright colours need a dark ground
+    colours.setColor(QPalette::WindowText, da ? QColor(0, 255, 0) : QColor(255, 0, 0));
+    ui.Label2->setPalette(colours);
+    ui.Label2->setAutoFillBackground(true);
+}
