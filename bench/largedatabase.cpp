@@ -79,8 +79,9 @@ void prepareLargeDatabase(const QString &directory) {
     QDir().mkpath(directory);
     const QString unfinished = path + ".new";
     QFile::remove(unfinished);
-    Datenbank::createFile(unfinished, {sqlScript("schema.sql"), sqlScript("queries.sql"),
-                                       sqlScript("delivered.sql"), sqlScript("demo.sql"), fill});
+    std::vector<QString> scripts = databaseScripts(true);
+    scripts.push_back(fill);
+    Datenbank::createFile(unfinished, scripts);
     QFile::rename(unfinished, path);
 }
 

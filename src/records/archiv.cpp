@@ -1,15 +1,23 @@
 #include "records/archiv.h"
 
+#include "records/protokollinhalt.h"
 #include "store/database.h"
 
+namespace {
+
+void verschieben(const QString &von, const QString &nach, Schlüssel protokollID) {
+    const QString zeilen = " FROM " + von + " WHERE ProtokollID = ?";
+    if (gDatenbank.open("SELECT *" + zeilen, {protokollID}).empty())
+        return;
+    gDatenbank.execute("INSERT INTO " + nach + " SELECT *" + zeilen, {protokollID});
+    gDatenbank.execute("DELETE" + zeilen, {protokollID});
+}
+
+} // namespace
+
 void archivieren(Schlüssel protokollID) {
-    // The archive of a table bears its name without "_temp"; both have the same columns.
-    for (const char *tabelle : {"Protokoll", "Messwerte", "SecControl", "Blutdruck"}) {
-        const QString zeilen = QString(" FROM ") + tabelle + "_temp WHERE ProtokollID = ?";
-        const Datenbank::Params nummer{protokollID};
-        if (gDatenbank.open("SELECT *" + zeilen, nummer).empty())
-            continue;
-        gDatenbank.execute(QString("INSERT INTO ") + tabelle + " SELECT *" + zeilen, nummer);
-        gDatenbank.execute("DELETE" + zeilen, nummer);
-    }
+    verschieben(kopftabelle(Bestand::Arbeit), kopftabelle(Bestand::Archiv), protokollID);
+    for (const Inhalt inhalt : alleInhalte)
+        verschieben(tabelle(Bestand::Arbeit, inhalt), tabelle(Bestand::Archiv, inhalt),
+                    protokollID);
 }

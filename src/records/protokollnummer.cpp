@@ -1,5 +1,8 @@
 #include "records/protokollnummer.h"
 
+#include "records/protokollinhalt.h"
+#include "records/spalte.h"
+
 #include <algorithm>
 #include <limits>
 
@@ -17,13 +20,6 @@ bool gleich(const Feld &feld, int wert) {
     return !feld.isNull() && feld.whole() == wert;
 }
 
-QStringList ersteSpalte(Recordset rows) {
-    QStringList liste;
-    for (; !rows.atEnd(); rows.moveNext())
-        liste += rows[0].text();
-    return liste;
-}
-
 } // namespace
 
 Schlüssel nächsteProtokollNr() {
@@ -39,14 +35,15 @@ Schlüssel nächsteProtokollNr() {
 }
 
 QStringList leereProtokolle() {
-    return ersteSpalte(gDatenbank.open(
-        "SELECT Protokoll_temp.ProtokollID || ' - ' || COALESCE(Protokoll_temp.Protokollname, '') "
-        "FROM Protokoll_temp LEFT JOIN Messwerte_temp"
-        " ON Protokoll_temp.ProtokollID = Messwerte_temp.ProtokollID "
-        "WHERE Messwerte_temp.ProtokollID IS NULL"
-        " AND Protokoll_temp.KundenID = ? AND Protokoll_temp.GerätID = ? "
-        "ORDER BY Protokoll_temp.ProtokollID",
-        {gKundenID, gGerätID}));
+    return spalte(gDatenbank.open("SELECT Protokoll_temp.ProtokollID || ' - ' || "
+                                  "COALESCE(Protokoll_temp.Protokollname, '') "
+                                  "FROM Protokoll_temp LEFT JOIN Messwerte_temp"
+                                  " ON Protokoll_temp.ProtokollID = Messwerte_temp.ProtokollID "
+                                  "WHERE Messwerte_temp.ProtokollID IS NULL"
+                                  " AND Protokoll_temp.KundenID = ? AND Protokoll_temp.GerätID = ? "
+                                  "ORDER BY Protokoll_temp.ProtokollID",
+                                  {gKundenID, gGerätID}),
+                  0);
 }
 
 QStringList protokolleMitNummer(Schlüssel nummer) {
@@ -96,13 +93,12 @@ void kopfAnlegen(Schlüssel nummer, const QString &name) {
                            {nummer, name, gPrüfer, gGerätID, gKundenID, gDrehrichtung, gToleranzID,
                             normal.value(), gMessverfahren});
         // Left over under this number, by a move that ended half-way for instance.
-        for (const QString inhalt : {"Messwerte_temp", "SecControl_temp", "Blutdruck_temp"})
-            gDatenbank.execute("DELETE FROM " + inhalt + " WHERE ProtokollID = ?", {nummer});
-        for (const QString inhalt : {"Messwerte", "SecControl", "Blutdruck"}) {
-            gDatenbank.execute("DELETE FROM " + inhalt +
-                                   " WHERE ProtokollID = ?1 AND NOT EXISTS "
-                                   "(SELECT 1 FROM Protokoll WHERE ProtokollID = ?1)",
-                               {nummer});
+        const bool archiviert =
+            !gDatenbank.open("SELECT 1 FROM Protokoll WHERE ProtokollID = ?", {nummer}).empty();
+        for (const Inhalt inhalt : alleInhalte) {
+            inhaltLöschen(Bestand::Arbeit, inhalt, nummer);
+            if (!archiviert)
+                inhaltLöschen(Bestand::Archiv, inhalt, nummer);
         }
     });
 }

@@ -10,6 +10,8 @@ static void initResource() { // outside of every namespace: the macro declares w
     Q_INIT_RESOURCE(store);
 }
 
+namespace {
+
 QString sqlScript(const QString &name) {
     initResource();
     QFile file(":/sql/" + name);
@@ -20,15 +22,26 @@ QString sqlScript(const QString &name) {
     return QString::fromUtf8(file.readAll());
 }
 
-void legeDatenbankAn(const QString &path, bool demo) {
-    std::vector<QString> scripts{sqlScript("schema.sql"), sqlScript("queries.sql"),
-                                 sqlScript("delivered.sql")};
+} // namespace
+
+std::vector<QString> databaseScripts(bool demo) {
+    std::vector<QString> scripts{sqlScript("schema.sql")};
+    for (const char *table : {"Rezepte", "ÄndRez_temp", "EP_Rezepte"})
+        scripts.push_back(sqlScript("steps.sql").replace("{steps}", table));
+    for (const auto &[temp, form] : {std::pair{"_temp", "neu"}, {"", "alt"}})
+        scripts.push_back(sqlScript("pairs.sql").replace("{temp}", temp).replace("{form}", form));
+    scripts.push_back(sqlScript("queries.sql"));
+    scripts.push_back(sqlScript("delivered.sql"));
     if (demo)
         scripts.push_back(sqlScript("demo.sql"));
+    return scripts;
+}
+
+void legeDatenbankAn(const QString &path, bool demo) {
     const QString unfinished = path + ".new";
     QFile::remove(unfinished);
     try {
-        Datenbank::createFile(unfinished, scripts);
+        Datenbank::createFile(unfinished, databaseScripts(demo));
     } catch (...) {
         QFile::remove(unfinished);
         throw;

@@ -3,12 +3,14 @@
 
 #include <QString>
 
-/// The script by its file name, "schema.sql" for instance.
-QString sqlScript(const QString &name);
+#include <vector>
 
-/// Makes a new database file with schema, stored queries and delivered rows; with `demo` also
-/// customers, units, recipes and protocols to try the program with. The file appears under its
-/// name only when it is whole. Raises Fehler when it cannot be written.
+/// What a new database is made of, in this order; with `demo` also customers, units, recipes and
+/// protocols to try the program with.
+std::vector<QString> databaseScripts(bool demo);
+
+/// Makes a new database file of these. It appears under its name only when it is whole. Raises
+/// Fehler when it cannot be written.
 void legeDatenbankAn(const QString &path, bool demo);
 
 /// Gives the database of an older build what is new: views and triggers afresh, tables with their

@@ -1,0 +1,47 @@
+#include "records/protokollinhalt.h"
+
+#include <algorithm>
+
+#include "store/database.h"
+
+namespace {
+
+QString endung(Bestand bestand) {
+    return bestand == Bestand::Arbeit ? "_temp" : "";
+}
+
+void zeilenLöschen(const QString &tabelle, Schlüssel protokollID) {
+    gDatenbank.execute("DELETE FROM " + tabelle + " WHERE ProtokollID = ?", {protokollID});
+}
+
+} // namespace
+
+QString kopftabelle(Bestand bestand) {
+    return "Protokoll" + endung(bestand);
+}
+
+QString tabelle(Bestand bestand, Inhalt inhalt) {
+    static const char *const namen[] = {"Messwerte", "SecControl", "Blutdruck"};
+    return namen[static_cast<int>(inhalt)] + endung(bestand);
+}
+
+bool vorhanden(Bestand bestand, Inhalt inhalt, Schlüssel protokollID) {
+    return !gDatenbank
+                .open("SELECT 1 FROM " + tabelle(bestand, inhalt) +
+                          " WHERE ProtokollID = ? LIMIT 1",
+                      {protokollID})
+                .empty();
+}
+
+bool inhaltslos(Bestand bestand, Schlüssel protokollID) {
+    return std::none_of(std::begin(alleInhalte), std::end(alleInhalte),
+                        [&](Inhalt inhalt) { return vorhanden(bestand, inhalt, protokollID); });
+}
+
+void inhaltLöschen(Bestand bestand, Inhalt inhalt, Schlüssel protokollID) {
+    zeilenLöschen(tabelle(bestand, inhalt), protokollID);
+}
+
+void kopfLöschen(Bestand bestand, Schlüssel protokollID) {
+    zeilenLöschen(kopftabelle(bestand), protokollID);
+}

@@ -1,0 +1,22 @@
+// What hangs on the head of a protocol, in the working tables and in the archive.
+#pragma once
+
+#include <QString>
+
+#include "session/session.h"
+
+enum class Bestand { Arbeit, Archiv };
+enum class Inhalt { Messwerte, SecControl, Blutdruck };
+inline constexpr Bestand alleBestände[] = {Bestand::Arbeit, Bestand::Archiv};
+inline constexpr Inhalt alleInhalte[] = {Inhalt::Messwerte, Inhalt::SecControl, Inhalt::Blutdruck};
+
+// The tables; both of a pair have the same columns, the number in ProtokollID.
+QString kopftabelle(Bestand bestand);
+QString tabelle(Bestand bestand, Inhalt inhalt);
+
+bool vorhanden(Bestand bestand, Inhalt inhalt, Schlüssel protokollID);
+/// No measured value and no sheet.
+bool inhaltslos(Bestand bestand, Schlüssel protokollID);
+
+void inhaltLöschen(Bestand bestand, Inhalt inhalt, Schlüssel protokollID);
+void kopfLöschen(Bestand bestand, Schlüssel protokollID);
