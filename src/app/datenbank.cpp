@@ -10,19 +10,18 @@
 
 using namespace platform;
 
-std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) {
+std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) try {
+    gDatenbank.openFile(datenbankName);
+    return 0;
+} catch (const Fehler &fehler) {
     static int gemeldet = 0;
-    try {
-        gDatenbank.openFile(datenbankName);
-    } catch (const Fehler &fehler) {
-        if (gSprache == 0)
-            gSprache = 1; // nobody can be asked for it any more
-        fehlerMerken(fehler);
-        if (fehler.number() == std::exchange(gemeldet, fehler.number()) && nochEinmal)
-            return 0;
-        meldung({"Fehler 1002-" + Str(fehler.number()) + ' ' + gFehlerText,
-                 "Error 1002-" + Str(fehler.number()) + ' ' + gFehlerText},
-                Critical, {"Fehler", "Error"});
-    }
+    if (gSprache == 0)
+        gSprache = 1; // nobody can be asked for it any more
+    fehlerMerken(fehler);
+    if (fehler.number() == std::exchange(gemeldet, fehler.number()) && nochEinmal)
+        return 0;
+    meldung({"Fehler 1002-" + Str(fehler.number()) + ' ' + gFehlerText,
+             "Error 1002-" + Str(fehler.number()) + ' ' + gFehlerText},
+            Critical, {"Fehler", "Error"});
     return 0;
 }

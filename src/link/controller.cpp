@@ -117,82 +117,78 @@ void controllerVorbereiten() {
     };
 }
 
-bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QString &value) {
-    try {
-        const Exchange exchange;
-        if (!MSComm1.PortOpen())
-            MSComm1.setPortOpen(true);
-        send("-");
-        longDelay();
-        const QString frame = frameText(command, direction, value);
-        if (!fnc_FrameSenden(frame)) {
-            if (gKeineMeldung < 1) {
-                const ExchangePaused paused;
-                meldung({"1 - Keine Kommunikation mit dem Controller möglich!",
-                         "Communication with the controller is not possible!"},
-                        Critical, {"Fehlermeldung", "Error Message"});
-            }
-            motorfenster().setMoteinEnabled(!gMotorEin);
-            return false;
+bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QString &value) try {
+    const Exchange exchange;
+    if (!MSComm1.PortOpen())
+        MSComm1.setPortOpen(true);
+    send("-");
+    longDelay();
+    const QString frame = frameText(command, direction, value);
+    if (!fnc_FrameSenden(frame)) {
+        if (gKeineMeldung < 1) {
+            const ExchangePaused paused;
+            meldung({"1 - Keine Kommunikation mit dem Controller möglich!",
+                     "Communication with the controller is not possible!"},
+                    Critical, {"Fehlermeldung", "Error Message"});
         }
-        const bool stop = frame.mid(2) == standstillDigits;
-        if (!stop)
-            welleLäuftAn();
-        send(">");
-        longDelay();
-        send(">");
-        longDelay();
-        send(">");
-        if (stop)
-            welleSteht();
-        return true;
-    } catch (const Fehler &fehler) {
-        errorBox("Error 5007-", fehler);
+        motorfenster().setMoteinEnabled(!gMotorEin);
         return false;
     }
-}
-
-bool fnc_FrameSenden(const QString &frame) {
-    try {
-        const QString echo = fnc_HexString(frame.toLatin1());
-        for (int attempts = 0; attempts < frameTries; ++attempts) {
-            send("*" + frame);
-            MSComm1.discardInput();
-            shortDelay();
-            send("+");
-            shortDelay();
-            if (fnc_EchoWarten(echo)) {
-                Timer1.setEnabled(false);
-                return true;
-            }
-            send("-");
-            shortDelay();
-            send("-");
-            shortDelay();
-        }
-    } catch (const Fehler &fehler) {
-        errorBox("Error 5006-", fehler);
-    }
+    const bool stop = frame.mid(2) == standstillDigits;
+    if (!stop)
+        welleLäuftAn();
+    send(">");
+    longDelay();
+    send(">");
+    longDelay();
+    send(">");
+    if (stop)
+        welleSteht();
+    return true;
+} catch (const Fehler &fehler) {
+    errorBox("Error 5007-", fehler);
     return false;
 }
 
-bool fnc_EchoWarten(const QString &pattern) {
-    try {
-        QString received;
-        gTimeoutTimer1 = false;
-        armTimer1(echoMilliseconds);
-        while (gDesktopAktiv) {
-            pump();
-            if (MSComm1.InBufferCount() > 0)
-                received += fnc_HexString(MSComm1.Input());
-            if (received == pattern)
-                return true;
-            if (fnc_TimeoutAbfragen())
-                return false;
+bool fnc_FrameSenden(const QString &frame) try {
+    const QString echo = fnc_HexString(frame.toLatin1());
+    for (int attempts = 0; attempts < frameTries; ++attempts) {
+        send("*" + frame);
+        MSComm1.discardInput();
+        shortDelay();
+        send("+");
+        shortDelay();
+        if (fnc_EchoWarten(echo)) {
+            Timer1.setEnabled(false);
+            return true;
         }
-    } catch (const Fehler &fehler) {
-        errorBox("Error 5005-", fehler);
+        send("-");
+        shortDelay();
+        send("-");
+        shortDelay();
     }
+    return false;
+} catch (const Fehler &fehler) {
+    errorBox("Error 5006-", fehler);
+    return false;
+}
+
+bool fnc_EchoWarten(const QString &pattern) try {
+    QString received;
+    gTimeoutTimer1 = false;
+    armTimer1(echoMilliseconds);
+    while (gDesktopAktiv) {
+        pump();
+        if (MSComm1.InBufferCount() > 0)
+            received += fnc_HexString(MSComm1.Input());
+        if (received == pattern)
+            return true;
+        if (fnc_TimeoutAbfragen())
+            return false;
+    }
+    return false;
+} catch (const Fehler &fehler) {
+    errorBox("Error 5005-", fehler);
     return false;
 }
 
@@ -204,52 +200,49 @@ bool fnc_TimeoutAbfragen() {
     return true;
 }
 
-void fnc_PortÖffnen() {
-    try {
-        if (!MSComm1.PortOpen())
-            MSComm1.setPortOpen(true);
-    } catch (const Fehler &fehler) {
-        errorBox("Error 5011-", fehler); // the caller then fails at its first byte
-    }
+void fnc_PortÖffnen() try {
+    if (!MSComm1.PortOpen())
+        MSComm1.setPortOpen(true);
+} catch (const Fehler &fehler) {
+    errorBox("Error 5011-", fehler); // the caller then fails at its first byte
 }
 
-bool fnc_FrequenzLesen() {
-    try {
-        const Exchange exchange;
-        tiDrehzahl.setEnabled(false);
-        gTimeoutDrehzahl = false;
-        send("-");
-        shortDelay();
-        send("g");
-        shortDelay();
-        tiDrehzahl.setInterval(standstillMilliseconds);
-        tiDrehzahl.setEnabled(true);
-        FrequenzDecoder decoder;
-        bool done = false;
-        while (!done && gDesktopAktiv) {
-            pump();
-            if (MSComm1.InBufferCount() == 0) {
-                if (gTimeoutDrehzahl)
-                    break;
-                continue;
-            }
-            for (const char byte : MSComm1.Input()) {
-                done = decoder.feed(static_cast<std::uint8_t>(byte));
-                if (done)
-                    break;
-                if (gTimeoutDrehzahl) {
-                    tellStatMessen("Timer");
-                    done = true;
-                    break;
-                }
+bool fnc_FrequenzLesen() try {
+    const Exchange exchange;
+    tiDrehzahl.setEnabled(false);
+    gTimeoutDrehzahl = false;
+    send("-");
+    shortDelay();
+    send("g");
+    shortDelay();
+    tiDrehzahl.setInterval(standstillMilliseconds);
+    tiDrehzahl.setEnabled(true);
+    FrequenzDecoder decoder;
+    bool done = false;
+    while (!done && gDesktopAktiv) {
+        pump();
+        if (MSComm1.InBufferCount() == 0) {
+            if (gTimeoutDrehzahl)
+                break;
+            continue;
+        }
+        for (const char byte : MSComm1.Input()) {
+            done = decoder.feed(static_cast<std::uint8_t>(byte));
+            if (done)
+                break;
+            if (gTimeoutDrehzahl) {
+                tellStatMessen("Timer");
+                done = true;
+                break;
             }
         }
-    } catch (const Fehler &fehler) {
-        errorBox("Error 5009-", fehler);
-        if (fehler.number() == fehlernummer::LineBusy)
-            return false;
     }
     tiDrehzahl.setEnabled(false);
+    return false;
+} catch (const Fehler &fehler) {
+    errorBox("Error 5009-", fehler);
+    if (fehler.number() != fehlernummer::LineBusy) // else it is that of the exchange that runs
+        tiDrehzahl.setEnabled(false);
     return false;
 }
 
@@ -276,92 +269,90 @@ bool fnc_MotorAus() {
     return done;
 }
 
-std::int16_t fnc_BetriebsartLesen() {
-    try {
-        const Exchange exchange;
-        Timer1.setEnabled(false);
-        gTimeoutTimer1 = false;
-        fnc_PortÖffnen();
+std::int16_t fnc_BetriebsartLesen() try {
+    const Exchange exchange;
+    Timer1.setEnabled(false);
+    gTimeoutTimer1 = false;
+    fnc_PortÖffnen();
+    MSComm1.discardInput();
+    send("#");
+    shortDelay();
+    armTimer1(modeMilliseconds);
+    int tries = 0;
+    while (gDesktopAktiv) {
+        pump();
+        if (MSComm1.InBufferCount() > 0) {
+            const QByteArray bytes = MSComm1.Input();
+            if (bytes.size() == 1) {
+                Timer1.setEnabled(false);
+                return static_cast<std::uint8_t>(bytes[0]) == leverArmMode ? 1 : 2;
+            }
+        }
+        if (!fnc_TimeoutAbfragen())
+            continue;
+        send("-");
+        shortDelay();
+        if (++tries == requestTries) {
+            const ExchangePaused paused;
+            meldung({"Keine Daten empfangen!", "No data received!"}, Exclamation,
+                    {"Meldung", "Message"});
+            return 0;
+        }
         MSComm1.discardInput();
         send("#");
         shortDelay();
         armTimer1(modeMilliseconds);
-        int tries = 0;
-        while (gDesktopAktiv) {
-            pump();
-            if (MSComm1.InBufferCount() > 0) {
-                const QByteArray bytes = MSComm1.Input();
-                if (bytes.size() == 1) {
-                    Timer1.setEnabled(false);
-                    return static_cast<std::uint8_t>(bytes[0]) == leverArmMode ? 1 : 2;
-                }
-            }
-            if (!fnc_TimeoutAbfragen())
-                continue;
-            send("-");
-            shortDelay();
-            if (++tries == requestTries) {
-                const ExchangePaused paused;
-                meldung({"Keine Daten empfangen!", "No data received!"}, Exclamation,
-                        {"Meldung", "Message"});
-                return 0;
-            }
-            MSComm1.discardInput();
-            send("#");
-            shortDelay();
-            armTimer1(modeMilliseconds);
-        }
-    } catch (const Fehler &fehler) {
-        stopTimer1(fehler);
-        fehlerBox({"Fehler 4000 - ", "ERROR 4000 - "}, fehler, boxTitle);
     }
+    return 0;
+} catch (const Fehler &fehler) {
+    stopTimer1(fehler);
+    fehlerBox({"Fehler 4000 - ", "ERROR 4000 - "}, fehler, boxTitle);
     return 0;
 }
 
-bool fnc_Reset() {
-    try {
-        const Exchange exchange;
-        Timer1.setEnabled(false);
-        gTimeoutTimer1 = false;
-        fnc_PortÖffnen();
-        QByteArray reply;
+bool fnc_Reset() try {
+    const Exchange exchange;
+    Timer1.setEnabled(false);
+    gTimeoutTimer1 = false;
+    fnc_PortÖffnen();
+    QByteArray reply;
+    MSComm1.discardInput();
+    send("r");
+    shortDelay();
+    armTimer1(resetMilliseconds);
+    int tries = 0;
+    while (gDesktopAktiv) {
+        pump();
+        if (MSComm1.InBufferCount() > 0)
+            reply += MSComm1.Input();
+        if (reply == "Ok1") {
+            Timer1.setEnabled(false);
+            return true;
+        }
+        if (!fnc_TimeoutAbfragen())
+            continue;
+        ++tries;
+        send("-");
+        shortDelay();
+        send("-");
+        shortDelay();
+        tellStatMessen(QString::number(tries) + " Timeout");
+        if (tries == requestTries) {
+            const ExchangePaused paused;
+            meldung({"Kein Reset möglich!", "'Reset' is not possible!"}, Exclamation,
+                    {"Meldung", "Message"});
+            return false;
+        }
         MSComm1.discardInput();
+        reply.clear();
         send("r");
         shortDelay();
         armTimer1(resetMilliseconds);
-        int tries = 0;
-        while (gDesktopAktiv) {
-            pump();
-            if (MSComm1.InBufferCount() > 0)
-                reply += MSComm1.Input();
-            if (reply == "Ok1") {
-                Timer1.setEnabled(false);
-                return true;
-            }
-            if (!fnc_TimeoutAbfragen())
-                continue;
-            ++tries;
-            send("-");
-            shortDelay();
-            send("-");
-            shortDelay();
-            tellStatMessen(QString::number(tries) + " Timeout");
-            if (tries == requestTries) {
-                const ExchangePaused paused;
-                meldung({"Kein Reset möglich!", "'Reset' is not possible!"}, Exclamation,
-                        {"Meldung", "Message"});
-                return false;
-            }
-            MSComm1.discardInput();
-            reply.clear();
-            send("r");
-            shortDelay();
-            armTimer1(resetMilliseconds);
-        }
-    } catch (const Fehler &fehler) {
-        stopTimer1(fehler);
-        fehlerBox({"Fehler 4001 - ", "ERROR 4001 - "}, fehler, boxTitle);
     }
+    return false;
+} catch (const Fehler &fehler) {
+    stopTimer1(fehler);
+    fehlerBox({"Fehler 4001 - ", "ERROR 4001 - "}, fehler, boxTitle);
     return false;
 }
 

@@ -24,33 +24,31 @@ QString fnc_HexString(const QByteArray &bytes) {
     return QString::fromLatin1(bytes.toHex().toUpper());
 }
 
-QString fnc_Transformation(const QString &text) {
-    try {
-        QString output;
-        QString before;
-        qsizetype start = -1; // of the digits; no bracket has opened yet
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            if (text[i] == '[') {
-                start = i + 1;
-                before = output;
-            } else if (text[i] == ']') {
-                bool ok = false;
-                const int code = start < 0 ? -1 : text.mid(start, i - start).toInt(&ok);
-                if (!ok || code < 0 || code > 255) {
-                    throw Fehler(fehlernummer::TypeMismatch,
-                                 {"Zwischen den Klammern steht kein Zeichencode: " + text,
-                                  "There is no character code between the brackets: " + text});
-                }
-                output = before + QChar(code);
-            } else {
-                output += text[i];
+QString fnc_Transformation(const QString &text) try {
+    QString output;
+    QString before;
+    qsizetype start = -1; // of the digits; no bracket has opened yet
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == '[') {
+            start = i + 1;
+            before = output;
+        } else if (text[i] == ']') {
+            bool ok = false;
+            const int code = start < 0 ? -1 : text.mid(start, i - start).toInt(&ok);
+            if (!ok || code < 0 || code > 255) {
+                throw Fehler(fehlernummer::TypeMismatch,
+                             {"Zwischen den Klammern steht kein Zeichencode: " + text,
+                              "There is no character code between the brackets: " + text});
             }
+            output = before + QChar(code);
+        } else {
+            output += text[i];
         }
-        return output;
-    } catch (const Fehler &fehler) {
-        fehlerBox("mSI 4 - ", fehler);
-        return {};
     }
+    return output;
+} catch (const Fehler &fehler) {
+    fehlerBox("mSI 4 - ", fehler);
+    return {};
 }
 
 bool FrequenzDecoder::feed(std::uint8_t byte) {
