@@ -271,7 +271,6 @@ bool fnc_MotorAus() {
 
 std::int16_t fnc_BetriebsartLesen() try {
     const Exchange exchange;
-    Timer1.setEnabled(false);
     gTimeoutTimer1 = false;
     fnc_PortÖffnen();
     MSComm1.discardInput();
@@ -312,7 +311,6 @@ std::int16_t fnc_BetriebsartLesen() try {
 
 bool fnc_Reset() try {
     const Exchange exchange;
-    Timer1.setEnabled(false);
     gTimeoutTimer1 = false;
     fnc_PortÖffnen();
     QByteArray reply;

@@ -97,7 +97,6 @@ bool Motorbedienung::messbereit() {
         meldung({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
                  "Please select a direction of rotation for the motor first!"},
                 Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
-        gMessenFreigabe = true;
         form(frm::MotorDrehR).showModal();
         return false;
     }

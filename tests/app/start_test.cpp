@@ -76,6 +76,7 @@ JOURNEY_ROWS(Program, FindsTheStandard, "//", "stand serial XX-1/noCalibration",
              "stand fault silent on//noSerialNumber", "line out//noEngine") {
     co_await logIn();
     gSeriennummer.clear();
+    gNormalOffset = 0;
     bool found = false;
     QString told;
     Seriennummer search([&told](const QString &info) { told = info; }, [&found] { found = true; });

@@ -21,14 +21,15 @@ class LineFaults : public Measuring {
 JOURNEY_P(LineFaults, MotorOnAndOff) {
     change("UPDATE System SET Einlzeit2 = NULL"); // ten minutes if nothing is stored
     co_await go(R"(
-        select ; direction ; stand fault deaf 2 ; pbMotein ; motor == on Motaus 60 ; pass 2005
+        select ; direction ; stand fault deaf 2 ; pbMotein ; motor == on Motaus 60
+        laInfo == Motor wird eingeschaltet | Motor is switched on ; keyboard == pbMotaus ; cannot pbDrehR ; pass 2005
         lbEinlauf == 09:58 ; stand fault deaf 2 ; pbMotaus ; motor == off Motein 0
         laInfo == Motor ist ausgeschaltet | Motor is switched off
         pass 5000 ; lbEinlauf == 09:58 ; speed == 0    # running-in stops with the motor
         stand fault deaf 3 ; ? noController ; ? motorNotOn ; pbMotein ; motor == off Motein 0
-        pbMotein ; motor == on Motaus 60
+        keyboard == pbMotein ; can pbDrehR ; laInfo == ; pbMotein ; motor == on Motaus 60
         stand fault deaf 3 ; ? noController ; ? motorOffAtEnd ; pbMotaus ; motor == on Motaus 60
-        pbMotaus ; motor == off Motein 0
+        keyboard == pbMotaus ; pbMotaus ; motor == off Motein 0
         stand fault silent on ; ? noController ; ? motorNotOn ; pbMotein ; motor == off Motein 0
         stand fault none ; pbMotein ; motor == on Motaus 60
         stand fault silent on ; ? noController ; ? motorOffAtEnd ; pbMotaus ; motor == on Motaus 60

@@ -1,8 +1,8 @@
 // Digits, frames and texts of the controller line, and the decoder of the frequency stream.
 #include <random>
 
-#include "link/frames.h"
 #include "link/anschluss.h"
+#include "link/frames.h"
 #include "linktest.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // The settings of the line to the controller and of the running-in.
-#include "link/controller.h"
 #include "link/anschluss.h"
+#include "link/controller.h"
 #include "session/session.h"
 #include "workplace.h"
 
@@ -87,6 +87,7 @@ JOURNEY_P(Settings, ThatThePortRefusesAreMendedOnTheScreen) {
     platform::setSerialDeviceMaker([](const QString &) { return std::make_unique<Choosy>(); });
     co_await logIn();
     co_await go("direction");
+    gSS1Vorhanden = true; // as far as anybody knew
     co_await go(R"(
         ? portRefused ; ? noSettings ; pbMotein ; @Interface
         fields == 20 9600 Keine 5 1    # a number above those of the bar

@@ -115,7 +115,8 @@ JOURNEY(ProtokollDialog, SingleExistingProtocolIsTakenAtOnce) {
         obVorhanden ; cmbVorhanden == 2 - A ; can pbok ; cmbVorhanden = ; cannot pbok
         obNeu ; hidden cmbVorhanden ; obVorhanden ; cmbVorhanden == 2 - A ; shown cmbVorhanden
         cmbVorhanden = 2 ; change DROP TABLE Messwerte_temp
-        ? protocolFailed(9703, 3078) ; cmbVorhanden ! ; front == ProtokollNr)");
+        ? protocolFailed(9703, 3078) ; cmbVorhanden ! ; front == ProtokollNr
+        obNeu ; ? failed(9701, 3078) ; obVorhanden ; cmbVorhanden rows)");
 }
 
 JOURNEY_P(ProtokollDialog, LastProtocolIsContinuedAsItIs) {
@@ -137,7 +138,7 @@ JOURNEY_P(ProtokollDialog, ReducedForm) {
     co_await open(frm::ProtokollNr_1);
     kopf(5); // meanwhile
     co_await go(R"(
-        lbProtokollID ~ ^5 - $ ; focus txtProtoName ; txtProtoName ! ; focus pbok
+        lbProtokollID ~ ^5 - $ ; laProtoName == Protokoll&name | Protocol &name ; focus txtProtoName ; txtProtoName ! ; focus pbok
         ? failed(1021, 3022) ; pbok ; txtProtoName ~ ^ $
         change DELETE FROM Protokoll_temp WHERE ProtokollID = 5
         txtProtoName = Name ; pbok ; @Messfenster

@@ -153,8 +153,10 @@ TEST_F(Store, OnlyASoundFileIsOpened) {
         EXPECT_EQ(raised([&] { store.openFile(c.in); }), c.out.toInt()) << c;
         EXPECT_FALSE(store.isOpen()) << c;
     }
-    EXPECT_EQ(raised([] { bringeDatenbankAufStand("within"); }), 3343);
     EXPECT_EQ(files(), before) << "nothing is created";
+    EXPECT_EQ(raised([] { bringeDatenbankAufStand("within"); }), 3343);
+    Datenbank::createFile("foreign", {"CREATE TABLE Kunden (Name)"});
+    EXPECT_EQ(raised([] { bringeDatenbankAufStand("foreign"); }), 3078);
 }
 
 TEST_F(Store, ACopyOfTheFileIsACopyOfTheDataAndNobodyWaitsForLong) {

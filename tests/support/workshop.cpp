@@ -6,9 +6,9 @@
 
 #include "app/start.h"
 #include "boxtexts.h"
+#include "link/anschluss.h"
 #include "link/controller.h"
 #include "link/einlauf.h"
-#include "link/anschluss.h"
 #include "platform/runtime.h"
 #include "session/auswahl.h"
 #include "session/session.h"
