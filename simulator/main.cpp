@@ -16,30 +16,13 @@
 #include <optional>
 #include <unistd.h>
 
-namespace {
+#include "platform/ending.h"
 
-int signalPipe[2];
+namespace {
 
 void say(const std::string &text) {
     std::fputs(text.c_str(), stdout);
     std::fflush(stdout);
-}
-
-/// The ordinary way out removes the links, so a signal must take it too.
-std::unique_ptr<QSocketNotifier> quitOnSignals() {
-    if (::pipe2(signalPipe, O_CLOEXEC | O_NONBLOCK) != 0)
-        return nullptr;
-    struct sigaction action = {};
-    action.sa_handler = [](int) {
-        [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], "", 1);
-    };
-    for (const int number : {SIGINT, SIGTERM, SIGHUP})
-        ::sigaction(number, &action, nullptr);
-    std::signal(SIGPIPE, SIG_IGN);
-    auto notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
-    QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
-                     [] { QCoreApplication::quit(); });
-    return notifier;
 }
 
 /// Answers commands until the input ends, which does not end the stand.
@@ -102,7 +85,10 @@ int run(const QCoreApplication &application, bool panel) {
             return 1;
         }
     }
-    const auto signalNotifier = quitOnSignals();
+    std::signal(SIGPIPE, SIG_IGN);
+    if (!platform::onEnding(
+            QCoreApplication::quit)) // the ordinary way out, which removes the links
+        return 1;
     const auto channel = commandChannel(lines);
     std::optional<simulator::Panel> front;
     if (panel)
