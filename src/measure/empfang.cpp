@@ -1,7 +1,6 @@
 #include "measure/empfang.h"
 
 #include "link/controller.h"
-#include "measure/messablauf.h"
 #include "measure/sechsrunden.h"
 #include "platform/fehler.h"
 #include "session/session.h"
@@ -94,8 +93,6 @@ void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) {
                 if (!goOn())
                     break;
             }
-            if (goOn())
-                messablauf().nachBlock();
         } while (goOn());
         if (gTimeoutTimer1 && !anzeige.abgelöst()) {
             gTimeoutTimer1 = false;

@@ -1,7 +1,6 @@
 #include "measure/frmMessen.h"
 
 #include <QHeaderView>
-#include <QScopeGuard>
 
 #include "link/controller.h"
 #include "platform/fehler.h"
@@ -65,8 +64,7 @@ frmMessen::frmMessen() {
     onClick(ui.pbNext, [this] { navigieren(&frmMessen::zumNächsten); });
     onClick(ui.pbPrevious, [this] { navigieren(&frmMessen::zumVorherigen); });
     onClick(ui.pbMessen, [this] { pbMessen_Click(); });
-    onClick(ui.pbSpeichern, [this] { pbSpeichern_Click(); });
-    onClick(ui.pbDynMess, [this] { pbDynMess_Click(); });
+    onClick(ui.pbSpeichern, [this] { schrittAbschließen(); });
     onClick(ui.pbAbbrechen, [this] { pbAbbrechen_Click(); });
     eingabenVerdrahten();
 }
@@ -79,25 +77,9 @@ void frmMessen::Form_Load() try {
     ui.cmbMessArt->addItems(deutsch ? QStringList{"Leistungsmessung", "Drehzahlmessung"}
                                     : QStringList{"Power Measurement", "Speed Measurement"});
     ui.cmbMessArt->setEditText({});
-    constexpr auto rechts = Qt::AlignRight | Qt::AlignVCenter;
-    constexpr auto mitte = Qt::AlignCenter;
-    const auto kopf = [deutsch](const char *de, const char *en) {
-        return QString(deutsch ? de : en);
-    };
-    mRaster.setSpalten({
-        {"Prüfschritt", kopf("Prüfschritt", "Test step"), mitte},
-        {"Soll_n", kopf("Soll n\n1/min", "Setpoint n\nrpm"), rechts},
-        {"Soll_P", kopf("Soll P\nW", "Setpoint P\nW"), rechts},
-        {"Ist_n_torvena", kopf("Normal n\n1/min", "Standard n\nrpm"), rechts},
-        {"Ist_D_torvena", kopf("Normal M\nN m", "Standard M\nN m"), rechts},
-        {"Ist_P_torvena", kopf("Normal P\nW", "Standard P\nW"), rechts},
-        {"Ist_n_ergom", kopf("Ergometer n\n1/min", "Ergometer n\nrpm"), rechts},
-        {"MU_ohne", kopf("ohne Berück. MU", "without\nregard to MU"), mitte},
-        {"MU_mit", kopf("mit Berück. MU", "with\nregard to MU"), mitte},
-    });
+    ansichtZeigen();
     setFreeInput(ui.txtSoll_n, false);
     setFreeInput(ui.txtSoll_P, false);
-    messablauf().beimÖffnen(*this);
 
     mKorrF = 1;
     ui.laKorrF->setText(Format(mKorrF, "0.0000"));
@@ -128,20 +110,25 @@ void frmMessen::Form_Activate() try {
     fehlerBox("3013 - ", fehler);
 }
 
+// Without a person who steers, only what the steps show is to be seen, and the way out.
+void frmMessen::ansichtZeigen() {
+    mAnsicht = messablauf().ansicht();
+    mRaster.setSpalten(mAnsicht.spalten);
+    if (!mAnsicht.titel.isEmpty())
+        setCaption(mAnsicht.titel);
+    for (QWidget *control : std::initializer_list<QWidget *>{
+             ui.Frame2, ui.pbSpeichern, ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast,
+             ui.pbMessen, ui.pbFreieEing, ui.pbDrehzNull, ui.pbDynMess, ui.laEinhaltung})
+        control->setVisible(mAnsicht.bedient);
+}
+
 void frmMessen::ersteAktivierung() {
-    ui.laRezName->setText(auswahl().rezept);
     ui.laDrehR->setText(motorfenster().drehrichtung());
-    if (messablauf().protokollErfragen()) {
-        ToleranzZeile zeile;
-        if (toleranzLesen(gToleranzID, zeile)) {
-            ui.txtToleranz->setText(zeile.bezeichnung);
-            mSpezifikation = zeile.spezifikation;
-        }
-    } else {
-        ui.txtToleranz->setText(gRezeptName);
-    }
+    const Messkopf kopf = messablauf().kopf();
+    ui.laRezName->setText(kopf.rezept);
+    ui.txtToleranz->setText(kopf.spezifikation);
     dataRezept = messablauf().schritte();
-    if (messablauf().protokollErfragen()) {
+    if (mAnsicht.bedient) {
         form(frm::ProtokollNr).showModal();
     } else {
         gMessungLäuft = false;
@@ -178,60 +165,63 @@ void frmMessen::fnc_PrüfschrittAnzeigen() try {
     if (art == 1 || art == 2)
         messArtZeigen(art);
     ergometerFeldZeigen(art != 1);
-    fnc_GraphGrenzenSetzen();
 } catch (const Fehler &fehler) {
     fehlerBox("3017 - ", fehler);
 }
 
 void frmMessen::fnc_MesswerteAnzeigen() {
     gMessenAktiv = false;
-    dataMesswerte = protokollMesswerte(gProtokollID);
+    dataMesswerte = messablauf().messwerte();
     mRaster.setRecordset(dataMesswerte);
 }
 
-// False when nothing may be stored. A step of 0 W has no relative uncertainty; its row is stored
-// all the same, with the verdicts of the step before.
-bool frmMessen::fnc_Bewerten() try {
-    SchrittTexte texte{ui.txtSoll_n->text(), ui.txtSoll_P->text(), ui.txtIST_n_torvena->text(),
-                       ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()};
-    if (istLeistungsmessung()) {
-        const Unsicherheiten mu = unsicherheitLeistung();
-        const auto zeigen = qScopeGuard([&] { ui.txtIST_n_ergom->setText(texte.ist_n_ergom); });
-        leistungBewerten(mUrteil, texte, mSpezifikation, mu);
-    } else {
-        drehzahlBewerten(mUrteil, texte, mSpezifikation, unsicherheitDrehzahl());
-    }
-    return true;
-} catch (const Fehler &fehler) {
-    fehlerBox("3018 - ", fehler);
-    return fehler.number() == fehlernummer::DivisionByZero;
+SchrittTexte frmMessen::texte() const {
+    const int art = istLeistungsmessung()  ? Prüfart::Leistung
+                    : istDrehzahlmessung() ? Prüfart::Drehzahl
+                                           : Prüfart::Keine;
+    return {ui.txtSoll_n->text(),
+            ui.txtSoll_P->text(),
+            ui.txtIST_n_torvena->text(),
+            ui.txtIST_P_torvena->text(),
+            ui.txtIST_n_ergom->text(),
+            ui.txtIST_D_torvena->text(),
+            ui.laPrSchritt->text(),
+            art,
+            mBasisDrehzahl};
 }
 
-void frmMessen::pbSpeichern_Click() {
-    if (mWerte != Werte::Eigene)
-        return; // a second press, before the button went out
+void frmMessen::zeigeErgometer(const QString &drehzahl) {
+    ui.txtIST_n_ergom->setText(drehzahl);
+}
+
+void frmMessen::zeigeFortschritt(const QString &stand) {
+    ui.lblMessSchritte->setText(stand);
+}
+
+bool frmMessen::schrittAbschließen() {
+    // A second press, before the button went out; a stop that came before the count was full.
+    if (mWerte != Werte::Eigene || gMessStatus != Messstatus::Messen)
+        return false;
     gMessStatus = Messstatus::Speichern;
     fnc_MesswertSpeichern();
+    if (gMessStatus != Messstatus::Speichern)
+        return true;
     // A row that could not be written leaves the measurement running and the step current.
-    if (gMessStatus == Messstatus::Speichern)
-        gMessStatus = Messstatus::Messen;
+    gMessStatus = Messstatus::Messen;
+    return false;
 }
 
 void frmMessen::fnc_MesswertSpeichern() try {
-    if (!fnc_Bewerten())
+    SchrittTexte schritt = texte();
+    const bool gespeichert = messablauf().speichern(schritt);
+    zeigeErgometer(schritt.ist_n_ergom);
+    if (!gespeichert)
         return;
-    const QString schritt = ui.laPrSchritt->text();
-    messwertSpeichern({gProtokollID,
-                       schritt,
-                       {ui.txtSoll_n->text(), ui.txtSoll_P->text(), ui.txtIST_n_torvena->text(),
-                        ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text()},
-                       ui.txtIST_D_torvena->text(),
-                       mUrteil,
-                       mBasisDrehzahl});
-    dataMesswerte = protokollMesswerte(gProtokollID);
+    dataMesswerte = messablauf().messwerte();
     mRaster.setRecordset(dataMesswerte);
-    if (schritt == freierSchritt ? dataMesswerte.findLast("Prüfschritt", schritt)
-                                 : dataMesswerte.findFirst("Prüfschritt", schritt)) {
+    const bool frei = schritt.prüfschritt == freierSchritt;
+    if (frei ? dataMesswerte.findLast("Prüfschritt", schritt.prüfschritt)
+             : dataMesswerte.findFirst("Prüfschritt", schritt.prüfschritt)) {
         ui.DBGrid1->selectRow(dataMesswerte.position());
         ui.DBGrid1->scrollTo(mRaster.index(dataMesswerte.position(), 0));
     }
@@ -239,12 +229,14 @@ void frmMessen::fnc_MesswertSpeichern() try {
     ui.pbAusführen->setEnabled(false);
     ui.pbSpeichern->setEnabled(false);
     setWaiting(ui.pbSpeichern, false);
-    if (schritt != freierSchritt && !mRezeptEnde)
+    if (!frei && !mRezeptEnde)
         dataRezept.moveNext();
     fnc_EingabeSperren();
     fnc_MesswerteLeeren();
     if (dataRezept.atEnd() && !mRezeptEnde) {
-        rezeptAbgearbeitet();
+        dataRezept.movePrevious();
+        mRezeptEnde = true;
+        messablauf().rezeptEnde();
         return;
     }
     gStopMessung = false;
@@ -257,18 +249,6 @@ void frmMessen::fnc_MesswertSpeichern() try {
     fehlerBox("3016 - ", fehler);
 }
 
-void frmMessen::rezeptAbgearbeitet() {
-    meldung({"Das Rezept ist abgearbeitet!\r"
-             "Beenden Sie das Messen oder fahren Sie mit freier Eingabe fort!",
-             "The recipe has been run!\r"
-             "Terminate the measuring, or continue with Free Input!"},
-            Information, {"Meldung!", "Message!"});
-    dataRezept.movePrevious();
-    mRezeptEnde = true;
-    messablauf().rezeptEnde(*this); // the status first: a line that has gone does not hold it up
-    datenstromBeenden();
-}
-
 void frmMessen::pbMessen_Click() {
     gMessStatus = Messstatus::Messen;
     werteVerwerfen();
@@ -277,12 +257,7 @@ void frmMessen::pbMessen_Click() {
     ui.pbPlus->setEnabled(true);
     ui.pbMinus->setEnabled(true);
     form(frm::Meldung).show();
-    if (messablauf().bedient())
-        ui.pbDrehzNull->setEnabled(true);
-}
-
-void frmMessen::pbDynMess_Click() {
-    gMessStatus = Messstatus::Dynamisch;
+    ui.pbDrehzNull->setEnabled(true);
 }
 
 void frmMessen::pbAbbrechen_Click() {
@@ -291,6 +266,7 @@ void frmMessen::pbAbbrechen_Click() {
     gMessenFreigabe = false;
     gMessStatus = Messstatus::Ende;
     form(frm::Meldung).show();
+    messablauf().abbruch();
     if (mRezeptEnde && leitungFrei())
         unload(); // otherwise the closing of the notice does it, when the exchange has ended
 }

@@ -6,7 +6,6 @@
 #pragma once
 
 #include "controls/recordsetmodel.h"
-#include "measure/bewertung.h"
 #include "measure/empfang.h"
 #include "measure/messablauf.h"
 #include "platform/fehler.h"
@@ -15,13 +14,11 @@
 #include "store/recordset.h"
 #include "ui_frmMessen.h"
 
-class frmMessen : public Screen, private Messanzeige {
+class frmMessen : public Screen, private Messanzeige, private Messfenster {
   public:
     static constexpr frm id = frm::Messen;
     frmMessen();
 
-    /// Judges and stores the step that is shown and moves on to the next one.
-    void fnc_MesswertSpeichern();
     /// What the notice does when it closes: the box for the ergometer's speed gets the keyboard in
     /// a speed measurement and goes away in a power measurement.
     void meldungGeschlossen();
@@ -50,15 +47,17 @@ class frmMessen : public Screen, private Messanzeige {
     bool abgelöst() const override { return mNeuerDurchgang || unloaded(); }
 
     // Steps, saving, leaving (frmMessen.cpp)
+    void ansichtZeigen();
     void ersteAktivierung();
     void fnc_PrüfschrittAnzeigen();
     void fnc_MesswerteAnzeigen();
-    bool fnc_Bewerten();
-    void rezeptAbgearbeitet();
-    void pbSpeichern_Click();
+    SchrittTexte texte() const override;
+    void zeigeErgometer(const QString &drehzahl) override;
+    void zeigeFortschritt(const QString &stand) override;
+    bool schrittAbschließen() override;
+    void fnc_MesswertSpeichern();
     void pbAbbrechen_Click();
     void pbMessen_Click();
-    void pbDynMess_Click();
     void navigieren(void (frmMessen::*schritt)());
     void zumErsten();
     void zumLetzten();
@@ -67,7 +66,6 @@ class frmMessen : public Screen, private Messanzeige {
 
     // Set-points and free input (frmMessen_eingabe.cpp)
     void eingabenVerdrahten();
-    void fnc_GraphGrenzenSetzen();
     void fnc_EingabeSperren();
     void fnc_MesswerteLeeren();
     bool fnc_DrehmomentPrüfen();
@@ -112,8 +110,7 @@ class frmMessen : public Screen, private Messanzeige {
     Recordset dataRezept;
     Recordset dataMesswerte;
     SechsRundenEmpfang mEmpfang;
-    Spezifikation mSpezifikation;
-    Urteil mUrteil;
+    Messansicht mAnsicht;
 
     double mBasisDrehzahl = 0; ///< speed of the step before the correction factor, 1/min
     double mKorrF = 1;

@@ -90,11 +90,6 @@ void frmMessen::eingabenVerdrahten() {
         on(box, &QLineEdit::textChanged, [this, box] { speichernFreigeben(box); });
 }
 
-void frmMessen::fnc_GraphGrenzenSetzen() {
-    if (DynamikMessung *dynamik = dynamikMessung())
-        dynamik->sollwerte(ui.txtSoll_n->text(), ui.txtSoll_P->text());
-}
-
 void frmMessen::fnc_EingabeSperren() {
     setFreeInput(ui.txtSoll_n, false);
     setFreeInput(ui.txtSoll_P, false);
@@ -109,7 +104,7 @@ void frmMessen::fnc_MesswerteLeeren() {
     ui.txtIST_D_torvena->clear();
     ui.txtIST_P_torvena->clear();
     ui.txtIST_n_ergom->clear();
-    ui.pbDynMess->setEnabled(false);
+    ui.lblMessSchritte->clear();
     ui.pbSpeichern->setEnabled(false);
     setWaiting(ui.pbSpeichern, false);
 }
@@ -172,10 +167,9 @@ void frmMessen::pbAusführen_Click() {
     if (!fnc_DrehmomentPrüfen())
         return;
     gMessStatus = Messstatus::Messen;
-    fnc_GraphGrenzenSetzen();
     fnc_EingabeSperren();
     ergometerFeldZeigen(!istLeistungsmessung());
-    if (istDrehzahlmessung() && messablauf().bedient())
+    if (istDrehzahlmessung() && mAnsicht.bedient)
         ui.txtIST_n_ergom->setFocus();
     form(frm::Meldung).show();
 }
@@ -184,7 +178,6 @@ void frmMessen::pbÜbernehmen_Click() {
     if (!fnc_DrehmomentPrüfen())
         return;
     gMessStatus = Messstatus::Messen;
-    fnc_GraphGrenzenSetzen();
     fnc_EingabeSperren();
     korrekturErledigt();
     form(frm::Meldung).show();
@@ -194,8 +187,7 @@ void frmMessen::pbFreieEing_Click() {
     werteVerwerfen();
     korrekturErledigt();
     setWaiting(ui.pbAusführen, false);
-    for (QPushButton *button :
-         {ui.pbAusführen, ui.pbDynMess, ui.pbFreieEing, ui.pbPlus, ui.pbMinus})
+    for (QPushButton *button : {ui.pbAusführen, ui.pbFreieEing, ui.pbPlus, ui.pbMinus})
         button->setEnabled(false);
     if (gMessenFreigabe)
         gMessStatus = Messstatus::FreieEingabe;
@@ -356,7 +348,7 @@ void frmMessen::speichernFreigeben(const QLineEdit *geändert) {
     const bool leistung = istLeistungsmessung();
     if (!leistung && !istDrehzahlmessung())
         return;
-    const bool bedient = messablauf().bedient();
+    const bool bedient = mAnsicht.bedient;
     const bool ergometer = geändert == ui.txtIST_n_ergom;
     bool voll = !ui.txtIST_n_torvena->text().isEmpty() && !ui.txtIST_D_torvena->text().isEmpty() &&
                 !ui.txtIST_P_torvena->text().isEmpty();

@@ -57,7 +57,7 @@ void frmMessen::durchgang() {
             countedDelay(sehrKurzeVerzögerung);
             fnc_SechsRundenStarten();
             countedDelay(sehrKurzeVerzögerung);
-            if (messablauf().bedient())
+            if (mAnsicht.bedient)
                 fnc_NavigationFreigeben();
             if (mWerte == Werte::Angefragte) // nothing was changed meanwhile
                 mWerte = Werte::Eigene;
@@ -77,18 +77,10 @@ void frmMessen::durchgang() {
 
 void frmMessen::verteilen() {
     switch (gMessStatus) {
-    case Messstatus::Speichern:
-        gMessStatus = Messstatus::Messen;
-        messablauf().schrittFertig(*this);
-        break;
     case Messstatus::FreieEingabe:
         gMessStatus = Messstatus::Messen;
         fnc_MesswerteLeeren();
         fnc_FreieEingabe();
-        break;
-    case Messstatus::Dynamisch:
-        if (DynamikMessung *dynamik = dynamikMessung())
-            dynamik->messen();
         break;
     case Messstatus::Ende:
         gMessenFreigabe = false;
@@ -138,12 +130,12 @@ void frmMessen::sollwertAblehnen() {
 }
 
 bool frmMessen::fnc_SollwertSenden() {
-    messablauf().vorSollwert();
+    messablauf().vorSollwert(dataRezept);
     const double korrF = freieEingabe() ? mGesendeteKorrF : mKorrF;
     if (fnc_BefehlSenden("E", gDrehrichtung, ui.txtSoll_n->text())) {
         mGesendeteKorrF = korrF;
         ui.pbAbbrechen->setEnabled(true);
-        if (messablauf().bedient())
+        if (mAnsicht.bedient)
             ui.pbFreieEing->setEnabled(true);
         return true;
     }
@@ -156,7 +148,7 @@ bool frmMessen::fnc_SollwertSenden() {
 // The keyboard waits where the step wants something: the reading of the ergometer, or nothing until
 // pbSpeichern takes it. Left to the toolkit it would fall on a button that moves to another step.
 void frmMessen::fokusSetzen() {
-    if (istDrehzahlmessung() && messablauf().bedient())
+    if (istDrehzahlmessung() && mAnsicht.bedient)
         ui.txtIST_n_ergom->setFocus();
     else
         ui.DBGrid1->setFocus();
@@ -180,6 +172,6 @@ void frmMessen::zeigeLeistung(double leistung) {
 }
 
 void frmMessen::rahmenFertig() {
-    if (messablauf().bedient() && dynamikMessung())
-        ui.pbDynMess->setEnabled(true);
+    if (mWerte == Werte::Eigene)
+        messablauf().nachRahmen(*this);
 }

@@ -1,38 +1,79 @@
-// Contracts of the measurement screen: what differs between the flow that an operator steers and
-// others, and what a dynamic measurement brings. The screen knows these; a higher floor may
-// implement them.
+// The contract between the measurement screen and a flow over the steps of a recipe: the one that
+// an operator steers, and others that a higher floor brings. What differs between them stands in
+// the flow; the screen asks for nothing else.
 #pragma once
 
 #include <QString>
 
-#include "store/recordset.h"
+#include <vector>
 
-class frmMessen;
+#include "controls/recordsetmodel.h"
+#include "records/messwerte.h"
 
 /// How the measurement is left: by the operator, or by the end of the process, which asks nothing,
 /// tells nothing and prints nothing.
 enum class Weggang { Ordentlich, Still };
 
-/// A flow over the steps of a recipe. All are called by the screen, in the order of a session.
+/// How the screen looks under a flow.
+struct Messansicht {
+    /// A person steers the steps: settles the protocol number first, then navigation, free input,
+    /// saving by button. Otherwise these are not to be seen, and the first step begins by itself.
+    bool bedient = true;
+    QString titel;                               ///< caption; empty keeps that of the screen
+    std::vector<RecordsetModel::Spalte> spalten; ///< of the grid of stored rows
+};
+
+/// What stands above the steps.
+struct Messkopf {
+    QString rezept;
+    QString spezifikation;
+};
+
+/// The way back: what a flow may do with the screen.
+class Messfenster {
+  public:
+    virtual ~Messfenster() = default;
+    /// The step as the boxes show it now.
+    virtual SchrittTexte texte() const = 0;
+    /// The speed that the ergometer shows, 1/min, as text.
+    virtual void zeigeErgometer(const QString &drehzahl) = 0;
+    /// How far the step is, "2/3".
+    virtual void zeigeFortschritt(const QString &stand) = 0;
+    /// Judges and stores the step shown and goes on to the next one. Shows its failures in a box.
+    /// False when the step stays the current one and its measurement goes on: a failure, or at
+    /// once when something else has been asked for meanwhile, above all the end.
+    virtual bool schrittAbschließen() = 0;
+};
+
+/// A flow. All are called by the screen, in this order over a session, except for beimVerlassen,
+/// which the end of the process calls as well. Unless it says otherwise, what one raises ends what
+/// the screen is about and is told.
 class Messablauf {
   public:
     virtual ~Messablauf() = default;
-    /// When the screen is loaded: what it shows and hides, its caption.
-    virtual void beimÖffnen(frmMessen &screen) = 0;
+    /// The screen is loaded: a session begins, nothing is left of the one before.
+    virtual Messansicht ansicht() = 0;
+    /// The first activation.
+    virtual Messkopf kopf() = 0;
     /// The steps: Prüfschritt, Drehzahl, Leistung, Prüfart, and what the flow needs besides.
     virtual Recordset schritte() = 0;
-    /// True when the protocol dialog is to settle the protocol number first.
-    virtual bool protokollErfragen() const = 0;
-    /// True when a person steers the steps: navigation, free input, saving by button.
-    virtual bool bedient() const = 0;
-    /// Before a speed set-point goes out.
-    virtual void vorSollwert() = 0;
-    /// After a block of the six-round stream was read.
-    virtual void nachBlock() = 0;
-    /// A step was found complete by the pass and not by a button.
-    virtual void schrittFertig(frmMessen &screen) = 0;
-    /// The recipe has been worked through.
-    virtual void rezeptEnde(frmMessen &screen) = 0;
+    /// The rows that the protocol has stored, in the order of the grid; with Prüfschritt.
+    virtual Recordset messwerte() = 0;
+    /// Before a speed goes out; a new reception follows. `schritt` stands on the step of the recipe
+    /// that is current, also while one is measured that stands in no recipe.
+    virtual void vorSollwert(const Recordset &schritt) = 0;
+    /// A complete result of six rounds, all of it measured under the set-point shown. May wait: a
+    /// flow that does looks at gMessStatus after each wait and goes on only while it is Messen, so
+    /// that a stop wins over a count. Raises nothing: it traps its own failures.
+    virtual void nachRahmen(Messfenster &fenster) = 0;
+    /// Judges and stores. Writes into `schritt` what the judgement sets there. False when it has
+    /// told that nothing can be stored. Raises what the store raises; then nothing was stored.
+    virtual bool speichern(SchrittTexte &schritt) = 0;
+    /// The recipe has been worked through; its last step is the current one again. Tells it, ends
+    /// the stream and sets gMessStatus, also when the line has gone.
+    virtual void rezeptEnde() = 0;
+    /// The operator's stop, with gMessStatus set and the notice shown. Traps its own failures.
+    virtual void abbruch() = 0;
     /// On every way out, when the motor has been told to stop.
     virtual void beimVerlassen(Weggang weggang) = 0;
 };
@@ -40,17 +81,3 @@ class Messablauf {
 /// The flow in force. The ordinary one unless another was set; nullptr gives the ordinary one back.
 Messablauf &messablauf();
 void setMessablauf(Messablauf *ablauf);
-
-/// The measurement of speed and power over time.
-class DynamikMessung {
-  public:
-    virtual ~DynamikMessung() = default;
-    /// New set-points: the limits and bands of the charts follow them.
-    virtual void sollwerte(const QString &soll_n, const QString &soll_P) = 0;
-    /// Shows the charts and measures until gMessStatus is 0.
-    virtual void messen() = 0;
-};
-
-/// None until a higher floor brings one; its button stays disabled then.
-DynamikMessung *dynamikMessung();
-void setDynamikMessung(DynamikMessung *messung);

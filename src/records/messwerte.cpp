@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "platform/runtime.h"
-#include "session/session.h"
+#include "session/sprache.h"
 #include "store/database.h"
 
 namespace {
@@ -30,10 +30,10 @@ bool fnc_SchrittVorhanden(Recordset &rows, const QString &schritt) {
 }
 
 /// The row was measured under the set-points of another recipe.
-bool andererSchritt(const Recordset &zeile, const Messwert &wert) {
-    const double abstand = std::fabs(zeile["Soll_n"].number() - wert.schrittDrehzahl);
-    return zeile["Soll_P"].number() != Feld(wert.texte.soll_P).number() ||
-           Round(abstand, 6) > Round(wert.schrittDrehzahl / 10, 6);
+bool andererSchritt(const Recordset &zeile, const SchrittTexte &schritt) {
+    const double abstand = std::fabs(zeile["Soll_n"].number() - schritt.rezeptDrehzahl);
+    return zeile["Soll_P"].number() != Feld(schritt.soll_P).number() ||
+           Round(abstand, 6) > Round(schritt.rezeptDrehzahl / 10, 6);
 }
 
 } // namespace
@@ -71,32 +71,30 @@ Unsicherheiten unsicherheitDrehzahl() {
     return uncertaintyTable("MU_Drehzahl");
 }
 
-void messwertSpeichern(const Messwert &wert) {
-    const SchrittTexte &texte = wert.texte;
-    const bool german = gSprache == 1;
-    const QString ohne = wert.urteil.ohne ? (german ? "ja" : "yes") : (german ? "nein" : "no");
+void messwertSpeichern(int protokollID, const SchrittTexte &schritt, const Urteil &urteil) {
+    const QString ohne = inSprache(urteil.ohne ? Text{"ja", "yes"} : Text{"nein", "no"});
     Recordset zeilen = gDatenbank.open("SELECT Prüfschritt, Soll_n, Soll_P FROM Messwerte_temp "
                                        "WHERE ProtokollID = ?",
-                                       {wert.protokollID});
-    if (wert.prüfschritt != freierSchritt && fnc_SchrittVorhanden(zeilen, wert.prüfschritt)) {
-        const bool andere = andererSchritt(zeilen, wert);
-        const QVariant soll_n = andere ? texte.soll_n : zeilen["Soll_n"].value();
-        const QVariant soll_P = andere ? texte.soll_P : zeilen["Soll_P"].value();
+                                       {protokollID});
+    if (schritt.prüfschritt != freierSchritt && fnc_SchrittVorhanden(zeilen, schritt.prüfschritt)) {
+        const bool andere = andererSchritt(zeilen, schritt);
+        const QVariant soll_n = andere ? schritt.soll_n : zeilen["Soll_n"].value();
+        const QVariant soll_P = andere ? schritt.soll_P : zeilen["Soll_P"].value();
         gDatenbank.execute("UPDATE Messwerte_temp SET Soll_n = ?, Soll_P = ?, IST_n_torvena = ?, "
                            "IST_P_torvena = ?, IST_D_torvena = ?, IST_n_ergom = ?, MU_ohne = ?, "
                            "MU_mit = ?, MU_Proz = ? WHERE Prüfschritt = ? AND ProtokollID = ?",
-                           {soll_n, soll_P, texte.ist_n_torvena, texte.ist_P_torvena,
-                            wert.ist_D_torvena, texte.ist_n_ergom, ohne, wert.urteil.mit,
-                            wert.urteil.muProz, wert.prüfschritt, wert.protokollID});
+                           {soll_n, soll_P, schritt.ist_n_torvena, schritt.ist_P_torvena,
+                            schritt.ist_D_torvena, schritt.ist_n_ergom, ohne, urteil.mit,
+                            urteil.muProz, schritt.prüfschritt, protokollID});
         return;
     }
     gDatenbank.execute(
         "INSERT INTO Messwerte_temp (ProtokollID, Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, "
         "Ist_D_torvena, Ist_P_torvena, Ist_n_ergom, MU_ohne, MU_mit, MU_Proz) "
         "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)",
-        {wert.protokollID, wert.prüfschritt, texte.soll_n, texte.soll_P, texte.ist_n_torvena,
-         wert.ist_D_torvena, texte.ist_P_torvena, texte.ist_n_ergom, ohne, wert.urteil.mit,
-         wert.urteil.muProz});
+        {protokollID, schritt.prüfschritt, schritt.soll_n, schritt.soll_P, schritt.ist_n_torvena,
+         schritt.ist_D_torvena, schritt.ist_P_torvena, schritt.ist_n_ergom, ohne, urteil.mit,
+         urteil.muProz});
 }
 
 bool protokollHatMesswerte(int protokollID) {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "session/pruefart.h"
 #include "store/recordset.h"
 
 /// The specification of the session.
@@ -24,13 +25,17 @@ struct Unsicherheit {
 };
 using Unsicherheiten = std::vector<Unsicherheit>;
 
-/// The boxes of a step as they are shown, under the number format of the session.
+/// A step as its boxes show it, under the number format of the session.
 struct SchrittTexte {
-    QString soll_n;        // 1/min
-    QString soll_P;        // W
-    QString ist_n_torvena; // 1/min, of the working standard
-    QString ist_P_torvena; // W, of the working standard
-    QString ist_n_ergom;   // 1/min, as read off the ergometer
+    QString soll_n;             ///< 1/min
+    QString soll_P;             ///< W
+    QString ist_n_torvena;      ///< 1/min, of the working standard
+    QString ist_P_torvena;      ///< W, of the working standard
+    QString ist_n_ergom;        ///< 1/min, as read off the ergometer
+    QString ist_D_torvena = {}; ///< N m, of the working standard
+    QString prüfschritt = {};
+    int prüfart = Prüfart::Keine;
+    double rezeptDrehzahl = 0; ///< of the recipe's step, uncorrected, 1/min
 };
 
 /// What is stored with a step. Kept from step to step: a verdict that fails half-way leaves the
@@ -60,19 +65,11 @@ bool toleranzLesen(int toleranzID, ToleranzZeile &zeile);
 Unsicherheiten unsicherheitLeistung();
 Unsicherheiten unsicherheitDrehzahl();
 
-struct Messwert {
-    int protokollID = 0;
-    QString prüfschritt;
-    SchrittTexte texte;
-    QString ist_D_torvena; // N m
-    Urteil urteil;
-    double schrittDrehzahl = 0; ///< of the recipe's step, uncorrected, 1/min
-};
 /// Overwrites the row of a step that is there; inserts otherwise, and for a free step always. An
 /// overwritten row keeps its set-points, unless its power is not the step's or its speed lies more
 /// than a tenth from the step's: then it is the row of another recipe and takes those of the step.
 /// Raises what the store raises.
-void messwertSpeichern(const Messwert &wert);
+void messwertSpeichern(int protokollID, const SchrittTexte &schritt, const Urteil &urteil);
 
 /// A protocol with no measured values and no sheet has no content.
 bool protokollHatMesswerte(int protokollID);

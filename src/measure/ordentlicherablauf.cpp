@@ -1,0 +1,112 @@
+#include "measure/ordentlicherablauf.h"
+
+#include "link/controller.h"
+#include "measure/bewertung.h"
+#include "measure/messablauf.h"
+#include "session/auswahl.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
+
+using namespace platform;
+
+namespace {
+
+class OrdentlicherAblauf final : public Messablauf {
+  public:
+    Messansicht ansicht() override;
+    Messkopf kopf() override;
+    Recordset schritte() override { return messSchritte(gRezeptID); }
+    Recordset messwerte() override { return protokollMesswerte(gProtokollID); }
+    void vorSollwert(const Recordset &) override {}
+    void nachRahmen(Messfenster &) override {}
+    bool speichern(SchrittTexte &schritt) override;
+    void rezeptEnde() override;
+    void abbruch() override {}
+    void beimVerlassen(Weggang weggang) override;
+
+  private:
+    bool fnc_Bewerten(SchrittTexte &schritt);
+
+    Spezifikation mSpezifikation;
+    Urteil mUrteil;
+};
+
+Messansicht OrdentlicherAblauf::ansicht() {
+    *this = {};
+    constexpr auto rechts = Qt::AlignRight | Qt::AlignVCenter;
+    constexpr auto mitte = Qt::AlignCenter;
+    const auto kopf = [deutsch = gSprache != 2](const char *de, const char *en) {
+        return QString(deutsch ? de : en);
+    };
+    return {true,
+            {},
+            {{"Prüfschritt", kopf("Prüfschritt", "Test step"), mitte},
+             {"Soll_n", kopf("Soll n\n1/min", "Setpoint n\nrpm"), rechts},
+             {"Soll_P", kopf("Soll P\nW", "Setpoint P\nW"), rechts},
+             {"Ist_n_torvena", kopf("Normal n\n1/min", "Standard n\nrpm"), rechts},
+             {"Ist_D_torvena", kopf("Normal M\nN m", "Standard M\nN m"), rechts},
+             {"Ist_P_torvena", kopf("Normal P\nW", "Standard P\nW"), rechts},
+             {"Ist_n_ergom", kopf("Ergometer n\n1/min", "Ergometer n\nrpm"), rechts},
+             {"MU_ohne", kopf("ohne Berück. MU", "without\nregard to MU"), mitte},
+             {"MU_mit", kopf("mit Berück. MU", "with\nregard to MU"), mitte}}};
+}
+
+Messkopf OrdentlicherAblauf::kopf() {
+    ToleranzZeile zeile;
+    toleranzLesen(gToleranzID, zeile);
+    mSpezifikation = zeile.spezifikation;
+    return {auswahl().rezept, zeile.bezeichnung};
+}
+
+bool OrdentlicherAblauf::speichern(SchrittTexte &schritt) {
+    if (!fnc_Bewerten(schritt))
+        return false;
+    messwertSpeichern(gProtokollID, schritt, mUrteil);
+    return true;
+}
+
+// False when nothing may be stored. A step of 0 W has no relative uncertainty; its row is stored
+// all the same, with the verdicts of the step before.
+bool OrdentlicherAblauf::fnc_Bewerten(SchrittTexte &schritt) try {
+    if (schritt.prüfart == Prüfart::Leistung)
+        leistungBewerten(mUrteil, schritt, mSpezifikation, unsicherheitLeistung());
+    else
+        drehzahlBewerten(mUrteil, schritt, mSpezifikation, unsicherheitDrehzahl());
+    return true;
+} catch (const Fehler &fehler) {
+    fehlerBox("3018 - ", fehler);
+    return fehler.number() == fehlernummer::DivisionByZero;
+}
+
+void OrdentlicherAblauf::rezeptEnde() {
+    meldung({"Das Rezept ist abgearbeitet!\r"
+             "Beenden Sie das Messen oder fahren Sie mit freier Eingabe fort!",
+             "The recipe has been run!\r"
+             "Terminate the measuring, or continue with Free Input!"},
+            Information, {"Meldung!", "Message!"});
+    gMessStatus = Messstatus::Ruhe; // first: a line that has gone does not hold it up
+    datenstromBeenden();
+}
+
+void OrdentlicherAblauf::beimVerlassen(Weggang weggang) {
+    if (protokollHatMesswerte(gProtokollID)) {
+        gBerichtAntwort = Yes;
+        return;
+    }
+    if (protokollHatBlätter(gProtokollID))
+        return;
+    protokollkopfLöschen(gProtokollID);
+    if (weggang == Weggang::Still)
+        return;
+    meldung({"Protokoll enthält keine Daten und wird gelöscht!",
+             "Protocol does not contain data and is deleted!"},
+            Information, {"Beenden", "Message"});
+}
+
+} // namespace
+
+Messablauf &ordentlicherAblauf() {
+    static OrdentlicherAblauf ablauf;
+    return ablauf;
+}
