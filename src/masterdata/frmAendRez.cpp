@@ -8,11 +8,9 @@
 #include "controls/eintrag.h"
 #include "controls/umbruch.h"
 #include "masterdata/frmRezepte.h"
-#include "records/satz.h"
-#include "records/spalte.h"
+#include "records/toleranz.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -136,11 +134,26 @@ void frmÄndRez::zeigen() {
 }
 
 bool frmÄndRez::Form_QueryUnload() {
-    // By the close box nothing is decided: the copy stays as it is. What failed can be tried again.
     const Abschluss decided = std::exchange(mnAbschluss, Abschluss::Offen);
-    if (decided == Abschluss::Übernehmen)
-        return fnc_ÄnderungenÜbernehmen();
-    return decided != Abschluss::Verwerfen || fnc_ÄnderungenVerwerfen();
+    const bool commit = decided == Abschluss::Übernehmen;
+    // By the close box nothing is decided: the copy stays as it is.
+    return (!commit && decided != Abschluss::Verwerfen) || kopieAbschließen(commit);
+}
+
+/// False when it failed: the screen stays, so that it can be tried again. The only copy is not
+/// discarded.
+bool frmÄndRez::kopieAbschließen(bool übernehmen) {
+    übernehmen = übernehmen || mKopie.einzige();
+    try {
+        if (übernehmen)
+            mKopie.übernehmen(gRezeptID);
+        else
+            mKopie.verwerfen();
+        return true;
+    } catch (const Fehler &fehler) {
+        fehlerBox(übernehmen ? "1123 - " : "1124 - ", fehler);
+        return false;
+    }
 }
 
 void frmÄndRez::Form_Unload() {
@@ -149,28 +162,6 @@ void frmÄndRez::Form_Unload() {
         return;
     hide();            // so that the list comes up over the window that it came from
     list->showModal(); // its activation reads the recipe anew
-}
-
-bool frmÄndRez::fnc_ÄnderungenÜbernehmen() try {
-    gDatenbank.execute("DELETE FROM Rezepte WHERE Rezeptid = ?", {gRezeptID});
-    mNurKopie = true;
-    gDatenbank.execute("INSERT INTO Rezepte SELECT * FROM ÄndRez_temp");
-    mNurKopie = false;
-    gDatenbank.execute("DELETE FROM ÄndRez_temp");
-    return true;
-} catch (const Fehler &fehler) {
-    fehlerBox("1123 - ", fehler);
-    return false;
-}
-
-bool frmÄndRez::fnc_ÄnderungenVerwerfen() try {
-    if (mNurKopie) // what it was copied from is gone by a commit that failed
-        return fnc_ÄnderungenÜbernehmen();
-    gDatenbank.execute("DELETE FROM ÄndRez_temp");
-    return true;
-} catch (const Fehler &fehler) {
-    fehlerBox("1124 - ", fehler);
-    return false;
 }
 
 void frmÄndRez::aktualisieren() {
@@ -184,7 +175,7 @@ void frmÄndRez::aktualisieren() {
 
 void frmÄndRez::fnc_Fill_CmbToleranz() try {
     ui.cmbToleranz->clear();
-    ui.cmbToleranz->addItems(spalte(gDatenbank.open("SELECT Bezeichnung FROM Toleranzen"), 0));
+    ui.cmbToleranz->addItems(toleranznamen());
 } catch (const Fehler &fehler) {
     fehlerBox("NR01- ", fehler);
 }
@@ -216,10 +207,7 @@ void frmÄndRez::cmbToleranz_Change() {
 
 void frmÄndRez::cmbToleranz_Click() try {
     const QString name = ui.cmbToleranz->currentText();
-    const Recordset row =
-        gDatenbank.open("SELECT id FROM Toleranzen WHERE Bezeichnung = ?", {name});
-    satzÄndern("UPDATE Rezeptnamen SET ToleranzID = ? WHERE Rezeptid = ?",
-               {row["id"].value(), gRezeptID});
+    rezeptToleranzÄndern(gRezeptID, name);
     mToleranz = name;
 } catch (const Fehler &fehler) {
     eintragSetzen(ui.cmbToleranz, mToleranz); // the one that is in force still

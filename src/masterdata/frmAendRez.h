@@ -5,6 +5,8 @@
 
 #include "controls/schrittgitter.h"
 #include "masterdata/pruefschritt.h"
+#include "records/arbeitskopie.h"
+#include "records/rezept.h"
 #include "records/schrittliste.h"
 #include "session/screens.h"
 #include "ui_frmAendRez.h"
@@ -27,6 +29,7 @@ class frmÄndRez : public Screen {
     void felderVerdrahten();
     void beschriften();
     void zeigen();
+    bool kopieAbschließen(bool übernehmen);
     void aktualisieren();
     Schritt eingegeben() const;
     void altWerteMerken();
@@ -38,9 +41,6 @@ class frmÄndRez : public Screen {
     bool fnc_DrehmomentPrüfen();
     std::optional<bool> fnc_SchrittVorhanden(const Schritt &schritt);
     void fnc_SchrittÄndern(const Schritt &schritt);
-    // False when the screen stays
-    bool fnc_ÄnderungenÜbernehmen();
-    bool fnc_ÄnderungenVerwerfen();
 
     void cmbToleranz_Change();
     void cmbToleranz_Click();
@@ -66,11 +66,11 @@ class frmÄndRez : public Screen {
 
     Ui::frmÄndRez ui;
     Schrittliste mListe{"ÄndRez_temp"};
+    Arbeitskopie mKopie{ordentlicheRezepte.schritte};
     Schrittgitter mGitter;
 
     bool mbGeändert = false; ///< by a field or the specification; steps put in or taken out don't
     Abschluss mnAbschluss = Abschluss::Offen;
-    bool mNurKopie = false;     ///< the stored steps are gone and not replaced yet
     QString mToleranz;          ///< the specification as it is stored
     bool mGezeigt = false;      ///< recipe and copy stand on the screen
     bool mOhneSchritt = true;   ///< no step is shown that could be saved, moved or deleted

@@ -7,12 +7,9 @@
 #include <utility>
 
 #include "controls/umbruch.h"
-#include "records/schluessel.h"
-#include "records/spalte.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -36,19 +33,6 @@ constexpr Beschriftung english[] = {
     {"pbok", "&OK"},
     {"pbexit", "&Cancel"},
 };
-
-// Columns of a unit by position
-enum { GerätID = 0, Gerätetyp = 2, Hersteller = 3, SerienNr = 4, IdentNr = 5 };
-
-Recordset gerätMitIdent(const QString &ident) {
-    return gDatenbank.open("select * from ergometer where identnr = ? and kundenid = ?",
-                           {ident, gKundenID});
-}
-
-Recordset geräteVomTyp(const QString &typ) {
-    return gDatenbank.open("select * from ergometer where gerätetyp = ? And kundenid = ?",
-                           {typ, gKundenID});
-}
 
 void erstGerätWählen() {
     meldung({"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"}, Exclamation,
@@ -103,13 +87,12 @@ void frmGerät::Form_Activate() {
 
 void frmGerät::listenLesen() {
     const QString typ = ui.cmbTyp->currentText();
-    const Recordset rows =
-        gDatenbank.open("select distinct gerätetyp from ergometer where kundenid = ?", {gKundenID});
+    const Namensliste types(gerätetypen(gKundenID));
     {
         const QSignalBlocker quiet(ui.cmbTyp);
         ui.cmbTyp->clear();
         ui.cmbTyp->addItem({}); // all types
-        ui.cmbTyp->addItems(Namensliste(spalte(rows, 0)).namen());
+        ui.cmbTyp->addItems(types.namen());
     }
     typSetzen(typ);
     identnummernLesen();
@@ -121,17 +104,12 @@ void frmGerät::typSetzen(const QString &typ) {
 }
 
 void frmGerät::identnummernLesen() {
-    const QString typ = ui.cmbTyp->currentText();
-    const Recordset rows =
-        typ.isEmpty()
-            ? gDatenbank.open("select identnr from ergometer where kundenid = ?", {gKundenID})
-            : gDatenbank.open("select identnr from ergometer where gerätetyp = ? And kundenid = ?",
-                              {typ, gKundenID});
-    mSuche.füllen(spalte(rows, 0));
-    mOhneNummer = rows.count() - static_cast<int>(mSuche.namen().size());
-    if (rows.count() == 1) {
+    const QStringList numbers = identnummern(gKundenID, ui.cmbTyp->currentText());
+    mSuche.füllen(numbers);
+    mOhneNummer = numbers.size() - mSuche.namen().size();
+    if (numbers.size() == 1) {
         mSuche.leeren();
-        mSuche.übernehmen(rows[0].text());
+        mSuche.übernehmen(numbers.first());
     }
     fnc_GerätZeigen();
 }
@@ -164,7 +142,9 @@ void frmGerät::fnc_GerätWählen(const QString &identNr) try {
 
 void frmGerät::fnc_GerätZeigen() {
     zeigen({}); // nothing that could be changed or deleted when the reading fails
-    zeigen(ident().isEmpty() ? einzigesGerät() : gerätMitIdent(ident()));
+    const Recordset row = ident().isEmpty() ? einzigesGerät() : gerätMitIdent(gKundenID, ident());
+    if (!row.empty())
+        zeigen(gerätAus(row));
     aktualisieren();
 }
 
@@ -173,19 +153,16 @@ Recordset frmGerät::einzigesGerät() const {
     const QString typ = ui.cmbTyp->currentText();
     if (typ.isEmpty())
         return {};
-    const Recordset rows = geräteVomTyp(typ);
+    const Recordset rows = geräteVomTyp(gKundenID, typ);
     return rows.count() == 1 ? rows : Recordset();
 }
 
-void frmGerät::zeigen(const Recordset &row) {
-    const auto text = [&](int column) { return row.empty() ? QString() : row[column].text(); };
-    mGerätID = 0;
-    if (!row.empty())
-        schlüsselNach(mGerätID, row[GerätID]);
-    ui.txtTyp->setText(text(Gerätetyp));
-    ui.txtHersteller->setText(text(Hersteller));
-    ui.txtSerienNr->setText(text(SerienNr));
-    ui.txtIdentNr->setText(text(IdentNr));
+void frmGerät::zeigen(const Gerätedaten &gerät) {
+    mGerätID = gerät.gerätID;
+    ui.txtTyp->setText(gerät.typ);
+    ui.txtHersteller->setText(gerät.hersteller);
+    ui.txtSerienNr->setText(gerät.serienNr);
+    ui.txtIdentNr->setText(gerät.identNr);
 }
 
 void frmGerät::aktualisieren() {
@@ -219,7 +196,7 @@ QString frmGerät::ident() const {
 Recordset frmGerät::gewähltesGerät() {
     const QString typ = ui.cmbTyp->currentText();
     if (!ident().isEmpty()) {
-        const Recordset row = gerätMitIdent(ident());
+        const Recordset row = gerätMitIdent(gKundenID, ident());
         if (row.empty()) {
             meldung({"Kunde besitzt kein Gerät mit dieser ID-Nummer!",
                      "The customer does not have a unit with this ID number!"},
@@ -234,7 +211,7 @@ Recordset frmGerät::gewähltesGerät() {
         ui.cmbIdent->setFocus();
         return {};
     }
-    const Recordset rows = geräteVomTyp(typ);
+    const Recordset rows = geräteVomTyp(gKundenID, typ);
     if (rows.count() > 1) {
         meldung({"Es gibt mehrere Geräte diesen Typs!\r"
                  "Wählen sie zur genauen Bestimmung eine ID-Nummer aus!",
@@ -251,8 +228,9 @@ void frmGerät::pbok_Click() try {
     const Recordset row = gewähltesGerät();
     if (row.empty())
         return;
-    schlüsselNach(gGerätID, row[GerätID]);
-    gerätWählen(row[Gerätetyp].text(), row[IdentNr].text());
+    const Gerätedaten unit = gerätAus(row);
+    gGerätID = unit.gerätID;
+    gerätWählen(unit.typ, unit.identNr);
     const int answer =
         meldung({"Wollen Sie jetzt ein Rezept auswählen?", "Do you want to select a recipe now?"},
                 YesNo | Question, {"Stammdaten auswählen", "Select Master Data"});

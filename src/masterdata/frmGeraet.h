@@ -2,8 +2,7 @@
 #pragma once
 
 #include "controls/suchmaske.h"
-#include "session/session.h"
-#include "store/recordset.h"
+#include "records/geraetedaten.h"
 #include "ui_frmGeraet.h"
 
 class frmGerät : public Suchmaske {
@@ -34,7 +33,7 @@ class frmGerät : public Suchmaske {
     void typSetzen(const QString &typ);
     void identnummernLesen();
     void fnc_GerätZeigen();
-    void zeigen(const Recordset &row);
+    void zeigen(const Gerätedaten &gerät);
     Recordset einzigesGerät() const;
     bool gerätGezeigt();
     QString ident() const;
@@ -48,7 +47,7 @@ class frmGerät : public Suchmaske {
     void pbok_Click();
 
     Ui::frmGerät ui;
-    int mOhneNummer = 0; ///< units that the list of ident numbers cannot show
+    qsizetype mOhneNummer = 0; ///< units that the list of ident numbers cannot show
     Schlüssel mGerätID = 0;
     bool mGeladen = false; ///< the first activation follows the loading and reads nothing
 };

@@ -7,12 +7,9 @@
 #include <utility>
 
 #include "controls/umbruch.h"
-#include "records/schluessel.h"
-#include "records/spalte.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -37,12 +34,6 @@ constexpr Beschriftung english[] = {
     {"pbexit", "&OK"},
     {"pbAbbrechen", "&Cancel"},
 };
-
-Recordset kundeSuchen(const QString &name, const QString &ort) {
-    if (ort.isEmpty())
-        return gDatenbank.open("select * from Kunden where Name = ?", {name});
-    return gDatenbank.open("select * from Kunden where Name = ? and Ort = ?", {name, ort});
-}
 
 void nichtsGefunden() {
     meldung({"Es wurden keine Daten gefunden! ", "No data found! "}, Information,
@@ -103,7 +94,7 @@ bool frmKunden::Form_QueryUnload() {
 
 void frmKunden::listenLesen() {
     const QString town = ui.cmbOrt->currentText();
-    const Namensliste towns(spalte(gDatenbank.open("Select distinct Ort from Kunden"), 0));
+    const Namensliste towns(kundenorte());
     {
         const QSignalBlocker quiet(ui.cmbOrt);
         ui.cmbOrt->clear();
@@ -111,11 +102,7 @@ void frmKunden::listenLesen() {
         ui.cmbOrt->addItems(towns.namen());
         ui.cmbOrt->setCurrentIndex(std::max(ui.cmbOrt->findText(town), 0));
     }
-    const QString chosen = ui.cmbOrt->currentText();
-    mSuche.füllen(spalte(chosen.isEmpty()
-                             ? gDatenbank.open("select name from kunden")
-                             : gDatenbank.open("Select Name from Kunden where Ort= ?", {chosen}),
-                         0));
+    mSuche.füllen(kundennamen(ui.cmbOrt->currentText()));
     fnc_KundeZeigen();
 }
 
@@ -151,20 +138,20 @@ void frmKunden::alleOrte() {
 
 void frmKunden::fnc_KundeZeigen() {
     zeigen({}); // nothing that could be changed or deleted when the reading fails
-    if (const QString name = mSuche.name(); !name.isEmpty())
-        zeigen(kundeSuchen(name, ui.cmbOrt->currentText()));
+    if (const QString name = mSuche.name(); !name.isEmpty()) {
+        const Recordset row = kundenMitName(name, ui.cmbOrt->currentText());
+        if (!row.empty())
+            zeigen(kundeAus(row));
+    }
     aktualisieren();
 }
 
-void frmKunden::zeigen(const Recordset &row) {
-    const bool found = !row.empty();
-    mKundenID = 0;
-    if (found)
-        schlüsselNach(mKundenID, row[0]);
-    ui.lbName->setText(found ? umbrechbar(row[1].text()) : QString());
-    ui.txtStraße->setText(found ? row[2].text() : QString());
-    ui.txtPLZ->setText(found ? row[3].text() : QString());
-    ui.txtOrt->setText(found ? row[4].text() : QString());
+void frmKunden::zeigen(const Kundendaten &kunde) {
+    mKundenID = kunde.kundenID;
+    ui.lbName->setText(umbrechbar(kunde.name));
+    ui.txtStraße->setText(kunde.straße);
+    ui.txtPLZ->setText(kunde.plz);
+    ui.txtOrt->setText(kunde.ort);
 }
 
 void frmKunden::aktualisieren() {
@@ -200,9 +187,8 @@ void frmKunden::pbSearch_Click() try {
                 Exclamation, {"Suchen", "Search"});
         return;
     }
-    const Recordset rows =
-        gDatenbank.open("select * from Kunden where Muster(?, trim(Name))", {text});
-    if (rows.empty()) {
+    const QStringList found = kundenSuchen(text);
+    if (found.isEmpty()) {
         nichtsGefunden();
         return;
     }
@@ -210,9 +196,9 @@ void frmKunden::pbSearch_Click() try {
         alleOrte();
         listenLesen();
     }
-    mSuche.zeigen(spalte(rows, 1));
-    if (rows.count() == 1)
-        mSuche.übernehmen(rows[1].text());
+    mSuche.zeigen(found);
+    if (found.size() == 1)
+        mSuche.übernehmen(found.first());
     aktualisieren();
 } catch (const Fehler &fehler) {
     fehlerBox("1073 - ", fehler);
@@ -235,9 +221,7 @@ void frmKunden::pbexit_Click() try {
         break;
     }
     const QString name = mSuche.name();
-    Schlüssel kundenID = 0;
-    schlüsselNach(kundenID, kundeSuchen(name, ui.cmbOrt->currentText())["KundenID"]);
-    kundeWählen(name, kundenID);
+    kundeWählen(name, kundeAus(kundenMitName(name, ui.cmbOrt->currentText())).kundenID);
     mGewählt = true;
     unload();
 } catch (const Fehler &fehler) {

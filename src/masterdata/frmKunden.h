@@ -2,8 +2,7 @@
 #pragma once
 
 #include "controls/suchmaske.h"
-#include "session/session.h"
-#include "store/recordset.h"
+#include "records/kundendaten.h"
 #include "ui_frmKunden.h"
 
 class frmKunden : public Suchmaske {
@@ -31,7 +30,7 @@ class frmKunden : public Suchmaske {
     void beschriften();
     void aktualisieren();
     void fnc_KundeZeigen();
-    void zeigen(const Recordset &row);
+    void zeigen(const Kundendaten &kunde);
     void listenLesen();
     void alleOrte();
     bool kundeGezeigt();

@@ -5,11 +5,9 @@
 #include "controls/umbruch.h"
 #include "masterdata/frmRezepte.h"
 #include "records/rezept.h"
-#include "records/schluessel.h"
-#include "records/spalte.h"
+#include "records/toleranz.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -39,19 +37,6 @@ constexpr Beschriftung english[] = {
     {"pbok", "&OK"},
     {"pbexit", "&Cancel"},
 };
-
-Schlüssel toleranzSchlüssel(const QString &name) {
-    const Recordset rows =
-        gDatenbank.open("SELECT ID FROM Toleranzen WHERE Bezeichnung = ?", {name});
-    if (rows.count() > 1) {
-        throw Fehler(fehlernummer::NoCurrentRecord,
-                     {"Diese Spezifikation gibt es mehrmals.",
-                      "There are several specifications of this name."});
-    }
-    Schlüssel key = 0;
-    schlüsselNach(key, rows["ID"]);
-    return key;
-}
 
 } // namespace
 
@@ -119,7 +104,7 @@ void frmNeuRezept::Form_Unload() {
 
 void frmNeuRezept::fnc_Fill_CmbToleranz() try {
     ui.cmbToleranz->clear();
-    ui.cmbToleranz->addItems(spalte(gDatenbank.open("SELECT Bezeichnung FROM Toleranzen"), 0));
+    ui.cmbToleranz->addItems(toleranznamen());
     ui.cmbToleranz->setCurrentIndex(-1);
     if (ui.cmbToleranz->count() == 0)
         ui.cmbToleranz->setPlaceholderText(
@@ -146,15 +131,7 @@ void frmNeuRezept::fnc_RezeptnameSpeichern() try {
         ui.cmbToleranz->setCurrentIndex(-1);
         return;
     }
-    const QString name = ui.txtRezName->text();
-    gDatenbank.execute("INSERT INTO Rezeptnamen (RezName, ToleranzID) VALUES (?, ?)",
-                       {name, toleranzSchlüssel(ui.cmbToleranz->currentText())});
-    try {
-        gRezeptID = rezeptSchlüssel(name);
-    } catch (const Fehler &) { // a recipe that cannot get any steps
-        gDatenbank.execute("DELETE FROM Rezeptnamen WHERE RezName = ?", {name});
-        throw;
-    }
+    gRezeptID = rezeptAnlegen(ui.txtRezName->text(), ui.cmbToleranz->currentText());
     schritteFreigeben();
 } catch (const Fehler &fehler) {
     fehlerBox("1030 - ", fehler);
@@ -162,10 +139,7 @@ void frmNeuRezept::fnc_RezeptnameSpeichern() try {
 
 /// Also true when it cannot be found out.
 bool frmNeuRezept::fnc_RezeptnameVorhanden() try {
-    if (gDatenbank
-            .open("SELECT RezeptID FROM Rezeptnamen WHERE Gleich(RezName, ?)",
-                  {ui.txtRezName->text()})
-            .empty())
+    if (!rezeptnameVergeben(ui.txtRezName->text()))
         return false;
     meldung({" Diesen Rezeptnamen gibt es bereits!\rWählen Sie einen anderen!",
              "This recipe name is already existent!\rChoose another name!"},

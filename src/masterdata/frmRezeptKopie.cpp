@@ -5,10 +5,8 @@
 #include "masterdata/frmNeuRezept.h"
 #include "records/rezept.h"
 #include "records/schrittliste.h"
-#include "records/spalte.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -59,7 +57,7 @@ void frmRezeptKopie::Form_Unload() try {
 }
 
 void frmRezeptKopie::fnc_ListeFüllen() try {
-    mSuche.füllen(spalte(gDatenbank.open("select Rezname from Rezeptnamen"), 0));
+    mSuche.füllen(rezeptnamen());
     ui.laInfo->setText(inSprache({"Rezeptanzahl: ", "Number Of Recipes: "}) +
                        QString::number(mSuche.namen().size()));
 } catch (const Fehler &fehler) {

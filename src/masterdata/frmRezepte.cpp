@@ -4,12 +4,11 @@
 
 #include <utility>
 
+#include "records/arbeitskopie.h"
 #include "records/rezept.h"
-#include "records/spalte.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -79,14 +78,14 @@ void frmRezepte::Form_Activate() try {
 
 void frmRezepte::Form_Unload() {
     if (!mGewählt)
-        sitzungsrezeptEinsetzen();
+        gefangen("1015 - ", sitzungsrezeptEinsetzen)();
     if (Screen *desktop = loaded(frm::Desktop))
         desktop->show();
 }
 
 void frmRezepte::listeLesen() {
     mGezeigt.clear(); // the recipe may have changed
-    mSuche.füllen(spalte(gDatenbank.open("select Rezname from Rezeptnamen"), 0));
+    mSuche.füllen(rezeptnamen());
     aktualisieren();
 }
 
@@ -192,9 +191,7 @@ void frmRezepte::pbNeuRezept_Click() {
 void frmRezepte::pbÄndRez_Click() try {
     if (!rezeptGezeigt())
         return;
-    gDatenbank.execute("INSERT INTO ÄndRez_temp SELECT * FROM Rezepte WHERE rezeptid = ? "
-                       "ORDER BY Val(Prüfschritt), rowid", // the editor takes them as they come
-                       {gRezeptID});
+    Arbeitskopie(ordentlicheRezepte.schritte).füllen(gRezeptID);
     gRezeptWahl = mGezeigt;
     Screen &editor = form(frm::ÄndRez);
     editor.setCaption(

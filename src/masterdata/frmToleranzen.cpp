@@ -96,7 +96,7 @@ void frmToleranzen::Form_Load() {
 }
 
 void frmToleranzen::Form_Unload() {
-    sitzungsrezeptEinsetzen();
+    gefangen("1015 - ", sitzungsrezeptEinsetzen)();
 }
 
 void frmToleranzen::blockZeigen(bool sichtbar) {
@@ -163,7 +163,7 @@ void frmToleranzen::fnc_Find_ToleranzID() {
         return;
     for (mrsToleranzen.moveFirst(); !mrsToleranzen.atEnd(); mrsToleranzen.moveNext()) {
         if (mrsToleranzen["Toleranz"].text() == entry) {
-            schlüsselNach(mnToleranzID, mrsToleranzen["ID"]);
+            mnToleranzID = schlüsselAus(mrsToleranzen["ID"]);
             break;
         }
     }

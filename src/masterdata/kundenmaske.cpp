@@ -4,10 +4,8 @@
 
 #include "controls/namensliste.h"
 #include "masterdata/frmKunden.h"
-#include "records/spalte.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -39,8 +37,7 @@ void Kundenmaske::vorbereiten() {
     beschriftungenSetzen(ui, *this, english);
     setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
     ui.txtName->setFocus();
-    ui.cmbOrt->addItems(
-        Namensliste(spalte(gDatenbank.open("Select distinct Ort from Kunden"), 0)).namen());
+    ui.cmbOrt->addItems(Namensliste(kundenorte()).namen());
     ui.cmbOrt->setCurrentIndex(-1);
     ui.cmbOrt->clearEditText();
 }

@@ -1,6 +1,8 @@
 #include "records/geraetedaten.h"
 
 #include "records/satz.h"
+#include "records/schluessel.h"
+#include "records/spalte.h"
 #include "store/database.h"
 
 Fehlendes fehlendeAngaben(const Gerätedaten &gerät, const std::optional<Gerätedaten> &vorher) {
@@ -27,9 +29,34 @@ Fehlendes fehlendeAngaben(const Gerätedaten &gerät, const std::optional<Gerät
     return fehlendes;
 }
 
+QStringList gerätetypen(Schlüssel kundenID) {
+    return spalte(
+        gDatenbank.open("select distinct Gerätetyp from Ergometer where KundenID = ?", {kundenID}));
+}
+
+QStringList identnummern(Schlüssel kundenID, const QString &typ) {
+    const QString all = "select IdentNr from Ergometer where KundenID = ?";
+    return spalte(typ.isEmpty() ? gDatenbank.open(all, {kundenID})
+                                : gDatenbank.open(all + " and Gerätetyp = ?", {kundenID, typ}));
+}
+
+Recordset gerätMitIdent(Schlüssel kundenID, const QString &identNr) {
+    return gDatenbank.open("select * from Ergometer where KundenID = ? and IdentNr = ?",
+                           {kundenID, identNr});
+}
+
+Recordset geräteVomTyp(Schlüssel kundenID, const QString &typ) {
+    return gDatenbank.open("select * from Ergometer where KundenID = ? and Gerätetyp = ?",
+                           {kundenID, typ});
+}
+
+Gerätedaten gerätAus(const Recordset &row) {
+    return {row["Gerätetyp"].text(), row["Hersteller"].text(), row["SerienNr"].text(),
+            row["IdentNr"].text(), schlüsselAus(row["GerätID"])};
+}
+
 Gerätedaten gerätLesen(Schlüssel gerätID) {
-    const Recordset row = gDatenbank.open("select * from Ergometer where GerätID = ?", {gerätID});
-    return {row[2].text(), row[3].text(), row[4].text(), row[5].text()};
+    return gerätAus(gDatenbank.open("select * from Ergometer where GerätID = ?", {gerätID}));
 }
 
 bool hatGeräte(Schlüssel kundenID) {

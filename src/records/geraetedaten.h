@@ -5,12 +5,14 @@
 
 #include "platform/text.h"
 #include "session/session.h"
+#include "store/recordset.h"
 
 struct Gerätedaten {
     QString typ;
     QString hersteller;
     QString serienNr;
     QString identNr;
+    Schlüssel gerätID = 0; ///< 0 for one that is not stored yet
 };
 
 struct Fehlendes {
@@ -21,6 +23,15 @@ struct Fehlendes {
 Fehlendes fehlendeAngaben(const Gerätedaten &gerät,
                           const std::optional<Gerätedaten> &vorher = std::nullopt);
 
+// Of the units of a customer, in no order
+QStringList gerätetypen(Schlüssel kundenID);
+QStringList identnummern(Schlüssel kundenID, const QString &typ); ///< of all types without one
+Recordset gerätMitIdent(Schlüssel kundenID, const QString &identNr);
+Recordset geräteVomTyp(Schlüssel kundenID, const QString &typ);
+
+/// The unit on whose row the cursor stands. Raises NoCurrentRecord, and Overflow for a key that the
+/// session cannot hold.
+Gerätedaten gerätAus(const Recordset &row);
 /// Raises NoCurrentRecord when there is no such unit.
 Gerätedaten gerätLesen(Schlüssel gerätID);
 

@@ -1,11 +1,36 @@
 #include "records/kundendaten.h"
 
 #include "records/satz.h"
+#include "records/schluessel.h"
+#include "records/spalte.h"
 #include "store/database.h"
 
+QStringList kundenorte() {
+    return spalte(gDatenbank.open("select distinct Ort from Kunden"));
+}
+
+QStringList kundennamen(const QString &ort) {
+    return spalte(ort.isEmpty() ? gDatenbank.open("select Name from Kunden")
+                                : gDatenbank.open("select Name from Kunden where Ort = ?", {ort}));
+}
+
+QStringList kundenSuchen(const QString &muster) {
+    return spalte(gDatenbank.open("select Name from Kunden where Muster(?, trim(Name))", {muster}));
+}
+
+Recordset kundenMitName(const QString &name, const QString &ort) {
+    return ort.isEmpty()
+               ? gDatenbank.open("select * from Kunden where Name = ?", {name})
+               : gDatenbank.open("select * from Kunden where Name = ? and Ort = ?", {name, ort});
+}
+
+Kundendaten kundeAus(const Recordset &row) {
+    return {row["Name"].text(), row["Straße"].text(), row["PLZ"].text(), row["Ort"].text(),
+            schlüsselAus(row["KundenID"])};
+}
+
 Kundendaten kundeLesen(Schlüssel kundenID) {
-    const Recordset row = gDatenbank.open("select * from Kunden where KundenID = ?", {kundenID});
-    return {row[1].text(), row[2].text(), row[3].text(), row[4].text()};
+    return kundeAus(gDatenbank.open("select * from Kunden where KundenID = ?", {kundenID}));
 }
 
 bool kundennameVergeben(const QString &name, Schlüssel außer) {

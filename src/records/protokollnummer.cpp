@@ -42,8 +42,7 @@ QStringList leereProtokolle() {
                                   "WHERE Messwerte_temp.ProtokollID IS NULL"
                                   " AND Protokoll_temp.KundenID = ? AND Protokoll_temp.GerätID = ? "
                                   "ORDER BY Protokoll_temp.ProtokollID",
-                                  {gKundenID, gGerätID}),
-                  0);
+                                  {gKundenID, gGerätID}));
 }
 
 QStringList protokolleMitNummer(Schlüssel nummer) {

@@ -7,9 +7,9 @@
 #include "session/session.h"
 #include "store/recordset.h"
 
-/// Takes the key of a record into a session variable. Raises Overflow for a key that the variable
-/// cannot hold, rather than choose another record.
-inline void schlüsselNach(Schlüssel &variable, const Feld &feld) {
+/// The key of a record. Raises Overflow for one that a session variable cannot hold, rather than
+/// choose another record.
+inline Schlüssel schlüsselAus(const Feld &feld) {
     using Grenzen = std::numeric_limits<Schlüssel>;
     const double key = feld.number(); // exact far beyond a key
     if (key < Grenzen::min() || key > Grenzen::max()) {
@@ -17,5 +17,5 @@ inline void schlüsselNach(Schlüssel &variable, const Feld &feld) {
                      {"Überlauf: der Datensatz " + feld.text() + " kann nicht ausgewählt werden.",
                       "Overflow: record " + feld.text() + " cannot be selected."});
     }
-    variable = static_cast<Schlüssel>(key);
+    return static_cast<Schlüssel>(key);
 }

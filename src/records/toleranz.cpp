@@ -2,6 +2,7 @@
 
 #include "platform/runtime.h"
 #include "records/satz.h"
+#include "records/spalte.h"
 #include "session/sprache.h"
 #include "store/database.h"
 
@@ -70,15 +71,21 @@ Recordset toleranzListe() {
                            {inSprache({" 1/min)", " rpm)"})});
 }
 
+QStringList toleranznamen() {
+    return spalte(gDatenbank.open("SELECT Bezeichnung FROM Toleranzen"));
+}
+
+Recordset toleranzMitNamen(const QString &bezeichnung) {
+    return gDatenbank.open("SELECT ID FROM Toleranzen WHERE Bezeichnung = ?", {bezeichnung});
+}
+
 std::optional<Toleranz> toleranzMitID(Schlüssel id) {
-    const Recordset row =
-        gDatenbank.open("SELECT Bezeichnung, Prozent, Watt, GrenzAbw, GKlasse, Messverfahren "
-                        "FROM Toleranzen WHERE ID = ?",
-                        {id});
-    if (row.count() != 1)
+    const Recordset row = gDatenbank.open("SELECT * FROM Toleranzen WHERE ID = ?", {id});
+    if (row.empty())
         return {};
-    return Toleranz{row[0].text(),    zahlText(row[1]), zahlText(row[2]),
-                    zahlText(row[3]), row[4].text(),    row[5].text()};
+    return Toleranz{row["Bezeichnung"].text(), zahlText(row["Prozent"]),
+                    zahlText(row["Watt"]),     zahlText(row["GrenzAbw"]),
+                    row["GKlasse"].text(),     row["Messverfahren"].text()};
 }
 
 bool bezeichnungVergeben(const QString &bezeichnung) {

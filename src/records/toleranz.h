@@ -49,6 +49,10 @@ QString drehzahlGerundet(const QString &text);
 
 /// ID and, as Toleranz, what the picker shows, in the order of the names.
 Recordset toleranzListe();
+/// In no order.
+QStringList toleranznamen();
+/// ID of the specifications of this name.
+Recordset toleranzMitNamen(const QString &bezeichnung);
 /// Nothing when there is no such row.
 std::optional<Toleranz> toleranzMitID(Schlüssel id);
 /// Letters count without regard to case.

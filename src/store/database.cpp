@@ -226,6 +226,11 @@ int Datenbank::execute(const QString &sql, const Params &params) {
     return translated([&] { return prepare(sql, params).exec(); });
 }
 
+qlonglong Datenbank::insert(const QString &sql, const Params &params) {
+    execute(sql, params);
+    return database().getLastInsertRowid();
+}
+
 void Datenbank::together(const std::function<void()> &statements) {
     execute("BEGIN IMMEDIATE");
     auto undo = qScopeGuard([this] {

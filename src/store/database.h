@@ -44,6 +44,9 @@ class Datenbank {
     Recordset open(const QString &sql, const Params &params = {});
     /// Writes and answers how many rows were touched. Raises DuplicateKey besides those of open().
     int execute(const QString &sql, const Params &params = {});
+    /// Writes one new row and answers its key, which may be greater than the session can hold.
+    /// Raises as execute().
+    qlonglong insert(const QString &sql, const Params &params = {});
     /// Runs statements of which all hold or none; they hold no second of these. What they raise
     /// goes on to the caller.
     void together(const std::function<void()> &statements);
