@@ -52,7 +52,7 @@ void frmInterface::Form_Unload() {
 }
 
 /// The trial of ports has changed the live control: back to what the table says.
-void frmInterface::fnc_Zurücknehmen() try {
+void frmInterface::fnc_Zurücknehmen() const try {
     const int port = leitungLesen(steuerleitung.tabelle).port;
     if (MSComm1.CommPort() != port)
         portWechseln(MSComm1, port);

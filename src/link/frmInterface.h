@@ -14,7 +14,7 @@ class frmInterface : public Anschlussmaske {
     void pbok_Click() override;
 
   private:
-    void fnc_Zurücknehmen();
+    void fnc_Zurücknehmen() const;
     void pbSS2_Click();
 
     bool mGespeichert = false;

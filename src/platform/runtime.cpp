@@ -101,9 +101,8 @@ double Val(const QString &text) {
         if (isBlank(c))
             continue;
         const bool atStart = number.isEmpty() || number.endsWith('E');
-        if (c.unicode() >= '0' && c.unicode() <= '9') {
-            number += c;
-        } else if ((c == '+' || c == '-') && atStart) {
+        const bool sign = (c == '+' || c == '-') && atStart;
+        if (sign || (c.unicode() >= '0' && c.unicode() <= '9')) {
             number += c;
         } else if (c == '.' && !point && !exponent) {
             point = true;

@@ -133,7 +133,7 @@ void setSerialDeviceMaker(SerialDeviceMaker maker) {
 }
 
 QString serialLocation(int number) {
-    const QString entry = QDir::current().absoluteFilePath(QString("COM%1").arg(number));
+    QString entry = QDir::current().absoluteFilePath(QString("COM%1").arg(number));
     const QFileInfo info(entry);
     if (info.exists() || info.isSymLink()) // a link whose device has gone is still the entry
         return entry;

@@ -17,7 +17,9 @@ class Desk : public QObject {
   public:
     static Desk &instance();
 
-    void add(int id, std::function<std::unique_ptr<Screen>()> make) { mMakers[id] = make; }
+    void add(int id, std::function<std::unique_ptr<Screen>()> make) {
+        mMakers[id] = std::move(make);
+    }
     bool knows(int id) const { return mMakers.count(id) > 0; }
     Screen &get(int id);
     Screen *find(int id) const;

@@ -85,6 +85,7 @@ int msgBox(const QString &text, int flags, const QString &title) {
     box.setTextFormat(Qt::PlainText);
     const std::vector<BoxAnswer> answers = buttonsOf(flags);
     std::vector<QPushButton *> buttons;
+    buttons.reserve(answers.size());
     for (const BoxAnswer answer : answers)
         buttons.push_back(box.addButton(captionOf(answer), roleOf(answer)));
     const size_t wanted = (flags & ThirdButtonDefault) ? 2 : (flags & SecondButtonDefault) ? 1 : 0;
