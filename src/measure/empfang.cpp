@@ -1,8 +1,7 @@
 #include "measure/empfang.h"
 
 #include "link/controller.h"
-#include "measure/sechsrunden.h"
-#include "platform/fehler.h"
+#include "measure/stromlesen.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
@@ -25,13 +24,11 @@ void warn(Timer &timer, const Text &text) {
 
 } // namespace
 
-void fnc_SechsRundenStarten() {
-    try {
-        MSComm1.Output("6");
-        countedDelay(kurzeVerzögerung);
-    } catch (const Fehler &fehler) {
-        fehlerBox("3001 - ", fehler);
-    }
+void fnc_SechsRundenStarten() try {
+    MSComm1.Output("6");
+    countedDelay(kurzeVerzögerung);
+} catch (const Fehler &fehler) {
+    fehlerBox("3001 - ", fehler);
 }
 
 SechsRundenEmpfang::SechsRundenEmpfang() {
@@ -51,58 +48,35 @@ void SechsRundenEmpfang::stop() {
     Timer2_6R.setInterval(0);
 }
 
-void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) {
-    try {
-        Timer1_6R.setEnabled(false);
-        Timer2_6R.setInterval(transmissionMilliseconds);
-        Timer2_6R.setEnabled(false);
-        Timer1_6R.setInterval(watchdogMilliseconds);
-        MSComm1.discardInput();
-        SechsRundenDecoder decoder;
-        const auto goOn = [&anzeige] {
+void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) try {
+    Timer1_6R.setEnabled(false);
+    Timer2_6R.setInterval(transmissionMilliseconds);
+    Timer2_6R.setEnabled(false);
+    Timer1_6R.setInterval(watchdogMilliseconds);
+    MSComm1.discardInput();
+    SechsRundenDecoder decoder;
+    using Ereignis = SechsRundenDecoder::Ereignis;
+    stromLesen(
+        [&anzeige] {
             return gDesktopAktiv && gMessStatus == Messstatus::Messen && !gTimeoutTimer1 &&
                    !anzeige.abgelöst();
-        };
-        using Ereignis = SechsRundenDecoder::Ereignis;
-        do {
-            pump();
-            // Asked before the line is looked at: whoever ended this pass may have closed it.
-            if (!goOn() || MSComm1.InBufferCount() == 0)
-                continue;
-            const QByteArray block = MSComm1.Input();
-            Timer1_6R.setEnabled(true);
-            for (const char byte : block) {
-                switch (decoder.feed(static_cast<std::uint8_t>(byte))) {
-                case Ereignis::Nichts:
-                    break;
-                case Ereignis::Sync:
-                    Timer1_6R.setEnabled(true);
-                    break;
-                case Ereignis::Drehzahl:
-                    anzeige.zeigeDrehzahl(decoder.value());
-                    break;
-                case Ereignis::Drehmoment:
-                    anzeige.zeigeDrehmoment(decoder.value());
-                    break;
-                case Ereignis::Leistung:
-                    anzeige.zeigeLeistung(decoder.value());
-                    Timer1_6R.setEnabled(false);
-                    anzeige.rahmenFertig();
-                    break;
-                }
-                if (!goOn())
-                    break;
-            }
-        } while (goOn());
-        if (gTimeoutTimer1 && !anzeige.abgelöst()) {
-            gTimeoutTimer1 = false;
-            Timer2_6R.setEnabled(false);
-            meldung({"Nach 18 Sek kein Empfang", "No reception after 18 sec"}, Exclamation,
-                    {"Meldung", "Message"});
-        }
-    } catch (const Fehler &fehler) {
-        stop();
-        fehlerBox("3002 - ", fehler);
+        },
+        [&](std::uint8_t byte) {
+            const Ereignis was = decoder.feed(byte);
+            if (was == Ereignis::Sync || was == Ereignis::Leistung)
+                Timer1_6R.setEnabled(was == Ereignis::Sync);
+            if (was != Ereignis::Sync && was != Ereignis::Nichts)
+                anzeige.zeige(was, decoder.value());
+        },
+        [this] { Timer1_6R.setEnabled(true); });
+    if (gTimeoutTimer1 && !anzeige.abgelöst()) {
+        gTimeoutTimer1 = false;
+        Timer2_6R.setEnabled(false);
+        meldung({"Nach 18 Sek kein Empfang", "No reception after 18 sec"}, Exclamation,
+                {"Meldung", "Message"});
     }
     stop();
+} catch (const Fehler &fehler) {
+    stop();
+    fehlerBox("3002 - ", fehler);
 }

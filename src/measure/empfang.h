@@ -2,17 +2,16 @@
 // comes. Runs until the measurement's status says otherwise.
 #pragma once
 
+#include "measure/sechsrunden.h"
 #include "platform/clock.h"
 
 /// Where the values go, and who may end the reception.
 class Messanzeige {
   public:
     virtual ~Messanzeige() = default;
-    virtual void zeigeDrehzahl(double drehzahl) = 0;     // 1/min
-    virtual void zeigeDrehmoment(double drehmoment) = 0; // N m
-    virtual void zeigeLeistung(double leistung) = 0;     // W
-    /// A frame is complete.
-    virtual void rahmenFertig() = 0;
+    /// A value has come: speed in 1/min, torque in N m, power in W. With the power the frame is
+    /// complete.
+    virtual void zeige(SechsRundenDecoder::Ereignis was, double wert) = 0;
     /// A newer pass wants the line: leave without touching anything.
     virtual bool abgelöst() const = 0;
 };

@@ -2,11 +2,10 @@
 
 #include <QHeaderView>
 
+#include <algorithm>
+
 #include "link/controller.h"
-#include "platform/fehler.h"
 #include "platform/runtime.h"
-#include "records/messwerte.h"
-#include "session/auswahl.h"
 #include "session/motorfenster.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -54,15 +53,16 @@ constexpr Beschriftung english[] = {
 
 } // namespace
 
-frmMessen::frmMessen() {
+frmMessen::frmMessen()
+    : mDrehzahlfeld{nullptr, drehzahlgrenze}, mLeistungsfeld{nullptr, leistungsgrenze} {
     ui.setupUi(this);
     ui.DBGrid1->setModel(&mRaster);
     ui.DBGrid1->verticalHeader()->hide();
     ui.DBGrid1->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    onClick(ui.pbFirst, [this] { navigieren(&frmMessen::zumErsten); });
-    onClick(ui.pbLast, [this] { navigieren(&frmMessen::zumLetzten); });
-    onClick(ui.pbNext, [this] { navigieren(&frmMessen::zumNächsten); });
-    onClick(ui.pbPrevious, [this] { navigieren(&frmMessen::zumVorherigen); });
+    onClick(ui.pbFirst, [this] { navigieren(0); });
+    onClick(ui.pbLast, [this] { navigieren(dataRezept.count() - 1); });
+    onClick(ui.pbNext, [this] { navigieren(dataRezept.position() + 1); });
+    onClick(ui.pbPrevious, [this] { navigieren(dataRezept.position() - 1); });
     onClick(ui.pbMessen, [this] { pbMessen_Click(); });
     onClick(ui.pbSpeichern, [this] { schrittAbschließen(); });
     onClick(ui.pbAbbrechen, [this] { pbAbbrechen_Click(); });
@@ -73,19 +73,12 @@ void frmMessen::Form_Load() try {
     motorfenster().disableFront();
     fnc_BefehlSenden("E", gDrehrichtung, "00");
     beschriftungenSetzen(ui, *this, english);
-    const bool deutsch = gSprache != 2;
-    ui.cmbMessArt->addItems(deutsch ? QStringList{"Leistungsmessung", "Drehzahlmessung"}
-                                    : QStringList{"Power Measurement", "Speed Measurement"});
+    ui.cmbMessArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
     ui.cmbMessArt->setEditText({});
     ansichtZeigen();
-    setFreeInput(ui.txtSoll_n, false);
-    setFreeInput(ui.txtSoll_P, false);
-
-    mKorrF = 1;
-    ui.laKorrF->setText(Format(mKorrF, "0.0000"));
+    fnc_EingabeSperren();
+    korrFSetzen(1);
     gMessungLäuft = true;
-    mDrehzNull = false;
-    mRezeptEnde = false;
     if (gMessStatus == Messstatus::Ende || gMessStatus == Messstatus::Verweigert ||
         gMessStatus == Messstatus::Neu) {
         gMessStatus = Messstatus::Neu;
@@ -153,6 +146,26 @@ void frmMessen::Form_Unload() {
     motorfenster().focusBeenden();
 }
 
+// Whatever changes what can be pressed comes by here.
+void frmMessen::zustandZeigen() {
+    const Zustand &ist = mZustand;
+    const auto zeigen = [&](QPushButton *knopf, bool frei, bool wartet = false) {
+        knopf->setEnabled(frei && !ist.beendet);
+        setWaiting(knopf, wartet);
+    };
+    zeigen(ui.pbSpeichern, ist.vollständig, ist.vollständig);
+    zeigen(ui.pbAusführen, ist.ungesendet, ist.ungesendet);
+    zeigen(ui.pbÜbernehmen, ist.korrigiert, ist.korrigiert);
+    zeigen(ui.pbMessen, ist.schritteFrei || ist.neuZuSenden, ist.neuZuSenden);
+    for (QPushButton *knopf : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
+        zeigen(knopf, ist.schritteFrei);
+    for (QPushButton *knopf : {ui.pbPlus, ui.pbMinus})
+        zeigen(knopf, !ist.freiGewählt);
+    zeigen(ui.pbFreieEing, ist.freiErlaubt);
+    zeigen(ui.pbDrehzNull, ist.nullErlaubt);
+    zeigen(ui.pbAbbrechen, true);
+}
+
 void frmMessen::fnc_PrüfschrittAnzeigen() try {
     ui.laPrSchritt->setText(dataRezept["Prüfschritt"].text());
     mBasisDrehzahl = dataRezept["Drehzahl"].number();
@@ -162,9 +175,11 @@ void frmMessen::fnc_PrüfschrittAnzeigen() try {
         fnc_MesswerteAnzeigen();
     ui.txtIST_n_ergom->clear();
     const int art = dataRezept["Prüfart"].whole();
-    if (art == 1 || art == 2)
-        messArtZeigen(art);
-    ergometerFeldZeigen(art != 1);
+    if (art == Prüfart::Leistung)
+        messArtZeigen(art, inSprache(Prüfart::leistungText));
+    else if (art == Prüfart::Drehzahl)
+        messArtZeigen(art, inSprache(Prüfart::drehzahlText));
+    ergometerFeldZeigen(art != Prüfart::Leistung);
 } catch (const Fehler &fehler) {
     fehlerBox("3017 - ", fehler);
 }
@@ -176,9 +191,6 @@ void frmMessen::fnc_MesswerteAnzeigen() {
 }
 
 SchrittTexte frmMessen::texte() const {
-    const int art = istLeistungsmessung()  ? Prüfart::Leistung
-                    : istDrehzahlmessung() ? Prüfart::Drehzahl
-                                           : Prüfart::Keine;
     return {ui.txtSoll_n->text(),
             ui.txtSoll_P->text(),
             ui.txtIST_n_torvena->text(),
@@ -186,16 +198,8 @@ SchrittTexte frmMessen::texte() const {
             ui.txtIST_n_ergom->text(),
             ui.txtIST_D_torvena->text(),
             ui.laPrSchritt->text(),
-            art,
+            mMessArt,
             mBasisDrehzahl};
-}
-
-void frmMessen::zeigeErgometer(const QString &drehzahl) {
-    ui.txtIST_n_ergom->setText(drehzahl);
-}
-
-void frmMessen::zeigeFortschritt(const QString &stand) {
-    ui.lblMessSchritte->setText(stand);
 }
 
 bool frmMessen::schrittAbschließen() {
@@ -217,18 +221,14 @@ void frmMessen::fnc_MesswertSpeichern() try {
     zeigeErgometer(schritt.ist_n_ergom);
     if (!gespeichert)
         return;
-    dataMesswerte = messablauf().messwerte();
-    mRaster.setRecordset(dataMesswerte);
+    fnc_MesswerteAnzeigen();
     const bool frei = schritt.prüfschritt == freierSchritt;
     if (frei ? dataMesswerte.findLast("Prüfschritt", schritt.prüfschritt)
              : dataMesswerte.findFirst("Prüfschritt", schritt.prüfschritt)) {
         ui.DBGrid1->selectRow(dataMesswerte.position());
         ui.DBGrid1->scrollTo(mRaster.index(dataMesswerte.position(), 0));
     }
-    ui.DBGrid1->setFocus(); // before the button that has it is disabled
-    ui.pbAusführen->setEnabled(false);
-    ui.pbSpeichern->setEnabled(false);
-    setWaiting(ui.pbSpeichern, false);
+    ui.DBGrid1->setFocus(); // before the button that has it goes out
     if (!frei && !mRezeptEnde)
         dataRezept.moveNext();
     fnc_EingabeSperren();
@@ -251,18 +251,17 @@ void frmMessen::fnc_MesswertSpeichern() try {
 
 void frmMessen::pbMessen_Click() {
     gMessStatus = Messstatus::Messen;
+    mZustand.freiGewählt = false;
+    mZustand.nullErlaubt = true;
     werteVerwerfen();
     fnc_MesswerteLeeren();
     fnc_PrüfschrittAnzeigen();
-    ui.pbPlus->setEnabled(true);
-    ui.pbMinus->setEnabled(true);
     form(frm::Meldung).show();
-    ui.pbDrehzNull->setEnabled(true);
 }
 
 void frmMessen::pbAbbrechen_Click() {
-    for (QPushButton *button : findChildren<QPushButton *>())
-        button->setEnabled(false);
+    mZustand.beendet = true;
+    zustandZeigen();
     gMessenFreigabe = false;
     gMessStatus = Messstatus::Ende;
     form(frm::Meldung).show();
@@ -271,39 +270,17 @@ void frmMessen::pbAbbrechen_Click() {
         unload(); // otherwise the closing of the notice does it, when the exchange has ended
 }
 
-void frmMessen::navigieren(void (frmMessen::*schritt)()) {
+void frmMessen::navigieren(int zeile) {
     if (dataRezept.empty())
         return;
-    (this->*schritt)();
+    dataRezept.moveTo(std::clamp(zeile, 0, dataRezept.count() - 1));
+    if (dataRezept.position() != zeile)
+        beep();
     fnc_PrüfschrittAnzeigen();
     fnc_EingabeSperren();
     korrekturErledigt();
-    ui.pbPlus->setEnabled(true);
-    ui.pbMinus->setEnabled(true);
-    aufAusführenWarten();
+    mZustand.freiGewählt = false;
+    mZustand.ungesendet = true;
+    werteVerwerfen();
     ui.pbAusführen->setFocus();
-}
-
-void frmMessen::zumErsten() {
-    dataRezept.moveFirst();
-}
-
-void frmMessen::zumLetzten() {
-    dataRezept.moveLast();
-}
-
-void frmMessen::zumNächsten() {
-    dataRezept.moveNext();
-    if (dataRezept.atEnd()) {
-        dataRezept.moveLast();
-        beep();
-    }
-}
-
-void frmMessen::zumVorherigen() {
-    dataRezept.movePrevious();
-    if (dataRezept.atStart()) {
-        dataRezept.moveFirst();
-        beep();
-    }
 }

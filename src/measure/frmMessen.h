@@ -1,5 +1,5 @@
 // The screen on which a protocol is measured: walks through the steps of a recipe, drives the
-// speed, shows what the working standard delivers, and stores each step that the operator saves.
+// speed, shows what the working standard delivers, and has the flow judge and store each step.
 //
 // Everything that wants to change the course of a measurement sets gMessStatus; the pass that runs
 // reads it after each received byte (see fnc_Messzyklus).
@@ -8,10 +8,9 @@
 #include "controls/recordsetmodel.h"
 #include "measure/empfang.h"
 #include "measure/messablauf.h"
-#include "platform/fehler.h"
+#include "measure/sollwert.h"
+#include "measure/speichernregel.h"
 #include "session/screens.h"
-#include "session/status.h"
-#include "store/recordset.h"
 #include "ui_frmMessen.h"
 
 class frmMessen : public Screen, private Messanzeige, private Messfenster {
@@ -34,75 +33,70 @@ class frmMessen : public Screen, private Messanzeige, private Messfenster {
     void fnc_Messzyklus();
     void durchgang();
     void verteilen();
-    void motorAbschalten();
-    bool sollwertZulässig() const;
     void sollwertAblehnen();
     bool fnc_SollwertSenden();
-    void fokusSetzen();
-    void fnc_NavigationFreigeben();
-    void zeigeDrehzahl(double drehzahl) override;
-    void zeigeDrehmoment(double drehmoment) override;
-    void zeigeLeistung(double leistung) override;
-    void rahmenFertig() override;
+    void zeige(SechsRundenDecoder::Ereignis was, double wert) override;
     bool abgelöst() const override { return mNeuerDurchgang || unloaded(); }
 
     // Steps, saving, leaving (frmMessen.cpp)
     void ansichtZeigen();
     void ersteAktivierung();
+    void zustandZeigen();
     void fnc_PrüfschrittAnzeigen();
     void fnc_MesswerteAnzeigen();
     SchrittTexte texte() const override;
-    void zeigeErgometer(const QString &drehzahl) override;
-    void zeigeFortschritt(const QString &stand) override;
+    void zeigeErgometer(const QString &drehzahl) override { ui.txtIST_n_ergom->setText(drehzahl); }
+    void zeigeFortschritt(const QString &stand) override { ui.lblMessSchritte->setText(stand); }
     bool schrittAbschließen() override;
     void fnc_MesswertSpeichern();
     void pbAbbrechen_Click();
     void pbMessen_Click();
-    void navigieren(void (frmMessen::*schritt)());
-    void zumErsten();
-    void zumLetzten();
-    void zumNächsten();
-    void zumVorherigen();
+    void navigieren(int zeile);
 
     // Set-points and free input (frmMessen_eingabe.cpp)
+    struct Sollwertfeld {
+        QLineEdit *box;
+        const Sollwertgrenze &grenze;
+        QString alt = {}; ///< what stood there when it got the keyboard
+    };
     void eingabenVerdrahten();
     void fnc_EingabeSperren();
     void fnc_MesswerteLeeren();
     bool fnc_DrehmomentPrüfen();
-    void fnc_DrehzahlPlus() { korrigieren(+0.1); }
-    void fnc_DrehzahlMinus() { korrigieren(-0.1); }
-    void korrigieren(double schritt);
+    void korrigieren(double schritt, bool taste);
     void korrFSetzen(double faktor);
-    void korrekturknopf(void (frmMessen::*richtung)());
-    void korrekturtaste(void (frmMessen::*richtung)());
     void korrekturErledigt();
     void werteVerwerfen();
     void fnc_FreieEingabe();
     void pbAusführen_Click();
-    void pbÜbernehmen_Click();
+    void neuMessen();
     void pbFreieEing_Click();
-    void pbDrehzNull_Click();
-    void cmbMessArt_Click();
     bool cmbMessArt_KeyPress(QKeyEvent &taste);
-    void cmbMessArt_Change();
-    void messArtZeigen(int art); // 1 power, 2 speed
-    void messArtSetzen(int art);
+    void messArtZeigen(int prüfart, const QString &wort);
     void ausführenFreigeben();
-    void aufAusführenWarten();
-    void sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenze, const Text &keineZahl,
-                        const Text &außerhalb);
-    bool freieEingabe() const;
+    void sollwertPrüfen(const Sollwertfeld &feld);
+    bool freieEingabe() const { return ui.laPrSchritt->text() == freierSchritt; }
     void txtIST_n_ergom_LostFocus();
     void ergometerFeldZeigen(bool zeigen);
-    void speichernFreigeben(const QLineEdit *geändert);
-    bool istLeistungsmessung() const;
-    bool istDrehzahlmessung() const;
+    void speichernFreigeben(Messbox geändert);
 
     /// Whose the values in the boxes are.
     enum class Werte {
         Fremde,     ///< they were measured under another set-point than the one shown
         Angefragte, ///< the set-point shown is on its way to the controller
         Eigene,     ///< the set-point shown is driven, and its stream has begun
+    };
+    /// What the buttons follow from.
+    struct Zustand {
+        bool vollständig = false;  ///< the step can be saved
+        bool ungesendet = false;   ///< the set-points shown wait to be carried out
+        bool korrigiert = false;   ///< the speed was corrected by a button
+        bool neuZuSenden = false;  ///< the speed was corrected by a key
+        bool schritteFrei = false; ///< a step was begun; others may be turned to
+        bool freiGewählt = false;  ///< free input was asked for
+        bool freiErlaubt = false;  ///< free input may be asked for
+        bool nullErlaubt = true;   ///< speed zero may be asked for
+        bool beendet = false;
     };
 
     Ui::frmMessen ui;
@@ -111,15 +105,15 @@ class frmMessen : public Screen, private Messanzeige, private Messfenster {
     Recordset dataMesswerte;
     SechsRundenEmpfang mEmpfang;
     Messansicht mAnsicht;
+    Zustand mZustand;
+    Werte mWerte = Werte::Fremde;
+    Sollwertfeld mDrehzahlfeld;
+    Sollwertfeld mLeistungsfeld;
 
     double mBasisDrehzahl = 0; ///< speed of the step before the correction factor, 1/min
     double mKorrF = 1;
     double mGesendeteKorrF = 1;
-    Werte mWerte = Werte::Fremde;
-    QString mAltSoll_n;
-    QString mAltSoll_P;
-    QString mTaste;
-    bool mTasteNeu = false;
+    int mMessArt = Prüfart::Keine; ///< of the word in txtMessArt
     bool mDrehzNull = false;
     bool mRezeptEnde = false;
     bool mDurchgangLäuft = false;

@@ -3,9 +3,7 @@
 
 #include <QKeyEvent>
 
-#include "measure/sollwert.h"
 #include "platform/runtime.h"
-#include "records/messwerte.h"
 #include "session/drehmoment.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -14,66 +12,44 @@
 
 using namespace platform;
 
-namespace {
-
-constexpr double höchsteDrehzahl = 130; // 1/min, of a set-point typed in
-constexpr double höchsteLeistung = 800; // W
-
-const Text leistungsmessung{"Leistungsmessung", "Power Measurement"};
-const Text drehzahlmessung{"Drehzahlmessung", "Speed Measurement"};
-
-bool isEither(const QString &text, const Text &words) {
-    return text == words.german || text == words.english;
-}
-
-} // namespace
-
 void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbAusführen, [this] { pbAusführen_Click(); });
-    onClick(ui.pbÜbernehmen, [this] { pbÜbernehmen_Click(); });
+    onClick(ui.pbÜbernehmen, [this] {
+        if (!fnc_DrehmomentPrüfen())
+            return;
+        korrekturErledigt();
+        neuMessen();
+    });
     onClick(ui.pbFreieEing, [this] { pbFreieEing_Click(); });
-    onClick(ui.pbDrehzNull, [this] { pbDrehzNull_Click(); });
-    onClick(ui.pbPlus, [this] { korrekturknopf(&frmMessen::fnc_DrehzahlPlus); });
-    onClick(ui.pbMinus, [this] { korrekturknopf(&frmMessen::fnc_DrehzahlMinus); });
+    onClick(ui.pbDrehzNull, [this] {
+        mZustand.nullErlaubt = false;
+        mDrehzNull = true;
+        pbFreieEing_Click();
+    });
+    onClick(ui.pbPlus, [this] { korrigieren(+0.1, false); });
+    onClick(ui.pbMinus, [this] { korrigieren(-0.1, false); });
 
-    onGotFocus(ui.txtSoll_n, [this] { mAltSoll_n = ui.txtSoll_n->text(); });
-    onGotFocus(ui.txtSoll_P, [this] { mAltSoll_P = ui.txtSoll_P->text(); });
     enterChain({ui.txtSoll_n, ui.txtSoll_P, ui.cmbMessArt});
-    onLostFocus(ui.txtSoll_n, [this] {
-        sollwertPrüfen(ui.txtSoll_n, mAltSoll_n, höchsteDrehzahl,
-                       {"Drehzahl muss ein nummerischer Wert sein!",
-                        "Number of revolutions must be a numeric value!"},
-                       drehzahlAußerhalb);
-    });
-    onLostFocus(ui.txtSoll_P, [this] {
-        sollwertPrüfen(
-            ui.txtSoll_P, mAltSoll_P, höchsteLeistung,
-            {"Leistung muss ein nummerischer Wert sein!", "Power must be a numeric value!"},
-            {"Leistung liegt außerhalb des gültigen Bereiches",
-             "Permissible power has been exeeded!"});
-    });
+    mDrehzahlfeld.box = ui.txtSoll_n;
+    mLeistungsfeld.box = ui.txtSoll_P;
+    for (Sollwertfeld *feld : {&mDrehzahlfeld, &mLeistungsfeld}) {
+        onGotFocus(feld->box, [feld] { feld->alt = feld->box->text(); });
+        onLostFocus(feld->box, [this, feld] { sollwertPrüfen(*feld); });
+        on(feld->box, &QLineEdit::textChanged, [this] { ausführenFreigeben(); });
+    }
     onKey(ui.txtSoll_n, [this](QKeyEvent &taste) {
-        if (taste.text() == "+")
-            korrekturtaste(&frmMessen::fnc_DrehzahlPlus);
-        else if (taste.text() == "-")
-            korrekturtaste(&frmMessen::fnc_DrehzahlMinus);
-        else
+        const bool plus = taste.text() == "+";
+        if (!plus && taste.text() != "-")
             return false;
+        korrigieren(plus ? +0.1 : -0.1, true);
         return true;
     });
 
-    for (QLineEdit *box : {ui.txtSoll_n, ui.txtSoll_P}) {
-        on(box, &QLineEdit::textChanged, [this] {
-            if (freieEingabe())
-                ausführenFreigeben();
-        });
-    }
-
-    on(ui.cmbMessArt, &QComboBox::editTextChanged, [this] {
-        if (freieEingabe())
-            ausführenFreigeben();
+    on(ui.cmbMessArt, &QComboBox::editTextChanged, [this] { ausführenFreigeben(); });
+    on(ui.cmbMessArt, &QComboBox::activated, [this] {
+        messArtZeigen(ui.cmbMessArt->currentIndex() + 1, ui.cmbMessArt->currentText());
+        ergometerFeldZeigen(mMessArt == Prüfart::Drehzahl);
     });
-    on(ui.cmbMessArt, &QComboBox::activated, [this] { cmbMessArt_Click(); });
     onKey(ui.cmbMessArt, [this](QKeyEvent &taste) { return cmbMessArt_KeyPress(taste); });
     onEnter(ui.cmbMessArt, [this] {
         if (ui.pbAusführen->isEnabled())
@@ -85,9 +61,11 @@ void frmMessen::eingabenVerdrahten() {
             ui.pbSpeichern->setFocus();
     });
     onLostFocus(ui.txtIST_n_ergom, [this] { txtIST_n_ergom_LostFocus(); });
-    for (QLineEdit *box :
-         {ui.txtIST_n_torvena, ui.txtIST_D_torvena, ui.txtIST_P_torvena, ui.txtIST_n_ergom})
-        on(box, &QLineEdit::textChanged, [this, box] { speichernFreigeben(box); });
+    for (const auto &[box, name] : {std::pair{ui.txtIST_n_torvena, Messbox::n_torvena},
+                                    {ui.txtIST_D_torvena, Messbox::D_torvena},
+                                    {ui.txtIST_P_torvena, Messbox::P_torvena},
+                                    {ui.txtIST_n_ergom, Messbox::n_ergom}})
+        on(box, &QLineEdit::textChanged, [this, name = name] { speichernFreigeben(name); });
 }
 
 void frmMessen::fnc_EingabeSperren() {
@@ -95,18 +73,17 @@ void frmMessen::fnc_EingabeSperren() {
     setFreeInput(ui.txtSoll_P, false);
     ui.cmbMessArt->hide();
     ui.txtMessArt->show();
-    ui.pbAusführen->setEnabled(false);
-    setWaiting(ui.pbAusführen, false);
+    mZustand.ungesendet = false;
+    zustandZeigen();
 }
 
 void frmMessen::fnc_MesswerteLeeren() {
-    ui.txtIST_n_torvena->clear();
-    ui.txtIST_D_torvena->clear();
-    ui.txtIST_P_torvena->clear();
-    ui.txtIST_n_ergom->clear();
+    for (QLineEdit *box :
+         {ui.txtIST_n_torvena, ui.txtIST_D_torvena, ui.txtIST_P_torvena, ui.txtIST_n_ergom})
+        box->clear();
     ui.lblMessSchritte->clear();
-    ui.pbSpeichern->setEnabled(false);
-    setWaiting(ui.pbSpeichern, false);
+    mZustand.vollständig = false;
+    zustandZeigen();
 }
 
 bool frmMessen::fnc_DrehmomentPrüfen() {
@@ -120,12 +97,17 @@ bool frmMessen::fnc_DrehmomentPrüfen() {
     return false;
 }
 
-void frmMessen::korrigieren(double schritt) {
+// A key gives no button to take the speed over with: on a step of the recipe the step is sent anew.
+void frmMessen::korrigieren(double schritt, bool taste) {
     const double neu = ValBeider(ui.txtSoll_n->text()) + schritt;
     if (mBasisDrehzahl != 0 && !freieEingabe()) // the factor is one of the steps of the recipe
         korrFSetzen(neu / mBasisDrehzahl);
     ui.txtSoll_n->setText(CStr(neu));
+    mZustand.korrigiert |= !taste;
+    mZustand.neuZuSenden |= taste && !freieEingabe();
     werteVerwerfen();
+    if (!taste)
+        ui.pbÜbernehmen->setFocus();
 }
 
 void frmMessen::korrFSetzen(double faktor) {
@@ -133,102 +115,66 @@ void frmMessen::korrFSetzen(double faktor) {
     ui.laKorrF->setText(Format(mKorrF, "0.0000"));
 }
 
-void frmMessen::korrekturknopf(void (frmMessen::*richtung)()) {
-    (this->*richtung)();
-    ui.pbÜbernehmen->setEnabled(true);
-    setWaiting(ui.pbÜbernehmen, true);
-    ui.pbÜbernehmen->setFocus();
-}
-
-// A key gives no button to take the speed over with: on a step of the recipe the step is sent anew.
-void frmMessen::korrekturtaste(void (frmMessen::*richtung)()) {
-    (this->*richtung)();
-    if (freieEingabe())
-        return;
-    ui.pbMessen->setEnabled(true);
-    setWaiting(ui.pbMessen, true);
-}
-
 // What was corrected is being sent, or has given way to another step.
 void frmMessen::korrekturErledigt() {
-    ui.pbÜbernehmen->setEnabled(false);
-    setWaiting(ui.pbÜbernehmen, false);
-    setWaiting(ui.pbMessen, false);
+    mZustand.korrigiert = mZustand.neuZuSenden = false;
+    zustandZeigen();
 }
 
 // Everything that changes the set-point comes by here: what was measured is of another one.
 void frmMessen::werteVerwerfen() {
     mWerte = Werte::Fremde;
-    ui.pbSpeichern->setEnabled(false);
-    setWaiting(ui.pbSpeichern, false);
+    mZustand.vollständig = false;
+    zustandZeigen();
 }
 
 void frmMessen::pbAusführen_Click() {
     if (!fnc_DrehmomentPrüfen())
         return;
-    gMessStatus = Messstatus::Messen;
-    fnc_EingabeSperren();
-    ergometerFeldZeigen(!istLeistungsmessung());
-    if (istDrehzahlmessung() && mAnsicht.bedient)
+    ergometerFeldZeigen(mMessArt != Prüfart::Leistung);
+    if (mMessArt == Prüfart::Drehzahl)
         ui.txtIST_n_ergom->setFocus();
-    form(frm::Meldung).show();
+    neuMessen();
 }
 
-void frmMessen::pbÜbernehmen_Click() {
-    if (!fnc_DrehmomentPrüfen())
-        return;
+// The notice closes, and the pass begins.
+void frmMessen::neuMessen() {
     gMessStatus = Messstatus::Messen;
     fnc_EingabeSperren();
-    korrekturErledigt();
     form(frm::Meldung).show();
 }
 
 void frmMessen::pbFreieEing_Click() {
+    mZustand.ungesendet = mZustand.freiErlaubt = false;
+    mZustand.freiGewählt = true;
     werteVerwerfen();
     korrekturErledigt();
-    setWaiting(ui.pbAusführen, false);
-    for (QPushButton *button : {ui.pbAusführen, ui.pbFreieEing, ui.pbPlus, ui.pbMinus})
-        button->setEnabled(false);
     if (gMessenFreigabe)
         gMessStatus = Messstatus::FreieEingabe;
     else
         fnc_FreieEingabe();
-    if (!mDrehzNull && !ui.pbDrehzNull->isEnabled())
-        ui.pbDrehzNull->setEnabled(true);
-}
-
-void frmMessen::pbDrehzNull_Click() {
-    ui.pbDrehzNull->setEnabled(false);
-    mDrehzNull = true;
-    pbFreieEing_Click();
+    mZustand.nullErlaubt |= !mDrehzNull;
+    zustandZeigen();
 }
 
 void frmMessen::fnc_FreieEingabe() {
     ui.laPrSchritt->setText(freierSchritt);
-    setFreeInput(ui.txtSoll_n, true);
-    setFreeInput(ui.txtSoll_P, true);
     ui.txtMessArt->hide();
     ui.cmbMessArt->show();
+    for (Sollwertfeld *feld : {&mDrehzahlfeld, &mLeistungsfeld}) {
+        setFreeInput(feld->box, true);
+        feld->box->setText(mDrehzNull ? "0" : "");
+        feld->alt = feld->box->text();
+    }
     if (!mDrehzNull) {
-        ui.txtSoll_n->clear();
-        ui.txtSoll_P->clear();
-        mAltSoll_n = mAltSoll_P = QString();
         ui.cmbMessArt->setEditText({});
         ui.txtSoll_n->setFocus();
         return;
     }
-    ui.txtSoll_n->setText("0");
-    ui.txtSoll_P->setText("0");
-    mAltSoll_n = mAltSoll_P = "0";
-    ui.cmbMessArt->setEditText(leistungsmessung.german); // in both languages
-    ui.txtMessArt->setText(leistungsmessung.german);
+    messArtZeigen(Prüfart::Leistung, Prüfart::leistungText.german); // in both languages
+    ui.cmbMessArt->setEditText(ui.txtMessArt->text());
     pbAusführen_Click();
     mDrehzNull = false;
-}
-
-void frmMessen::cmbMessArt_Click() {
-    ui.txtMessArt->setText(ui.cmbMessArt->currentText());
-    ergometerFeldZeigen(istDrehzahlmessung());
 }
 
 bool frmMessen::cmbMessArt_KeyPress(QKeyEvent &taste) {
@@ -239,77 +185,39 @@ bool frmMessen::cmbMessArt_KeyPress(QKeyEvent &taste) {
         taste.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier);
     if (enter || befehl || (!zeichen && !löschen))
         return false;
-    mTaste = zeichen ? taste.text().toUpper() : QString();
-    mTasteNeu = true;
-    cmbMessArt_Change();
+    const auto wort = zeichen ? Prüfart::ausTaste(taste.text()) : std::nullopt;
+    if (wort)
+        messArtZeigen(Prüfart::ausText(*wort), *wort);
+    else if (zeichen)
+        beep();
+    ui.cmbMessArt->setEditText(wort.value_or(QString()));
     return true;
 }
 
-void frmMessen::cmbMessArt_Change() {
-    if (mTasteNeu) {
-        const bool deutsch = gSprache == 1;
-        if (mTaste == (deutsch ? "D" : "S") || mTaste == "2") {
-            messArtSetzen(2);
-        } else if (mTaste == (deutsch ? "L" : "P") || mTaste == "1") {
-            messArtSetzen(1);
-        } else {
-            if (!mTaste.isEmpty())
-                beep();
-            ui.cmbMessArt->setEditText({});
-        }
-        mTaste.clear();
-        mTasteNeu = false;
-    }
-}
-
-void frmMessen::messArtZeigen(int art) {
-    ui.txtMessArt->setText(inSprache(art == 1 ? leistungsmessung : drehzahlmessung));
-}
-
-void frmMessen::messArtSetzen(int art) {
-    messArtZeigen(art);
-    ui.cmbMessArt->setEditText(ui.txtMessArt->text());
+void frmMessen::messArtZeigen(int prüfart, const QString &wort) {
+    mMessArt = prüfart;
+    ui.txtMessArt->setText(wort);
 }
 
 // In free input: the button follows from the three fields.
 void frmMessen::ausführenFreigeben() {
-    const bool voll = !ui.txtSoll_n->text().isEmpty() && !ui.txtSoll_P->text().isEmpty() &&
-                      !ui.cmbMessArt->currentText().isEmpty();
-    if (voll) {
-        aufAusführenWarten();
+    if (!freieEingabe())
         return;
-    }
-    ui.pbAusführen->setEnabled(false);
-    setWaiting(ui.pbAusführen, false);
+    mZustand.ungesendet = !ui.txtSoll_n->text().isEmpty() && !ui.txtSoll_P->text().isEmpty() &&
+                          !ui.cmbMessArt->currentText().isEmpty();
     werteVerwerfen();
 }
 
-// The set-points shown have not been sent.
-void frmMessen::aufAusführenWarten() {
-    ui.pbAusführen->setEnabled(true);
-    setWaiting(ui.pbAusführen, true);
-    werteVerwerfen();
-}
-
-bool frmMessen::freieEingabe() const {
-    return ui.laPrSchritt->text() == freierSchritt;
-}
-
-void frmMessen::sollwertPrüfen(QLineEdit *box, QString &alterWert, double grenze,
-                               const Text &keineZahl, const Text &außerhalb) {
-    if (box->text().isEmpty() || !freieEingabe())
+void frmMessen::sollwertPrüfen(const Sollwertfeld &feld) {
+    if (feld.box->text().isEmpty() || !freieEingabe())
         return; // on a step of the recipe the pass alone sets the limit
-    const Text *mangel = nullptr;
-    if (!IsNumeric(box->text()))
-        mangel = &keineZahl;
-    else if (CDbl(box->text()) < 0 || CDbl(box->text()) > grenze)
-        mangel = &außerhalb;
+    const Text *mangel = feld.grenze.mangel(feld.box->text());
     if (!mangel)
         return;
-    const QString gut = alterWert;
+    const QString gut = feld.alt;
     meldung(*mangel, Critical, {"Eingabefehler", "Input Error"});
-    box->setText(gut);
-    box->setFocus();
+    feld.box->setText(gut);
+    feld.box->setFocus();
 }
 
 void frmMessen::txtIST_n_ergom_LostFocus() {
@@ -322,14 +230,6 @@ void frmMessen::txtIST_n_ergom_LostFocus() {
     ui.txtIST_n_ergom->setFocus();
 }
 
-bool frmMessen::istLeistungsmessung() const {
-    return isEither(ui.txtMessArt->text(), leistungsmessung);
-}
-
-bool frmMessen::istDrehzahlmessung() const {
-    return isEither(ui.txtMessArt->text(), drehzahlmessung);
-}
-
 void frmMessen::ergometerFeldZeigen(bool zeigen) {
     ui.lbIST_n_ergom->setVisible(zeigen);
     ui.txtIST_n_ergom->setVisible(zeigen);
@@ -337,40 +237,18 @@ void frmMessen::ergometerFeldZeigen(bool zeigen) {
 }
 
 void frmMessen::meldungGeschlossen() {
-    ergometerFeldZeigen(istDrehzahlmessung());
-    if (istDrehzahlmessung())
+    ergometerFeldZeigen(mMessArt == Prüfart::Drehzahl);
+    if (mMessArt == Prüfart::Drehzahl)
         ui.txtIST_n_ergom->setFocus();
 }
 
-// When pbSpeichern may be pressed: as soon as every box that the step needs holds a value that was
-// measured under the set-points shown.
-void frmMessen::speichernFreigeben(const QLineEdit *geändert) {
-    const bool leistung = istLeistungsmessung();
-    if (!leistung && !istDrehzahlmessung())
+void frmMessen::speichernFreigeben(Messbox geändert) {
+    const Speichern regel =
+        speichernRegel(geändert, texte(), mAnsicht.bedient, mWerte == Werte::Eigene);
+    if (regel == Speichern::Bleibt)
         return;
-    const bool bedient = mAnsicht.bedient;
-    const bool ergometer = geändert == ui.txtIST_n_ergom;
-    bool voll = !ui.txtIST_n_torvena->text().isEmpty() && !ui.txtIST_D_torvena->text().isEmpty() &&
-                !ui.txtIST_P_torvena->text().isEmpty();
-    if (!leistung)
-        voll = voll && !ui.txtIST_n_ergom->text().isEmpty();
-    if (!voll) {
-        if (leistung && ergometer && !bedient)
-            return;
-        ui.pbSpeichern->setEnabled(false);
-        setWaiting(ui.pbSpeichern, false);
-        return;
-    }
-    if (mWerte != Werte::Eigene) {
-        ui.pbSpeichern->setEnabled(false);
-        setWaiting(ui.pbSpeichern, false);
-        return;
-    }
-    const bool drehmomentBox = geändert == ui.txtIST_D_torvena;
-    if (bedient || (!leistung && !drehmomentBox)) {
-        ui.pbSpeichern->setEnabled(true);
-        setWaiting(ui.pbSpeichern, true);
-    }
-    if (leistung && !drehmomentBox && ui.pbSpeichern->isEnabled())
+    mZustand.vollständig = regel != Speichern::Aus;
+    zustandZeigen();
+    if (regel == Speichern::EinMitTastatur)
         ui.pbSpeichern->setFocus();
 }

@@ -4,10 +4,7 @@
 #include <QScopeGuard>
 
 #include "link/controller.h"
-#include "measure/sollwert.h"
-#include "platform/fehler.h"
 #include "platform/runtime.h"
-#include "records/messwerte.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
@@ -16,7 +13,6 @@ using namespace platform;
 
 namespace {
 constexpr long sehrKurzeVerzögerung = 10'000; // counted rounds, 0.5 ms
-constexpr double höchsterSollwert = 143;      // 1/min: 130 and 10 % for the correction
 } // namespace
 
 // A pass that is asked for while another waits for the stream does not run inside it. The older
@@ -30,16 +26,11 @@ void frmMessen::fnc_Messzyklus() {
     const auto vorbei = qScopeGuard([this] { mDurchgangLäuft = false; });
     do {
         mNeuerDurchgang = false;
-        try {
-            durchgang();
-        } catch (const Fehler &fehler) {
-            gMessenFreigabe = false;
-            fehlerBox("3014 - ", fehler);
-        }
+        durchgang();
     } while (mNeuerDurchgang && !unloaded());
 }
 
-void frmMessen::durchgang() {
+void frmMessen::durchgang() try {
     // Set-points that are still being typed are nothing to measure.
     const bool offen = freieEingabe() && !ui.txtSoll_n->isReadOnly();
     if (gMessStatus == Messstatus::Messen && !offen) {
@@ -49,16 +40,22 @@ void frmMessen::durchgang() {
             fnc_PrüfschrittAnzeigen();
         fnc_EingabeSperren();
         korrekturErledigt();
-        fokusSetzen();
+        // The keyboard waits where the step wants something: the reading of the ergometer, or
+        // nothing until pbSpeichern takes it, but not on a button that moves to another step.
+        if (mMessArt == Prüfart::Drehzahl && mAnsicht.bedient)
+            ui.txtIST_n_ergom->setFocus();
+        else
+            ui.DBGrid1->setFocus();
         mWerte = Werte::Angefragte;
-        if (!sollwertZulässig()) {
+        const double drehzahl = ValBeider(ui.txtSoll_n->text());
+        if (drehzahl < 0 || drehzahl > höchsterSollwert) {
             sollwertAblehnen();
         } else if (fnc_SollwertSenden()) {
             countedDelay(sehrKurzeVerzögerung);
             fnc_SechsRundenStarten();
             countedDelay(sehrKurzeVerzögerung);
-            if (mAnsicht.bedient)
-                fnc_NavigationFreigeben();
+            mZustand.schritteFrei = true;
+            zustandZeigen();
             if (mWerte == Werte::Angefragte) // nothing was changed meanwhile
                 mWerte = Werte::Eigene;
             mEmpfang.fnc_SechsRundenEmpfang(*this);
@@ -67,12 +64,11 @@ void frmMessen::durchgang() {
             return;
     }
     gMessenFreigabe = false;
-    try {
-        datenstromBeenden();
-    } catch (const Fehler &fehler) {
-        fehlerBox("3014 - ", fehler); // what was asked for goes on
-    }
+    gefangen("3014 - ", datenstromBeenden)(); // what was asked for goes on
     verteilen();
+} catch (const Fehler &fehler) {
+    gMessenFreigabe = false;
+    fehlerBox("3014 - ", fehler);
 }
 
 void frmMessen::verteilen() {
@@ -82,12 +78,7 @@ void frmMessen::verteilen() {
         fnc_MesswerteLeeren();
         fnc_FreieEingabe();
         break;
-    case Messstatus::Ende:
-        gMessenFreigabe = false;
-        motorAbschalten();
-        break;
     case Messstatus::Verweigert:
-        gMessenFreigabe = false;
         meldung({"Fehler im Gerät oder in der Kommunikation",
                  "Error in the unit under test, or communication error"},
                 Critical, {"Fehler", "Error"});
@@ -95,83 +86,51 @@ void frmMessen::verteilen() {
         break;
     case Messstatus::MotorAus:
         gMessStatus = Messstatus::Ruhe;
-        motorAbschalten();
+        [[fallthrough]];
+    case Messstatus::Ende:
+        if (!fnc_BefehlSenden("E", gDrehrichtung, "00"))
+            meldung({"Fehler", "Error"}, Critical, {"Motor aus", "Motor Off"});
         break;
     default:
         break;
     }
 }
 
-void frmMessen::motorAbschalten() {
-    if (!fnc_BefehlSenden("E", gDrehrichtung, "00"))
-        meldung({"Fehler", "Error"}, Critical, {"Motor aus", "Motor Off"});
-}
-
-bool frmMessen::sollwertZulässig() const {
-    const double drehzahl = ValBeider(ui.txtSoll_n->text());
-    return drehzahl >= 0 && drehzahl <= höchsterSollwert;
-}
-
 // Nothing goes out and the shaft turns on as it does; another speed or another step leads on.
 void frmMessen::sollwertAblehnen() {
-    meldung(drehzahlAußerhalb, Critical, {"Eingabefehler", "Input Error"});
+    meldung(drehzahlgrenze.außerhalb, Critical, {"Eingabefehler", "Input Error"});
+    mZustand.schritteFrei = mZustand.freiErlaubt = true;
+    mZustand.freiGewählt = freieEingabe();
     werteVerwerfen();
     gMessStatus = Messstatus::Ruhe;
-    fnc_NavigationFreigeben();
-    ui.pbFreieEing->setEnabled(true);
-    ui.pbAbbrechen->setEnabled(true);
     if (freieEingabe())
         return;
     korrFSetzen(mGesendeteKorrF);
     ui.txtSoll_n->setText(Format(mBasisDrehzahl * mKorrF, "0.0"));
-    ui.pbPlus->setEnabled(true);
-    ui.pbMinus->setEnabled(true);
     ui.pbMinus->setFocus();
 }
 
 bool frmMessen::fnc_SollwertSenden() {
     messablauf().vorSollwert(dataRezept);
     const double korrF = freieEingabe() ? mGesendeteKorrF : mKorrF;
-    if (fnc_BefehlSenden("E", gDrehrichtung, ui.txtSoll_n->text())) {
+    const bool gesendet = fnc_BefehlSenden("E", gDrehrichtung, ui.txtSoll_n->text());
+    if (gesendet)
         mGesendeteKorrF = korrF;
-        ui.pbAbbrechen->setEnabled(true);
-        if (mAnsicht.bedient)
-            ui.pbFreieEing->setEnabled(true);
-        return true;
-    }
-    meldung({"Fehler", "Error"}, Critical, {"Motor ein", "Motor On"});
-    ui.pbFreieEing->setEnabled(false);
-    gMessStatus = Messstatus::Verweigert;
-    return false;
-}
-
-// The keyboard waits where the step wants something: the reading of the ergometer, or nothing until
-// pbSpeichern takes it. Left to the toolkit it would fall on a button that moves to another step.
-void frmMessen::fokusSetzen() {
-    if (istDrehzahlmessung() && mAnsicht.bedient)
-        ui.txtIST_n_ergom->setFocus();
     else
-        ui.DBGrid1->setFocus();
+        meldung({"Fehler", "Error"}, Critical, {"Motor ein", "Motor On"});
+    mZustand.freiErlaubt = gesendet;
+    zustandZeigen();
+    if (!gesendet)
+        gMessStatus = Messstatus::Verweigert;
+    return gesendet;
 }
 
-void frmMessen::fnc_NavigationFreigeben() {
-    for (QPushButton *button : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast, ui.pbMessen})
-        button->setEnabled(true);
-}
-
-void frmMessen::zeigeDrehzahl(double drehzahl) {
-    ui.txtIST_n_torvena->setText(Format(drehzahl, "0.00"));
-}
-
-void frmMessen::zeigeDrehmoment(double drehmoment) {
-    ui.txtIST_D_torvena->setText(Format(drehmoment, "0.00"));
-}
-
-void frmMessen::zeigeLeistung(double leistung) {
-    ui.txtIST_P_torvena->setText(Format(leistung, "0.00"));
-}
-
-void frmMessen::rahmenFertig() {
-    if (mWerte == Werte::Eigene)
+void frmMessen::zeige(SechsRundenDecoder::Ereignis was, double wert) {
+    using Ereignis = SechsRundenDecoder::Ereignis;
+    QLineEdit *box = was == Ereignis::Drehzahl     ? ui.txtIST_n_torvena
+                     : was == Ereignis::Drehmoment ? ui.txtIST_D_torvena
+                                                   : ui.txtIST_P_torvena;
+    box->setText(Format(wert, "0.00"));
+    if (was == Ereignis::Leistung && mWerte == Werte::Eigene)
         messablauf().nachRahmen(*this);
 }

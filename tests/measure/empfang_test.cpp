@@ -10,22 +10,23 @@ const QByteArray frame = QByteArray::fromHex("ffff17700bb8004650"); // 60.00, 30
 class Reception : public support::ScriptTest, protected Messanzeige {
   protected:
     Reception() { MSComm1.setPortOpen(true); }
-    void zeigeDrehzahl(double value) override { show("n", value); }
-    void zeigeDrehmoment(double value) override { show("D", value); }
-    void zeigeLeistung(double value) override { show("P", value); }
-    void rahmenFertig() override { show("frame", 0); }
-    bool abgelöst() const override { return superseded; }
-
-    void show(const QString &what, double value) {
-        shown += what + QString::number(value) + ' ';
-        if (what == endsAt)
+    void zeige(SechsRundenDecoder::Ereignis what, double value) override {
+        using Ereignis = SechsRundenDecoder::Ereignis;
+        const QString name = what == Ereignis::Drehzahl     ? "n"
+                             : what == Ereignis::Drehmoment ? "D"
+                             : what == Ereignis::Leistung   ? "P"
+                                                            : "?";
+        shown += name + QString::number(value) + ' ';
+        if (name == endsAt)
             gMessStatus = Messstatus::Speichern;
     }
+    bool abgelöst() const override { return superseded; }
+
     void receive() { reception.fnc_SechsRundenEmpfang(*this); }
 
     SechsRundenEmpfang reception;
     QString shown;
-    QString endsAt = "frame"; // the value that makes a person save
+    QString endsAt = "P"; // the value that makes a person save
     bool superseded = false;
 };
 
@@ -34,7 +35,7 @@ TEST_F(Reception, ShowsEachValueAsItComes) {
     clock.run(50);
     arrive({frame.left(4), frame.mid(4) + frame}, 100);
     receive();
-    EXPECT_EQ(shown, "n60 D30 P180 frame0 ") << "nothing behind the end";
+    EXPECT_EQ(shown, "n60 D30 P180 ") << "nothing behind the end";
 
     gMessStatus = Messstatus::Messen;
     shown.clear();
@@ -71,7 +72,7 @@ TEST_F(Reception, AFrameThatDoesNotEndIsReportedAndTheReceptionGoesOn) {
     clock.after(40'000, [] { gMessStatus = Messstatus::Ende; });
     receive();
     EXPECT_TRUE(gStopMessung);
-    EXPECT_TRUE(shown.endsWith("n60 D30 P180 frame0 ")) << shown;
+    EXPECT_TRUE(shown.endsWith("n60 D30 P180 ")) << shown;
 }
 
 TEST_F(Reception, TimeOutsAndALostLineAreTold) {
