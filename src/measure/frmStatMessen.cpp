@@ -1,28 +1,17 @@
 #include "measure/frmStatMessen.h"
 
-#include <utility>
-
 #include "link/controller.h"
 #include "link/einlauf.h"
 #include "measure/frmNachStatNPK.h"
+#include "measure/statikempfang.h"
 #include "measure/statikwerte.h"
 #include "platform/runtime.h"
 #include "session/motorfenster.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "store/database.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
-
-bool gErgebnis = false;
-double gOffsetRoh = 0;
-double gGainRoh = 0;
-double gOffsetSoll = 0;
-double gGainSoll = 0;
-double gMomentFaktor = 0;
-double gOffsetDiff = 0;
-double gGainDiff = 0;
 
 namespace {
 
@@ -39,12 +28,7 @@ constexpr Beschriftung english[] = {
     {"pbAbbrechen", "&Abort"},
 };
 
-constexpr int streamMilliseconds = 15'000;
 constexpr long weiterVerzögerung = 1'000'000; // counted rounds
-
-StatikSoll sollwerte() {
-    return {gOffsetSoll, gGainSoll, gMomentFaktor};
-}
 
 } // namespace
 
@@ -61,12 +45,10 @@ void frmStatMessen::Form_Load() try {
     setFocus();
     beschriftungenSetzen(ui, *this, english);
     ui.txtOffset1->setText(Format(0, "0.000"));
-    Recordset normal = gDatenbank.open("SELECT * FROM Normalkalibrierdaten ORDER BY NK_ID");
-    normal.moveLast();
-    const bool rechts = gDrehrichtung == 1;
-    gOffsetSoll = normal["Offset"].requiredNumber();
-    gGainSoll = normal[rechts ? "Gain_R" : "Gain_L"].requiredNumber();
-    gMomentFaktor = normal[rechts ? "VK1_R" : "VK1_L"].requiredNumber();
+    const StatikSoll soll = statikSollLesen(gDrehrichtung == 1);
+    gOffsetSoll = soll.offset;
+    gGainSoll = soll.gain;
+    gMomentFaktor = soll.momentFaktor;
     mSollGelesen = true;
 } catch (const Fehler &fehler) {
     fehlerBox("4040 - ", fehler);
@@ -139,61 +121,29 @@ void frmStatMessen::fnc_StatMessen() {
     gMessStatus = Messstatus::Verweigert;
 }
 
-bool frmStatMessen::mittelwertEmpfangen(std::uint8_t code, double &mittel) {
+bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
     const bool offset = code == codeOffset;
-    countedDelay(kurzeVerzögerung);
-    Timer1.setEnabled(false);
-    Timer1.setInterval(streamMilliseconds);
-    gTimeoutTimer1 = false;
-    Timer1.setEnabled(true);
-    MSComm1.discardInput();
     showInfo(inSprache(offset ? Text{"Offset messen", "Measure Offset"}
                               : Text{"Gain messen", "Measure Gain"}));
-    MSComm1.Output(offset ? "f" : "t");
-    countedDelay(kurzeVerzögerung);
-
-    StatikDecoder decoder(code);
-    StatikMittel mean;
-    while (!mean.done() && !gTimeoutTimer1 && gDesktopAktiv && !unloaded()) {
-        pump();
-        if (unloaded() || MSComm1.InBufferCount() == 0)
-            continue;
-        for (const char byte : MSComm1.Input()) {
-            if (!decoder.feed(static_cast<std::uint8_t>(byte)))
-                continue;
-            mean.add(decoder.value());
-            if (mean.counted() > 0)
-                showInfo(QString::number(mean.counted()) +
-                         inSprache({" Messwerte", " Measuring Values"}));
-            if (mean.done())
-                break;
-        }
-    }
-    mittel = mean.mean();
-    return mean.done();
-}
-
-bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
-    double mittel = 0;
-    const bool empfangen = mittelwertEmpfangen(code, mittel);
-    Timer1.setEnabled(false);
-    if (std::exchange(gTimeoutTimer1, false) && !empfangen && !unloaded()) {
-        meldung({"Nach 15 Sek kein Empfang", "No reception after 15 sec!"}, Exclamation,
-                {"Meldung", "Message"});
-    }
-    datenstromBeenden();
-    if (!empfangen || unloaded())
+    const auto werte = statikEmpfangen(
+        {code},
+        [this](int anzahl) {
+            showInfo(QString::number(anzahl) + inSprache({" Messwerte", " Measuring Values"}));
+        },
+        [this] { return unloaded(); });
+    if (!werte)
         return false;
-    if (code == codeOffset) {
-        gOffsetRoh = mittel;
-        const StatikErgebnis ergebnis = offsetErgebnis(gOffsetRoh, sollwerte());
+    const StatikSoll soll{gOffsetSoll, gGainSoll, gMomentFaktor};
+    if (offset) {
+        gOffsetRoh = mittelwert(*werte);
+        const StatikErgebnis ergebnis = offsetErgebnis(gOffsetRoh, soll);
         ui.txtOffset2->setText(Format(ergebnis.drift, "0.000"));
         ui.lblOffsetDiff->setText(Format(ergebnis.drift, "0.000"));
         gOffsetDiff = ergebnis.drift * 1000;
         ui.AnzWert_O->setBalken(driftBalken(gOffsetDiff));
     } else {
-        gGainRoh = mittel;
-        const StatikErgebnis ergebnis = gainErgebnis(gGainRoh, gOffsetRoh, sollwerte());
+        gGainRoh = mittelwert(*werte);
+        const StatikErgebnis ergebnis = gainErgebnis(gGainRoh, gOffsetRoh, soll);
         ui.txtGain1->setText(Format(ergebnis.soll, "0.000"));
         ui.txtGain2->setText(Format(ergebnis.ist, "0.000"));
         ui.lblGainDiff->setText(Format(ergebnis.drift, "0.000"));
@@ -202,8 +152,6 @@ bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
     }
     return true;
 } catch (const Fehler &fehler) {
-    Timer1.setEnabled(false);
-    gTimeoutTimer1 = false;
     fehlerBox("4002 - ", fehler);
     return false;
 }

@@ -23,7 +23,6 @@ class frmStatMessen : public Screen {
     void fnc_StatVorbereiten();
     void fnc_StatMessen();
     bool fnc_Messung(std::uint8_t code);
-    bool mittelwertEmpfangen(std::uint8_t code, double &mittel);
     void fnc_StatAbschluss();
     void fnc_StatSchreiben();
     void pbWeiter_Click();

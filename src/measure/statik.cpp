@@ -61,13 +61,6 @@ bool StatikDecoder::feed(std::uint8_t byte) {
     return false;
 }
 
-void StatikMittel::add(double value) {
-    if (done())
-        return;
-    if (++mCount > verworfen)
-        mSum += value;
-}
-
 StatikErgebnis offsetErgebnis(double offsetRoh, const StatikSoll &soll) {
     const double drift = (offsetRoh - soll.offset) / rawPerUnit * soll.momentFaktor;
     return {0, drift, drift};
@@ -85,11 +78,10 @@ bool statikZulässig(double offsetDrift, double gainDrift) {
     return within(offsetDrift) && within(gainDrift);
 }
 
-DriftBalken driftBalken(double drift) {
+DriftBalken driftBalken(double drift, double rotAb, bool ganz) {
     const double shown = Round(drift, 6);
-    const int width = static_cast<int>(std::fabs(Int(shown * balkenJeMNm)));
-    return {shown >= 0 ? balkenMitte : balkenMitte - width, width,
-            std::fabs(shown) >= statikWarnung};
+    const double width = std::fabs(ganz ? Int(shown * balkenJeMNm) : shown * balkenJeMNm);
+    return {shown >= 0 ? balkenMitte : balkenMitte - width, width, std::fabs(shown) >= rotAb};
 }
 
 QByteArray offsetBefehl(double offsetRoh) {

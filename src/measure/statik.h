@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "records/normal.h"
+
 inline constexpr std::uint8_t codeOffset = 250;
 inline constexpr std::uint8_t codeGain = 253;
 
@@ -28,30 +30,6 @@ class StatikDecoder {
     double mValue = 0;
 };
 
-/// Drops the samples during which the reading settles and averages the ones behind them.
-class StatikMittel {
-  public:
-    static constexpr int verworfen = 150;
-    static constexpr int gemittelt = 25;
-
-    void add(double value);
-    bool done() const { return mCount >= verworfen + gemittelt; }
-    /// Samples behind the dropped ones; negative while samples are dropped.
-    int counted() const { return mCount - verworfen; }
-    double mean() const { return mSum / gemittelt; }
-
-  private:
-    int mCount = 0;
-    double mSum = 0;
-};
-
-/// The working standard's own values, from its calibration data.
-struct StatikSoll {
-    double offset = 0;       ///< raw
-    double gain = 0;         ///< raw, of the direction of rotation
-    double momentFaktor = 0; ///< 50 raw units make this many N m
-};
-
 /// All in N m: the torque of a raw value is raw / 50 × moment factor.
 struct StatikErgebnis {
     double soll = 0;
@@ -67,13 +45,14 @@ bool statikZulässig(double offsetDrift, double gainDrift); // mN m
 
 /// The bar of a drift on the scale from -300 to 300 mN m: 12 units a mN m around 3720.
 struct DriftBalken {
-    int links = 0;
-    int breite = 0;
+    double links = 0;
+    double breite = 0;
     bool rot = false;
 };
 inline constexpr int balkenMitte = 3720;
 inline constexpr int balkenJeMNm = 12;
-DriftBalken driftBalken(double drift); // mN m
+/// `rotAb`: mN m from which it is red. `ganz`: of whole units, cut towards minus infinity.
+DriftBalken driftBalken(double drift, double rotAb = statikWarnung, bool ganz = true); // mN m
 
 /// "p" and three bytes: ten times the offset, rounded to one decimal, most significant byte first.
 QByteArray offsetBefehl(double offsetRoh);

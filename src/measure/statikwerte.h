@@ -1,12 +1,13 @@
-// Session values of the static measurement: also the lever-arm calibration computes with them.
+// Session values of the static measurement: written by the zero-point correction; the lever-arm
+// calibration computes with them, too.
 #pragma once
 
-extern bool gErgebnis; ///< the last stage succeeded
+inline bool gErgebnis = false; ///< the last stage succeeded
 
-extern double gOffsetRoh;    ///< mean raw reading of the offset measurement
-extern double gGainRoh;      ///< mean raw reading of the gain measurement
-extern double gOffsetSoll;   ///< raw, of the working standard
-extern double gGainSoll;     ///< raw, of the direction of rotation
-extern double gMomentFaktor; ///< 50 raw units make this many N m
-extern double gOffsetDiff;   ///< drift in mN m
-extern double gGainDiff;     ///< drift in mN m
+inline double gOffsetRoh = 0;    ///< mean raw reading of the offset measurement
+inline double gGainRoh = 0;      ///< mean raw reading of the gain measurement
+inline double gOffsetSoll = 0;   ///< raw, of the working standard
+inline double gGainSoll = 0;     ///< raw, of the direction of rotation
+inline double gMomentFaktor = 0; ///< 50 raw units make this many N m
+inline double gOffsetDiff = 0;   ///< drift in mN m
+inline double gGainDiff = 0;     ///< drift in mN m

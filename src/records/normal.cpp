@@ -7,6 +7,16 @@
 #include "store/database.h"
 #include "store/sqltext.h"
 
+namespace {
+
+Recordset letzteZeile() {
+    Recordset rows = gDatenbank.open("SELECT * FROM Normalkalibrierdaten ORDER BY NK_ID");
+    rows.moveLast();
+    return rows;
+}
+
+} // namespace
+
 void ohneFehlendeSpalte(const std::function<void()> &anweisung) {
     try {
         anweisung();
@@ -30,9 +40,14 @@ void normalÜbernehmen(const Recordset &zeile) {
 }
 
 void letztesNormalLesen() {
-    Recordset rows = gDatenbank.open("SELECT * FROM Normalkalibrierdaten ORDER BY NK_ID");
-    rows.moveLast();
-    normalÜbernehmen(rows);
+    normalÜbernehmen(letzteZeile());
+}
+
+StatikSoll statikSollLesen(bool rechtslauf) {
+    const Recordset zeile = letzteZeile();
+    return {zeile["Offset"].requiredNumber(),
+            zeile[rechtslauf ? "Gain_R" : "Gain_L"].requiredNumber(),
+            zeile[rechtslauf ? "VK1_R" : "VK1_L"].requiredNumber()};
 }
 
 bool normalDatenLesen() {

@@ -77,16 +77,6 @@ TEST(Static, SamplesInAStream) {
     }
 }
 
-TEST(Static, MeanOfTheTwentyFiveBehindTheSettling) {
-    StatikMittel mean;
-    for (int sample = 1; sample <= 200; ++sample) {
-        EXPECT_EQ(mean.done(), sample > 175) << sample;
-        mean.add(sample <= 150 ? 1e6 : sample);
-        EXPECT_EQ(mean.counted(), std::min(sample, 175) - 150);
-    }
-    EXPECT_DOUBLE_EQ(mean.mean(), 163); // of 151 to 175
-}
-
 TEST(Static, DriftsAndTheirLimits) {
     // Measured, reference, factor; drift in N m. One is a trace above 0.3 in binary.
     for (const Case &c : cases(R"(
@@ -117,6 +107,10 @@ TEST(Static, BarOfADrift) {
         const DriftBalken bar = driftBalken(c.in.toDouble());
         EXPECT_EQ(QString("%1 %2").arg(bar.links).arg(bar.breite), c.out) << c;
     }
+    const DriftBalken uncut = driftBalken(-99.96, 100, false);
+    EXPECT_NEAR(uncut.breite, 1199.52, 1e-9);
+    EXPECT_NEAR(uncut.links + uncut.breite, 3720, 1e-9);
+    EXPECT_TRUE(!uncut.rot && driftBalken(100, 100, false).rot);
 }
 
 TEST(Static, MessagesToTheController) {

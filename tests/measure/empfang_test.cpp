@@ -2,6 +2,8 @@
 #include "measure/empfang.h"
 
 #include "../link/linktest.h"
+#include "measure/statik.h"
+#include "measure/statikempfang.h"
 
 namespace {
 
@@ -90,6 +92,55 @@ TEST_F(Reception, TimeOutsAndALostLineAreTold) {
     clock.run(40'000);
     expectKnown("failed(3001, 8018)");
     fnc_SechsRundenStarten();
+}
+
+class StaticReception : public support::ScriptTest {
+  protected:
+    StaticReception() { MSComm1.setPortOpen(true); }
+    /// What is received of the samples first to last, sent 10 ms from now; those up to `wild` are
+    /// far off.
+    std::optional<std::vector<double>> receive(const Statikstrom &stream, int samples, int wild) {
+        QByteArray bytes;
+        for (int sample = 1; sample <= samples; ++sample) {
+            const int raw = sample <= wild ? 9'999'990 : 10 * sample;
+            bytes += QByteArray("\xff").append(static_cast<char>(stream.code));
+            for (const int shift : {16, 8, 0})
+                bytes.append(static_cast<char>(raw >> shift));
+        }
+        arrive({bytes + QByteArray("\xff").append(static_cast<char>(stream.code))}, 10);
+        script.written.clear();
+        counted.clear();
+        return statikEmpfangen(
+            stream, [this](int count) { counted += QString::number(count) + ' '; },
+            [this] { return unwanted; });
+    }
+    QString counted;
+    bool unwanted = false;
+};
+
+TEST_F(StaticReception, DropsWhatSettlesAndCountsTheRest) {
+    auto values = receive({codeGain}, 200, 150);
+    ASSERT_TRUE(values);
+    EXPECT_EQ(values->size(), 25u);
+    EXPECT_DOUBLE_EQ(mittelwert(*values), 163) << "of 151 to 175";
+    EXPECT_TRUE(counted.startsWith("1 2 ") && counted.endsWith(" 24 25 ")) << counted;
+    EXPECT_EQ(script.written, "t-");
+    values = receive({codeOffset, 0, 3}, 3, 0);
+    ASSERT_TRUE(values);
+    EXPECT_EQ(*values, (std::vector<double>{1, 2, 3}));
+    EXPECT_EQ(script.written, "f-");
+}
+
+TEST_F(StaticReception, EndsWithoutValues) {
+    expectKnown("noStream");
+    const double start = clock.elapsed();
+    EXPECT_FALSE(receive({codeOffset, 0, 3}, 2, 0));
+    EXPECT_NEAR(clock.elapsed() - start, 15'000, 20);
+    EXPECT_EQ(script.written, "f-");
+    clock.after(14'000, [this] { unwanted = true; });
+    EXPECT_FALSE(receive({codeOffset, 0, 3}, 2, 0));
+    EXPECT_EQ(script.written, "f-");
+    EXPECT_FALSE(gTimeoutTimer1 || Timer1.enabled());
 }
 
 } // namespace
