@@ -4,6 +4,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+/// The list does not write into the box while a person types.
+inline void ohneErgänzung(QComboBox *box) {
+    box->setCompleter(nullptr);
+}
+
 /// An entry of the list when it is one, so that the box knows its row: leaving the box then picks
 /// nothing by itself. A long text shows its start.
 inline void eintragSetzen(QComboBox *box, const QString &text) {

@@ -9,9 +9,9 @@
 #include "controls/recordsetmodel.h"
 #include "session/sprache.h"
 
-void Schrittgitter::verbinden(QTableView *gitter, const QString &messart) {
+void Schrittgitter::verbinden(QTableView *gitter, std::vector<Spalte> spalten) {
     mGitter = gitter;
-    mMessart = messart;
+    mSpalten = std::move(spalten);
     mModell = new RecordsetModel;
     mModell->setParent(gitter);
     gitter->setModel(mModell);
@@ -19,13 +19,11 @@ void Schrittgitter::verbinden(QTableView *gitter, const QString &messart) {
 }
 
 void Schrittgitter::beschriften() {
-    const auto right = Qt::AlignRight | Qt::AlignVCenter;
-    mModell->setSpalten({
-        {"Prüfschritt", inSprache({"Prüfschritt", "Test step"}), right},
-        {"Drehzahl", inSprache({"Drehzahl (1/min)", "Speed (1/min)"}), right},
-        {"Leistung", inSprache({"Leistung (W)", "Power (W)"}), right},
-        {mMessart, inSprache({"Messart", "Type"})},
-    });
+    std::vector<RecordsetModel::Spalte> columns;
+    for (const auto &[name, head, number] : mSpalten)
+        columns.push_back(
+            {name, inSprache(head), (number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter});
+    mModell->setSpalten(std::move(columns));
     QHeaderView *head = mGitter->horizontalHeader();
     head->setSectionResizeMode(QHeaderView::ResizeToContents);
     head->setStretchLastSection(true);

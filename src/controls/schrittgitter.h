@@ -2,8 +2,9 @@
 // either end stays on the last or first row.
 #pragma once
 
-#include <QString>
+#include <vector>
 
+#include "platform/text.h"
 #include "store/recordset.h"
 
 class QTableView;
@@ -11,8 +12,21 @@ class RecordsetModel;
 
 class Schrittgitter {
   public:
-    /// Called once, before everything else. `messart` is the column of the type.
-    void verbinden(QTableView *gitter, const QString &messart = "Messart");
+    struct Spalte {
+        const char *name; ///< column of the recordset
+        platform::Text kopf;
+        bool zahl; ///< to the right
+    };
+    /// Number, speed, power, type.
+    static inline const std::vector<Spalte> ordentlich{
+        {"Prüfschritt", {"Prüfschritt", "Test step"}, true},
+        {"Drehzahl", {"Drehzahl (1/min)", "Speed (1/min)"}, true},
+        {"Leistung", {"Leistung (W)", "Power (W)"}, true},
+        {"Messart", {"Messart", "Type"}, false},
+    };
+
+    /// Called once, before everything else.
+    void verbinden(QTableView *gitter, std::vector<Spalte> spalten = ordentlich);
     /// Column heads in the language of the session.
     void beschriften();
 
@@ -32,6 +46,6 @@ class Schrittgitter {
   private:
     QTableView *mGitter = nullptr;
     RecordsetModel *mModell = nullptr;
-    QString mMessart;
+    std::vector<Spalte> mSpalten;
     bool mSelbst = false;
 };

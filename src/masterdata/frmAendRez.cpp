@@ -3,12 +3,12 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <algorithm>
 #include <utility>
 
 #include "controls/eintrag.h"
 #include "controls/umbruch.h"
 #include "masterdata/frmRezepte.h"
-#include "records/toleranz.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
@@ -38,62 +38,68 @@ constexpr Beschriftung english[] = {
     {"pbexit", "&Cancel"},
 };
 
+std::optional<QString> toleranzZurTaste(const QString &taste) {
+    static const Kürzel kürzel[] = {
+        {{"M", "M"}, {"medizinische Geräte", "Medical Devices"}},
+        {{"S", "S"}, {"stationäre Trainingsgeräte", "Stationary Devices"}},
+        {{"O", "W"}, {"ohne Toleranz", "Without Tolerance"}},
+    };
+    return kürzelwort(kürzel, taste);
+}
+
 } // namespace
 
 frmÄndRez::frmÄndRez() {
     ui.setupUi(this);
-    mGitter.verbinden(ui.DBGridRez, "Messwerte");
     felderVerdrahten();
-    on(ui.DBGridRez->selectionModel(), &QItemSelectionModel::currentRowChanged, [this] {
-        if (!mGitter.selbst())
+    Schrittgitter &gitter = mEditor.gitter();
+    on(ui.DBGridRez->selectionModel(), &QItemSelectionModel::currentRowChanged, [this, &gitter] {
+        if (!gitter.selbst())
             fnc_SchrittAnzeigen();
     });
     // After saving or inserting the current row is one that the fields do not show.
     on(ui.DBGridRez, &QTableView::clicked, [this] { fnc_SchrittAnzeigen(); });
-    onClick(ui.pbSpeichern, [this] { pbSpeichern_Click(); });
-    onClick(ui.pbNeu, [this] { pbNeu_Click(); });
+    onClick(ui.pbSpeichern, gefangen("1127 - ", [this] { pbSpeichern_Click(); }));
+    onClick(ui.pbNeu, gefangen("1126 - ", [this] { pbNeu_Click(); }));
     onClick(ui.pbEinfuegen, [this] { pbEinfuegen_Click(); });
-    onClick(ui.pbLoeschen, [this] { pbLoeschen_Click(); });
+    onClick(ui.pbLoeschen, gefangen("1023E - ", [this] { pbLoeschen_Click(); }));
     onClick(ui.pbFirst, [this] { schrittWählen(0); });
-    onClick(ui.pbVorheriger, [this] { schrittWählen(mGitter.zeile() - 1); });
-    onClick(ui.pbNext, [this] { schrittWählen(mGitter.zeile() + 1); });
-    onClick(ui.pbLetzter, [this] { schrittWählen(mGitter.schritte().count() - 1); });
+    onClick(ui.pbVorheriger, [this, &gitter] { schrittWählen(gitter.zeile() - 1); });
+    onClick(ui.pbNext, [this, &gitter] { schrittWählen(gitter.zeile() + 1); });
+    onClick(ui.pbLetzter, [this, &gitter] { schrittWählen(gitter.schritte().count() - 1); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { pbexit_Click(); });
     onEscape([this] { ui.pbexit->click(); });
 }
 
 void frmÄndRez::felderVerdrahten() {
-    for (QComboBox *box : {ui.cmbToleranz, ui.cmbPrArt})
-        box->setCompleter(nullptr); // it would write into the box while a person types
-    on(ui.cmbToleranz, &QComboBox::activated, [this] { cmbToleranz_Click(); });
-    on(ui.cmbToleranz->lineEdit(), &QLineEdit::textEdited, [this] { cmbToleranz_Change(); });
-    onKey(ui.cmbToleranz, [this](QKeyEvent &key) {
-        msToleranzTaste = key.text().toUpper();
-        return false;
+    mToleranzKürzel.verbinden(ui.cmbToleranz, toleranzZurTaste, [this](bool found) {
+        if (found) {
+            cmbToleranz_Click();
+        } else {
+            beep();
+            eintragSetzen(ui.cmbPrArt, {});
+        }
     });
+    on(ui.cmbToleranz, &QComboBox::activated, [this] { cmbToleranz_Click(); });
+    on(ui.cmbToleranz->lineEdit(), &QLineEdit::textEdited, [this] { mToleranzKürzel.geändert(); });
+    onKey(ui.cmbToleranz, [this](QKeyEvent &key) { return mToleranzKürzel.taste(key); });
     onGotFocus(ui.cmbToleranz, [this] {
         msAltToleranz = ui.cmbToleranz->currentText();
-        msToleranzTaste.clear(); // of the key that led away
+        mToleranzKürzel.vergessen(); // the key that led away
     });
     onLostFocus(ui.cmbToleranz, [this] { cmbToleranz_LostFocus(); });
     enterChain({ui.cmbToleranz, ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.pbSpeichern});
 
-    onGotFocus(ui.txtDrehzahl, [this] { msAltDrehzahl = ui.txtDrehzahl->text(); });
-    onLostFocus(ui.txtDrehzahl, [this] { txtDrehzahl_LostFocus(); });
-
-    onGotFocus(ui.txtLeistung, [this] { msAltLeistung = ui.txtLeistung->text(); });
-    onLostFocus(ui.txtLeistung, [this] { txtLeistung_LostFocus(); });
-
-    on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { cmbPrArt_Change(); });
-    onKey(ui.cmbPrArt, [this](QKeyEvent &key) {
-        msPrArtTaste = key.text().toUpper();
-        return false;
-    });
-    onGotFocus(ui.cmbPrArt, [this] {
-        msAltPrArt = ui.cmbPrArt->currentText();
-        msPrArtTaste.clear(); // of the key that led away
-    });
+    mEditor.verbinden({ui.laPrSchritt, ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.DBGridRez},
+                      [this] { mbGeändert = true; });
+    for (QWidget *feld :
+         std::initializer_list<QWidget *>{ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt})
+        onGotFocus(feld, [this, feld] { mEditor.betreten(feld); });
+    onLostFocus(ui.txtDrehzahl, gefangen("1135 - ", [this] { mEditor.verlassen(ui.txtDrehzahl); }));
+    onLostFocus(ui.txtLeistung, gefangen("1136 - ", [this] { mEditor.verlassen(ui.txtLeistung); }));
+    onKey(ui.cmbPrArt, [this](QKeyEvent &key) { return mEditor.typ().taste(key); });
+    on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { mEditor.typ().geändert(); });
     onLostFocus(ui.cmbPrArt, [this] { cmbPrArt_LostFocus(); });
 }
 
@@ -113,20 +119,17 @@ void frmÄndRez::Form_Activate() try {
 }
 
 void frmÄndRez::zeigen() {
-    ui.cmbPrArt->clear();
-    ui.cmbPrArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
-    mGitter.beschriften();
-    fnc_Fill_CmbToleranz();
+    mEditor.beschriften();
+    fnc_Fill_CmbToleranz(ui.cmbToleranz);
     if (const auto *list = loaded<frmRezepte>()) {
         mToleranz = list->toleranz();
         eintragSetzen(ui.cmbToleranz, mToleranz);
         ui.laRezName->setText(umbrechbar(list->rezeptname()));
     }
-    mGitter.zeigen(kopierteSchritte());
-    felderLeeren();
+    mEditor.lesen(0);
+    mEditor.leeren();
     mOhneSchritt = true;
     mNeuerSchritt = false;
-    mGitter.gehen(0);
     fnc_SchrittAnzeigen();
     ui.cmbToleranz->setFocus();
     msAltToleranz = ui.cmbToleranz->currentText();
@@ -173,38 +176,6 @@ void frmÄndRez::aktualisieren() {
 
 // The specification -------------------------------------------------------------------------------
 
-void frmÄndRez::fnc_Fill_CmbToleranz() try {
-    ui.cmbToleranz->clear();
-    ui.cmbToleranz->addItems(toleranznamen());
-} catch (const Fehler &fehler) {
-    fehlerBox("NR01- ", fehler);
-}
-
-void frmÄndRez::cmbToleranz_Change() {
-    struct Kürzel {
-        Text taste;
-        Text name;
-    };
-    static const Kürzel kürzel[] = {
-        {{"M", "M"}, {"medizinische Geräte", "Medical Devices"}},
-        {{"S", "S"}, {"stationäre Trainingsgeräte", "Stationary Devices"}},
-        {{"O", "W"}, {"ohne Toleranz", "Without Tolerance"}},
-    };
-    const QString taste = std::exchange(msToleranzTaste, {});
-    if (taste.isEmpty())
-        return;
-    for (const Kürzel &k : kürzel) {
-        if (taste == inSprache(k.taste)) {
-            eintragSetzen(ui.cmbToleranz, inSprache(k.name));
-            ui.cmbToleranz->lineEdit()->selectAll();
-            cmbToleranz_Click();
-            return;
-        }
-    }
-    beep();
-    eintragSetzen(ui.cmbPrArt, {});
-}
-
 void frmÄndRez::cmbToleranz_Click() try {
     const QString name = ui.cmbToleranz->currentText();
     rezeptToleranzÄndern(gRezeptID, name);
@@ -222,104 +193,98 @@ void frmÄndRez::cmbToleranz_LostFocus() {
         eintragSetzen(ui.cmbToleranz, mToleranz); // the one that is in force
 }
 
-// The fields of the step --------------------------------------------------------------------------
-
-Schritt frmÄndRez::eingegeben() const {
-    return {ui.laPrSchritt->text().toInt(), ui.txtDrehzahl->text(), ui.txtLeistung->text(),
-            Prüfart::ausAnfang(ui.cmbPrArt->currentText())};
-}
-
-/// What is loaded into a field is no change by a person, also when the field has the keyboard.
-void frmÄndRez::altWerteMerken() {
-    msAltDrehzahl = ui.txtDrehzahl->text();
-    msAltLeistung = ui.txtLeistung->text();
-    msAltPrArt = ui.cmbPrArt->currentText();
-}
-
-void frmÄndRez::felderLeeren() {
-    ui.laPrSchritt->clear();
-    ui.txtDrehzahl->clear();
-    ui.txtLeistung->clear();
-    eintragSetzen(ui.cmbPrArt, {});
-    altWerteMerken();
-}
+// The steps ---------------------------------------------------------------------------------------
 
 void frmÄndRez::fnc_SchrittAnzeigen() try {
-    if (!mGitter.leer()) {
-        const Schritt step = schrittAus(mGitter.aktuell());
-        ui.laPrSchritt->setText(QString::number(step.nummer));
-        ui.txtDrehzahl->setText(step.drehzahl);
-        ui.txtLeistung->setText(step.leistung);
-        eintragSetzen(ui.cmbPrArt,
-                      inSprache(step.prüfart == Prüfart::Leistung ? Prüfart::leistungText
-                                                                  : Prüfart::drehzahlText));
-        altWerteMerken();
+    if (mEditor.zeigen())
         mOhneSchritt = mNeuerSchritt = false;
-    }
     aktualisieren();
 } catch (const Fehler &fehler) {
     fehlerBox("1121 - ", fehler);
 }
 
-/// Takes the new text of a field that is left, or tells what is wrong with it and sets it back.
-void frmÄndRez::wertAnnehmen(QLineEdit *feld, const QString &altWert, Wertprüfung prüfung,
-                             const Wertmeldung &meldungen) {
-    if (prüfung == Wertprüfung::Gültig) {
-        mbGeändert = true;
-        return;
-    }
-    const QString good = altWert; // taking the keyboard back notes the text anew
-    meldung(prüfung == Wertprüfung::NichtNumerisch ? meldungen.keineZahl : meldungen.außerhalb,
-            Exclamation, meldungen.titel);
-    feld->setText(good);
-    feld->setFocus();
-    // Behind the change of keyboard, which takes a selection away.
-    QMetaObject::invokeMethod(feld, &QLineEdit::selectAll, Qt::QueuedConnection);
-}
-
-void frmÄndRez::txtDrehzahl_LostFocus() try {
-    const QString text = ui.txtDrehzahl->text();
-    if (text == msAltDrehzahl || text.isEmpty())
-        return;
-    wertAnnehmen(ui.txtDrehzahl, msAltDrehzahl, drehzahlPrüfen(text, grenzenÄndRez),
-                 {{"Drehzahl muss ein nummerischer Wert sein!",
-                   "Number of revolutions must be a numerical value!"},
-                  {"Drehzahl liegt außerhalb des gültigen Bereiches!",
-                   "Number of revolutions is outside the valid range!"},
-                  {"Eingabefehler", "Input Error"}});
-} catch (const Fehler &fehler) {
-    fehlerBox("1135 - ", fehler);
-}
-
-void frmÄndRez::txtLeistung_LostFocus() try {
-    const QString text = ui.txtLeistung->text();
-    if (text == msAltLeistung || text.isEmpty())
-        return;
-    wertAnnehmen(
-        ui.txtLeistung, msAltLeistung, leistungPrüfen(text, grenzenÄndRez),
-        {{"Leistung muss ein nummerischer Wert sein!", "Power must be a numerical value!"},
-         {"Leistung liegt außerhalb des gültigen Bereiches!", "Power is outside the valid range!"},
-         {"Eingabefehler!", "Input Error!"}});
-} catch (const Fehler &fehler) {
-    fehlerBox("1136 - ", fehler);
-}
-
-void frmÄndRez::cmbPrArt_Change() {
-    const QString taste = std::exchange(msPrArtTaste, {});
-    if (taste.isEmpty())
-        return;
-    const std::optional<QString> text = Prüfart::ausTaste(taste);
-    if (!text)
-        beep();
-    eintragSetzen(ui.cmbPrArt, text.value_or(QString()));
-    ui.cmbPrArt->lineEdit()->selectAll();
-}
-
 void frmÄndRez::cmbPrArt_LostFocus() {
-    if (ui.cmbPrArt->currentText() != msAltPrArt)
+    if (mEditor.geändert(ui.cmbPrArt))
         mbGeändert = true;
     if (mnAbschluss == Abschluss::NeuerSchritt) {
         mnAbschluss = Abschluss::Offen;
         ui.pbSpeichern->setFocus();
     }
+}
+
+void frmÄndRez::pbSpeichern_Click() {
+    if (!mEditor.prüfen())
+        return;
+    const std::optional<bool> stored = mEditor.vorhanden();
+    if (!stored)
+        return;
+    if (*stored)
+        mEditor.ändern();
+    else if (!mEditor.anlegen())
+        return;
+    mOhneSchritt = mNeuerSchritt = false;
+    aktualisieren();
+    if (!*stored)
+        ui.pbNeu->setFocus();
+    mEditor.lesen(mEditor.nummer()); // on to the one behind it, while the fields keep this one
+}
+
+void frmÄndRez::pbNeu_Click() {
+    mEditor.leeren();
+    mNeuerSchritt = true;
+    aktualisieren();
+    Schrittgitter &gitter = mEditor.gitter();
+    gitter.zumLetzten();
+    // An inserted step is the last row and has a number from the middle: the one behind it is
+    // taken.
+    const int last = gitter.leer() ? 0 : gitter.aktuell()["Prüfschritt"].whole();
+    mEditor.nummerZeigen(std::max(last, mEditor.größteNummer()) + 1);
+    mnAbschluss = Abschluss::NeuerSchritt;
+    ui.txtDrehzahl->setFocus();
+}
+
+void frmÄndRez::pbEinfuegen_Click() try {
+    mEditor.einfügen();
+    mNeuerSchritt = false;
+    aktualisieren();
+} catch (const Fehler &fehler) {
+    fehlerBox("1023E - ", fehler);
+    mEditor.nachFehlerLesen(); // some may have moved
+}
+
+void frmÄndRez::pbLoeschen_Click() {
+    if (mEditor.löschen()) {
+        fnc_SchrittAnzeigen();
+        return;
+    }
+    mOhneSchritt = true;
+    mNeuerSchritt = false;
+    aktualisieren();
+}
+
+/// The row, or the nearest there is, and its step into the fields.
+void frmÄndRez::schrittWählen(int zeile) {
+    if (mEditor.gitter().leer())
+        return;
+    mEditor.gitter().gehen(zeile);
+    fnc_SchrittAnzeigen();
+}
+
+// Leaving -----------------------------------------------------------------------------------------
+
+void frmÄndRez::pbok_Click() {
+    mnAbschluss = mbGeändert ? Abschluss::Übernehmen : Abschluss::Verwerfen;
+    unload();
+}
+
+void frmÄndRez::pbexit_Click() {
+    mnAbschluss = Abschluss::Verwerfen;
+    if (mbGeändert) {
+        const int answer = meldung({"Änderungen in den Prüfschritten speichern?",
+                                    "Do you want to save the changes in the test steps?"},
+                                   YesNo | Question, {"Message!", "Message!"});
+        if (answer == Yes)
+            mnAbschluss = Abschluss::Übernehmen;
+    }
+    unload();
 }

@@ -3,15 +3,12 @@
 // the copy: a new one is written at once and stays.
 #pragma once
 
-#include "controls/schrittgitter.h"
-#include "masterdata/pruefschritt.h"
+#include "controls/kuerzelfeld.h"
+#include "masterdata/schritteditor.h"
 #include "records/arbeitskopie.h"
 #include "records/rezept.h"
-#include "records/schrittliste.h"
 #include "session/screens.h"
 #include "ui_frmAendRez.h"
-
-#include <optional>
 
 class frmÄndRez : public Screen {
   public:
@@ -31,57 +28,30 @@ class frmÄndRez : public Screen {
     void zeigen();
     bool kopieAbschließen(bool übernehmen);
     void aktualisieren();
-    Schritt eingegeben() const;
-    void altWerteMerken();
-    void felderLeeren();
 
-    void fnc_Fill_CmbToleranz();
-    void fnc_SchrittAnzeigen();
-    bool fnc_SchrittPrüfen();
-    bool fnc_DrehmomentPrüfen();
-    std::optional<bool> fnc_SchrittVorhanden(const Schritt &schritt);
-    void fnc_SchrittÄndern(const Schritt &schritt);
-
-    void cmbToleranz_Change();
     void cmbToleranz_Click();
     void cmbToleranz_LostFocus();
-    void cmbPrArt_Change();
     void cmbPrArt_LostFocus();
-    void txtDrehzahl_LostFocus();
-    void txtLeistung_LostFocus();
-    struct Wertmeldung {
-        platform::Text keineZahl, außerhalb, titel;
-    };
-    void wertAnnehmen(QLineEdit *feld, const QString &altWert, Wertprüfung prüfung,
-                      const Wertmeldung &meldungen);
 
+    void fnc_SchrittAnzeigen();
     void pbSpeichern_Click();
     void pbNeu_Click();
     void pbEinfuegen_Click();
     void pbLoeschen_Click();
-    void gitterNachFehler();
     void schrittWählen(int zeile);
     void pbok_Click();
     void pbexit_Click();
 
     Ui::frmÄndRez ui;
-    Schrittliste mListe{"ÄndRez_temp"};
+    Schritteditor mEditor{geändertesRezept};
     Arbeitskopie mKopie{ordentlicheRezepte.schritte};
-    Schrittgitter mGitter;
+    Kürzelfeld mToleranzKürzel;
 
     bool mbGeändert = false; ///< by a field or the specification; steps put in or taken out don't
     Abschluss mnAbschluss = Abschluss::Offen;
     QString mToleranz;          ///< the specification as it is stored
+    QString msAltToleranz;      ///< its text at focus
     bool mGezeigt = false;      ///< recipe and copy stand on the screen
     bool mOhneSchritt = true;   ///< no step is shown that could be saved, moved or deleted
     bool mNeuerSchritt = false; ///< the step shown is not stored yet
-
-    // Text at focus
-    QString msAltDrehzahl;
-    QString msAltLeistung;
-    QString msAltPrArt;
-    QString msAltToleranz;
-    // Last key, upper-cased, until the change of the text has used it up
-    QString msToleranzTaste;
-    QString msPrArtTaste;
 };

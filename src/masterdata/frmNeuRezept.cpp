@@ -5,7 +5,6 @@
 #include "controls/umbruch.h"
 #include "masterdata/frmRezepte.h"
 #include "records/rezept.h"
-#include "records/toleranz.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
@@ -44,7 +43,6 @@ frmNeuRezept::frmNeuRezept() {
     ui.setupUi(this);
     ui.lbRezSaved->hide();
     ui.lbToleranzSave->hide();
-    mGitter.verbinden(ui.DBGridRez);
     on(ui.txtRezName, &QLineEdit::textChanged, [this] { txtRezName_Change(); });
     onEnter(ui.txtRezName, [this] {
         if (ui.pbRezSave->isEnabled())
@@ -68,14 +66,15 @@ void frmNeuRezept::beschriften() {
     beschriftungenSetzen(ui, *this, english);
     for (QPushButton *symbol : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
         symbol->setAccessibleName(symbol->toolTip());
-    ui.cmbPrArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
-    ui.cmbPrArt->setCurrentIndex(-1);
-    mGitter.beschriften();
+    mEditor.beschriften();
 }
 
 void frmNeuRezept::Form_Load() {
     beschriften();
-    fnc_Fill_CmbToleranz();
+    if (fnc_Fill_CmbToleranz(ui.cmbToleranz) && ui.cmbToleranz->count() == 0)
+        ui.cmbToleranz->setPlaceholderText(
+            inSprache({"Noch keine; angelegt wird im Menü Verwaltung, Spezifikationen",
+                       "None yet; use menu Master Data, Specifications to enter one"}));
     ui.laInfo->setText(
         inSprache({"Bitte geben Sie einen Rezeptnamen ein und wählen Sie eine Spezifikation.",
                    "Please enter a recipe name and choose a specification."}));
@@ -85,14 +84,14 @@ void frmNeuRezept::Form_Load() {
 void frmNeuRezept::Form_Activate() try {
     if (std::exchange(mbKopiert, false)) {
         fnc_NavigationFreigeben();
-        pbFirst_Click();
+        gefangen("1026 - ", [this] { schrittWählen(0); })();
     }
 } catch (const Fehler &fehler) {
     fehlerBox("3039 - ", fehler);
 }
 
 bool frmNeuRezept::Form_QueryUnload() {
-    return mbFertig || (feldGeprüft() && verlassen());
+    return mbFertig || (mEditor.verlassen(focusWidget()) && verlassen());
 }
 
 void frmNeuRezept::Form_Unload() {
@@ -100,18 +99,6 @@ void frmNeuRezept::Form_Unload() {
         list->show();
     else
         form(frm::Rezepte).showModal();
-}
-
-void frmNeuRezept::fnc_Fill_CmbToleranz() try {
-    ui.cmbToleranz->clear();
-    ui.cmbToleranz->addItems(toleranznamen());
-    ui.cmbToleranz->setCurrentIndex(-1);
-    if (ui.cmbToleranz->count() == 0)
-        ui.cmbToleranz->setPlaceholderText(
-            inSprache({"Noch keine; angelegt wird im Menü Verwaltung, Spezifikationen",
-                       "None yet; use menu Master Data, Specifications to enter one"}));
-} catch (const Fehler &fehler) {
-    fehlerBox("NR01- ", fehler);
 }
 
 void frmNeuRezept::txtRezName_Change() {
@@ -160,10 +147,10 @@ void frmNeuRezept::fnc_GitterAktualisieren() {
 void frmNeuRezept::schritteFreigeben() {
     ui.lbRezSaved->setText(umbrechbar(ui.txtRezName->text()));
     ui.lbToleranzSave->setText(umbrechbar(ui.cmbToleranz->currentText()));
-    schrittnummerZeigen(1);
-    for (QWidget *field :
-         std::initializer_list<QWidget *>{ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.pbKopie})
-        field->setEnabled(true);
+    mEditor.nummerZeigen(1);
+    mStand = Stand::Neu;
+    mKopierbar = true;
+    aktualisieren();
     hinweisNeuerSchritt();
     ui.txtDrehzahl->setFocus();
     ui.txtRezName->hide();
@@ -184,14 +171,14 @@ void frmNeuRezept::pbok_Click() {
 bool frmNeuRezept::verlassen() try {
     if (!ui.txtRezName->isHidden()) // no name saved
         return true;
-    const bool input = !fnc_EingabeLeer();
-    if ((mGitter.leer() && !input) || fnc_FrageVerwerfen()) {
+    const bool input = !mEditor.leer();
+    if ((mEditor.gitter().leer() && !input) || fnc_FrageVerwerfen()) {
         rezeptLöschen(gRezeptID);
         return true;
     }
     if (!input)
         return true;
-    if (!fnc_SchrittPrüfen() || !fnc_SchrittAnlegen())
+    if (!mEditor.prüfen() || !mEditor.anlegen())
         return false;
     gRezeptWahl = ui.txtRezName->text();
     fnc_RezeptlisteAktualisieren();
@@ -200,18 +187,6 @@ bool frmNeuRezept::verlassen() try {
     fehlerBox("1023 - ", fehler);
     gitterNachFehler(); // the steps may be gone
     return false;
-}
-
-void frmNeuRezept::gitterNachFehler() try {
-    ui.pbok->setEnabled(false);
-    gitterZeigen(mGitter.zeile());
-} catch (const Fehler &fehler) {
-    fehlerMerken(fehler);
-}
-
-bool frmNeuRezept::fnc_EingabeLeer() const {
-    return ui.txtDrehzahl->text().isEmpty() && ui.txtLeistung->text().isEmpty() &&
-           ui.cmbPrArt->currentText().isEmpty();
 }
 
 bool frmNeuRezept::fnc_FrageVerwerfen() {

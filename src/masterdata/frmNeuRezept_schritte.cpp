@@ -1,54 +1,42 @@
-// The steps of the new recipe: entering, checking, storing, renumbering, and moving among them.
+// The steps of the new recipe: entering, storing, renumbering, and moving among them.
 #include "masterdata/frmNeuRezept.h"
 
 #include <QKeyEvent>
-#include <QLineEdit>
 
-#include <utility>
-
-#include "platform/runtime.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
 
-namespace {
-
-const Schrittliste rezepte("Rezepte");
-
-} // namespace
-
 void frmNeuRezept::schritteVerdrahten() {
-    onLostFocus(ui.txtDrehzahl, [this] { txtDrehzahl_LostFocus(); });
-    onLostFocus(ui.txtLeistung, [this] { txtLeistung_LostFocus(); });
+    mEditor.verbinden({ui.lbStepCount, ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.DBGridRez},
+                      [this] { fnc_SpeichernFreigeben(); });
+    onLostFocus(ui.txtDrehzahl, gefangen("1039 - ", [this] { mEditor.verlassen(ui.txtDrehzahl); }));
+    onLostFocus(ui.txtLeistung, gefangen("1040 - ", [this] { mEditor.verlassen(ui.txtLeistung); }));
     enterChain({ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt});
 
-    ui.cmbPrArt->setCompleter(nullptr); // a key completes the text by itself
-    onKey(ui.cmbPrArt, [this](QKeyEvent &taste) {
-        msPrArtTaste = taste.text().toUpper();
-        mbPrArtTaste = !msPrArtTaste.isEmpty();
-        return false;
-    });
-    on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { cmbPrArt_Change(); });
-    on(ui.cmbPrArt, &QComboBox::editTextChanged, [this] {
-        mnPrüfart = static_cast<std::int16_t>(Prüfart::ausText(ui.cmbPrArt->currentText()));
-    });
+    onKey(ui.cmbPrArt, [this](QKeyEvent &key) { return mEditor.typ().taste(key); });
+    on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { mEditor.typ().geändert(); });
     // Arrow keys pick, too, and must not lose the keyboard at the first press.
     on(ui.cmbPrArt, &QComboBox::activated, [this] { speichernMöglich(); });
     // Neither must leaving it for another field.
     onLostFocus(ui.cmbPrArt, [this] { speichernMöglich(); });
     onEnter(ui.cmbPrArt, [this] { fnc_SpeichernFreigeben(); });
 
-    onClick(ui.pbSave, [this] { pbSave_Click(); });
+    onClick(ui.pbSave, gefangen("1033 - ", [this] { pbSave_Click(); }));
     onClick(ui.pbAddNew, [this] { fnc_NeuerSchritt(); });
     onClick(ui.pbEinfuegen, [this] { pbEinfuegen_Click(); });
-    onClick(ui.pbLoeschen, [this] { pbLoeschen_Click(); });
-    onClick(ui.pbKopie, [this] { pbKopie_Click(); });
-    onClick(ui.pbFirst, [this] { pbFirst_Click(); });
-    onClick(ui.pbLast, [this] { pbLast_Click(); });
-    onClick(ui.pbNext, [this] { pbNext_Click(); });
-    onClick(ui.pbPrevious, [this] { pbPrevious_Click(); });
+    onClick(ui.pbLoeschen, gefangen("1023E - ", [this] { pbLoeschen_Click(); }));
+    onClick(ui.pbKopie, gefangen("9016 - ", [] { form(frm::RezeptKopie).showModal(); }));
+    const auto count = [this] { return mEditor.gitter().schritte().count(); };
+    onClick(ui.pbFirst, gefangen("1026 - ", [this] { schrittWählen(0); }));
+    onClick(ui.pbLast, gefangen("1027 - ", [=, this] { schrittWählen(count() - 1); }));
+    onClick(ui.pbNext,
+            gefangen("1028 - ", [this] { schrittWählen(mEditor.gitter().zeile() + 1); }));
+    onClick(ui.pbPrevious, gefangen("1029 - ", [=, this] {
+                schrittWählen((neuerSchritt() ? count() : mEditor.gitter().zeile()) - 1);
+            }));
 
     on(ui.DBGridRez->selectionModel(), &QItemSelectionModel::currentRowChanged,
        [this] { DBGridRez_RowColChange(); });
@@ -57,117 +45,65 @@ void frmNeuRezept::schritteVerdrahten() {
     onEnter(ui.DBGridRez, [this] { ui.txtDrehzahl->setFocus(); });
 }
 
-Schritt frmNeuRezept::gezeigterSchritt() const {
-    return {mnSchritt, ui.txtDrehzahl->text(), ui.txtLeistung->text(), mnPrüfart};
-}
-
-void frmNeuRezept::schrittnummerZeigen(int nummer) {
-    mnSchritt = static_cast<std::int16_t>(nummer);
-    ui.lbStepCount->setText(nummer == 0 ? QString() : QString::number(nummer));
-}
-
-void frmNeuRezept::felderLeeren() {
-    ui.txtDrehzahl->clear();
-    ui.txtLeistung->clear();
-    ui.cmbPrArt->setCurrentIndex(-1);
+void frmNeuRezept::aktualisieren() {
+    const bool offen = mStand != Stand::Gesperrt;
+    const bool gespeichert = mStand == Stand::Gespeichert;
+    const std::pair<QWidget *, bool> bedienbar[] = {
+        {ui.txtDrehzahl, offen},
+        {ui.txtLeistung, offen},
+        {ui.cmbPrArt, offen},
+        {ui.pbSave, mSpeicherbar},
+        {ui.pbEinfuegen, gespeichert},
+        {ui.pbLoeschen, gespeichert},
+        {ui.pbAddNew, gespeichert || mStand == Stand::Nichts},
+        {ui.pbFirst, mBewegbar},
+        {ui.pbPrevious, mBewegbar},
+        {ui.pbNext, mBewegbar},
+        {ui.pbLast, mBewegbar},
+        {ui.pbKopie, mKopierbar},
+        {ui.pbok, mFertigbar}};
+    for (const auto &[control, enabled] : bedienbar)
+        control->setEnabled(enabled);
 }
 
 /// Reads the steps anew and stands on the row, or on the nearest there is.
 void frmNeuRezept::gitterZeigen(int zeile) {
-    mGitter.zeigen(gespeicherteSchritte(gRezeptID));
-    mGitter.gehen(zeile);
-    ui.pbok->setEnabled(!mGitter.leer()); // no finished recipe without steps
-    if (!mGitter.leer())
-        ui.pbKopie->setEnabled(false);
+    mEditor.lesen(zeile);
+    gitterGelesen();
+}
+
+void frmNeuRezept::gitterGelesen() {
+    mFertigbar = !mEditor.gitter().leer(); // no finished recipe without steps
+    mKopierbar = mKopierbar && !mFertigbar;
+    aktualisieren();
+}
+
+/// What a failed statement has left.
+void frmNeuRezept::gitterNachFehler() {
+    mFertigbar = false;
+    aktualisieren();
+    if (mEditor.nachFehlerLesen())
+        gitterGelesen();
 }
 
 void frmNeuRezept::fnc_SchrittAnzeigen() try {
-    if (mGitter.leer())
+    if (!mEditor.zeigen())
         return;
-    const Schritt schritt = schrittAus(mGitter.aktuell());
-    schrittnummerZeigen(schritt.nummer);
-    ui.txtDrehzahl->setText(schritt.drehzahl);
-    ui.txtLeistung->setText(schritt.leistung);
-    ui.cmbPrArt->setCurrentIndex(schritt.prüfart - 1); // in the order of the codes
-    for (QPushButton *button : {ui.pbAddNew, ui.pbEinfuegen, ui.pbLoeschen})
-        button->setEnabled(true);
+    mStand = Stand::Gespeichert;
+    aktualisieren();
 } catch (const Fehler &fehler) {
     fehlerBox("1025 - ", fehler);
 }
 
-/// Where the decimal sign is a point, the step would ask for ten times as much without it.
-void frmNeuRezept::ohneTausenderpunkte(QLineEdit *feld) {
-    if (numberLocale().decimalPoint() == ",")
-        feld->setText(fnc_OhnePunkt(feld->text()));
-}
-
-bool frmNeuRezept::txtDrehzahl_LostFocus() try {
-    ohneTausenderpunkte(ui.txtDrehzahl);
-    if (std::exchange(mbNavigation, false) || ui.txtDrehzahl->text().isEmpty())
-        return true;
-    return wertAnnehmen(ui.txtDrehzahl, drehzahlPrüfen(ui.txtDrehzahl->text(), grenzenNeuRezept),
-                        {"Drehzahl muss ein nummerischer Wert sein!",
-                         "Number of revolutions has to be a numeric value!"},
-                        {"Drehzahl liegt außerhalb des gültigen Bereiches.",
-                         "Number of revolution is outside the valid range."});
-} catch (const Fehler &fehler) {
-    fehlerBox("1039 - ", fehler);
-    return false;
-}
-
-bool frmNeuRezept::txtLeistung_LostFocus() try {
-    if (ui.txtLeistung->text().isEmpty())
-        return true;
-    ohneTausenderpunkte(ui.txtLeistung);
-    return wertAnnehmen(
-        ui.txtLeistung, leistungPrüfen(ui.txtLeistung->text(), grenzenNeuRezept),
-        {"Leistung muss ein nummerischer Wert sein!", "Power has to be a numeric value!"},
-        {"Leistung liegt außerhalb des gültigen Bereiches", "Power is outside the valid range!"});
-} catch (const Fehler &fehler) {
-    fehlerBox("1040 - ", fehler);
-    return false;
-}
-
-/// Checks the field that has the keyboard as when a person leaves it.
-bool frmNeuRezept::feldGeprüft() {
-    if (focusWidget() == ui.txtDrehzahl)
-        return txtDrehzahl_LostFocus();
-    return focusWidget() != ui.txtLeistung || txtLeistung_LostFocus();
-}
-
-bool frmNeuRezept::wertAnnehmen(QLineEdit *feld, Wertprüfung prüfung, const Text &nichtNumerisch,
-                                const Text &außerhalb) {
-    if (prüfung == Wertprüfung::Gültig) {
-        fnc_SpeichernFreigeben();
-        return true;
-    }
-    meldung(prüfung == Wertprüfung::NichtNumerisch ? nichtNumerisch : außerhalb, Critical,
-            {"Eingabefehler", "Input Error"});
-    feld->clear();
-    feld->setFocus();
-    return false;
-}
-
-void frmNeuRezept::cmbPrArt_Change() {
-    if (!std::exchange(mbPrArtTaste, false))
-        return;
-    if (const std::optional<QString> text = Prüfart::ausTaste(msPrArtTaste)) {
-        ui.cmbPrArt->setCurrentIndex(ui.cmbPrArt->findText(*text));
-        fnc_SpeichernFreigeben();
-    } else {
-        beep();
-        ui.cmbPrArt->setCurrentIndex(-1);
-    }
-}
-
 /// Once all three fields hold text the step can be stored.
 bool frmNeuRezept::speichernMöglich() try {
-    if (ui.txtDrehzahl->text().isEmpty() || ui.txtLeistung->text().isEmpty() ||
-        mnPrüfart == Prüfart::Keine)
+    const Schritt step = mEditor.schritt();
+    if (step.drehzahl.isEmpty() || step.leistung.isEmpty() || step.prüfart == Prüfart::Keine)
         return false;
-    if (mnSchritt == 0) // entered after the last step was deleted
-        schrittnummerZeigen(rezepte.größteNummer(gRezeptID) + 1);
-    ui.pbSave->setEnabled(true);
+    if (step.nummer == 0) // entered after the last step was deleted
+        mEditor.nummerZeigen(mEditor.größteNummer() + 1);
+    mSpeicherbar = true;
+    aktualisieren();
     ui.laInfo->setText(
         inSprache({"Sie können den Prüfschritt speichern!", "You can save the test step!"}));
     return true;
@@ -181,69 +117,17 @@ void frmNeuRezept::fnc_SpeichernFreigeben() {
         ui.pbSave->setFocus();
 }
 
-bool frmNeuRezept::fnc_SchrittPrüfen() try {
-    const QString missing =
-        fehlendeAngaben(ui.txtDrehzahl->text().isEmpty(), ui.txtLeistung->text().isEmpty(),
-                        mnPrüfart == Prüfart::Keine);
-    if (missing.isEmpty())
-        return fnc_DrehmomentPrüfen();
-    meldung({"Die Angaben zum aktuellen Prüfschritt sind unvollständig!\rBitte ergänzen Sie" +
-                 missing + "!",
-             "The informations about the actual test step are incomplete!"},
-            Critical, {"Achtung!", "Attention!"});
-    return false;
-} catch (const Fehler &fehler) {
-    fehlerBox("1024 - ", fehler);
-    return false;
-}
-
-bool frmNeuRezept::fnc_DrehmomentPrüfen() try {
-    if (drehmomentZulässig(ui.txtDrehzahl->text(), ui.txtLeistung->text(), grenzenNeuRezept))
-        return true;
-    drehmomentMelden(grenzenNeuRezept);
-    ui.txtDrehzahl->setFocus(Qt::TabFocusReason);
-    return false;
-} catch (const Fehler &fehler) {
-    fehlerBox("1042- ", fehler);
-    return false;
-}
-
-std::optional<bool> frmNeuRezept::fnc_SchrittVorhanden() try {
-    return rezepte.vorhanden(gRezeptID, mnSchritt);
-} catch (const Fehler &fehler) {
-    fehlerBox("1034 - ", fehler);
-    return std::nullopt;
-}
-
-bool frmNeuRezept::fnc_SchrittAnlegen() try {
-    rezepte.anlegen(gRezeptID, gezeigterSchritt());
-    return true;
-} catch (const Fehler &fehler) {
-    fehlerBox("1036 - ", fehler);
-    return false;
-}
-
-bool frmNeuRezept::fnc_SchrittÄndern() try {
-    rezepte.ändern(gRezeptID, gezeigterSchritt());
-    return true;
-} catch (const Fehler &fehler) {
-    fehlerBox("1035 - ", fehler);
-    return false;
-}
-
-void frmNeuRezept::pbSave_Click() try {
-    if (!fnc_SchrittPrüfen())
+void frmNeuRezept::pbSave_Click() {
+    if (!mEditor.prüfen())
         return;
-    const std::optional<bool> there = fnc_SchrittVorhanden();
-    if (!there || !(*there ? fnc_SchrittÄndern() : fnc_SchrittAnlegen()))
+    const std::optional<bool> there = mEditor.vorhanden();
+    if (!there || !(*there ? mEditor.ändern() : mEditor.anlegen()))
         return;
     if (!*there)
         fnc_NeuerSchritt();
     ui.txtDrehzahl->setFocus();
-    gitterZeigen(mnSchritt - 1);
+    gitterZeigen(mEditor.nummer() - 1);
     fnc_NavigationFreigeben();
-} catch (const Fehler &fehler) {
-    fehlerBox("1033 - ", fehler);
 }
 
 void frmNeuRezept::hinweisNeuerSchritt() {
@@ -251,27 +135,28 @@ void frmNeuRezept::hinweisNeuerSchritt() {
                                   "Please enter data for the actual test step!"}));
 }
 
+void frmNeuRezept::neuenSchrittFreigeben() {
+    mStand = Stand::Nichts;
+    aktualisieren();
+}
+
 void frmNeuRezept::fnc_NeuerSchritt() try {
-    schrittnummerZeigen(rezepte.größteNummer(gRezeptID) + 1);
-    felderLeeren();
+    const int number = mEditor.größteNummer() + 1;
+    mEditor.leeren();
+    mEditor.nummerZeigen(number);
     ui.txtDrehzahl->setFocus();
-    for (QPushButton *button : {ui.pbAddNew, ui.pbEinfuegen, ui.pbLoeschen, ui.pbSave})
-        button->setEnabled(false);
+    mStand = Stand::Neu;
+    mSpeicherbar = false;
+    aktualisieren();
     hinweisNeuerSchritt();
 } catch (const Fehler &fehler) {
     fehlerBox("1032 - ", fehler);
 }
 
-void frmNeuRezept::fnc_SchrittEinfügen(int nummer) {
-    Schritt schritt = gezeigterSchritt();
-    schritt.nummer = nummer;
-    rezepte.einfügen(gRezeptID, schritt);
-    gitterZeigen(nummer - 1);
-    fnc_SchrittAnzeigen();
-}
-
 void frmNeuRezept::pbEinfuegen_Click() try {
-    fnc_SchrittEinfügen(mnSchritt);
+    mEditor.einfügen();
+    gitterGelesen();
+    fnc_SchrittAnzeigen();
 } catch (const Fehler &fehler) {
     fehlerBox("1023E - ", fehler);
     gitterNachFehler(); // some may have moved
@@ -279,88 +164,55 @@ void frmNeuRezept::pbEinfuegen_Click() try {
 
 /// Asks nothing. After the only step its values stay in the fields; only a second call empties
 /// them.
-void frmNeuRezept::fnc_SchrittLöschen(int nummer) {
-    const int greatest = rezepte.größteNummer(gRezeptID);
-    rezepte.löschen(gRezeptID, nummer);
-    gitterZeigen(greatest == nummer ? greatest : nummer - 1);
-    if (greatest < 1) {
-        schrittnummerZeigen(0);
-        felderLeeren();
-        ui.pbAddNew->setEnabled(true);
-        ui.pbAddNew->setFocus();
-        for (QPushButton *button : {ui.pbEinfuegen, ui.pbLoeschen, ui.pbSave})
-            button->setEnabled(false);
-    } else {
+void frmNeuRezept::pbLoeschen_Click() {
+    const bool step = mEditor.löschen();
+    gitterGelesen();
+    if (step) {
         fnc_SchrittAnzeigen();
+        return;
     }
-}
-
-void frmNeuRezept::pbLoeschen_Click() try {
-    fnc_SchrittLöschen(mnSchritt);
-} catch (const Fehler &fehler) {
-    fehlerBox("1023E - ", fehler);
+    ui.pbAddNew->setEnabled(true); // takes the keyboard before pbLoeschen loses it
+    ui.pbAddNew->setFocus();
+    mStand = Stand::Nichts;
+    mSpeicherbar = false;
+    aktualisieren();
 }
 
 void frmNeuRezept::fnc_NavigationFreigeben() try {
-    for (QPushButton *button : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
-        button->setEnabled(true);
+    mBewegbar = true;
+    aktualisieren();
 } catch (const Fehler &fehler) {
     fehlerBox("1031 - ", fehler);
 }
 
 /// Past either end it beeps and stays.
-void frmNeuRezept::gehen(int zeile) {
-    if (mGitter.leer())
+void frmNeuRezept::schrittWählen(int zeile) {
+    Schrittgitter &gitter = mEditor.gitter();
+    if (gitter.leer())
         return;
-    mGitter.gehen(zeile);
-    if (mGitter.zeile() != zeile)
+    gitter.gehen(zeile);
+    if (gitter.zeile() != zeile)
         beep();
-    schrittÄndern();
-    mbNavigation = true;
+    gespeichertenZeigen();
+    mEditor.einmalUngeprüft();
     ui.txtDrehzahl->setFocus();
     ui.txtDrehzahl->selectAll();
 }
 
-void frmNeuRezept::schrittÄndern() {
+void frmNeuRezept::gespeichertenZeigen() {
     fnc_SchrittAnzeigen();
     ui.laInfo->setText(inSprache({"Sie können die Daten für diesen Prüfschritt ändern!",
                                   "It is possible to change data for this test step!"}));
 }
 
-void frmNeuRezept::pbFirst_Click() try { gehen(0); } catch (const Fehler &fehler) {
-    fehlerBox("1026 - ", fehler);
-}
-
-void frmNeuRezept::pbLast_Click() try {
-    gehen(mGitter.schritte().count() - 1);
-} catch (const Fehler &fehler) {
-    fehlerBox("1027 - ", fehler);
-}
-
-void frmNeuRezept::pbNext_Click() try { gehen(mGitter.zeile() + 1); } catch (const Fehler &fehler) {
-    fehlerBox("1028 - ", fehler);
-}
-
 /// A step is being entered that is not stored yet: it stands behind the last.
 bool frmNeuRezept::neuerSchritt() const {
-    Recordset rows = mGitter.schritte();
+    Recordset rows = mEditor.gitter().schritte();
     rows.moveLast();
-    return !rows.empty() && mnSchritt > rows["Prüfschritt"].whole();
-}
-
-void frmNeuRezept::pbPrevious_Click() try {
-    gehen((neuerSchritt() ? mGitter.schritte().count() : mGitter.zeile()) - 1);
-} catch (const Fehler &fehler) {
-    fehlerBox("1029 - ", fehler);
+    return !rows.empty() && mEditor.nummer() > rows["Prüfschritt"].whole();
 }
 
 void frmNeuRezept::DBGridRez_RowColChange() {
-    if (!mGitter.selbst() && !mGitter.leer())
-        schrittÄndern();
-}
-
-void frmNeuRezept::pbKopie_Click() try {
-    form(frm::RezeptKopie).showModal();
-} catch (const Fehler &fehler) {
-    fehlerBox("9016 - ", fehler);
+    if (!mEditor.gitter().selbst() && !mEditor.gitter().leer())
+        gespeichertenZeigen();
 }

@@ -4,7 +4,6 @@
 
 #include "masterdata/frmNeuRezept.h"
 #include "records/rezept.h"
-#include "records/schrittliste.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
@@ -102,10 +101,11 @@ void frmRezeptKopie::cmbRezeptname_Enter() {
 /// By the first letter of the type as it is shown, and in German only: under English every copied
 /// step becomes a speed step.
 bool frmRezeptKopie::fnc_SchrittAnlegen(const Recordset &schritt) try {
-    Schritt copy = schrittAus(schritt);
+    const Schrittliste &list = neuesRezept.schritte;
+    Schritt copy = list.schrittAus(schritt);
     copy.prüfart =
         schritt["Messart"].text().startsWith('L') ? Prüfart::Leistung : Prüfart::Drehzahl;
-    Schrittliste("Rezepte").anlegen(gRezeptID, copy);
+    list.anlegen(neuesRezept.rezeptID, copy);
     return true;
 } catch (const Fehler &fehler) {
     fehlerBox("1036 - ", fehler);

@@ -1,14 +1,11 @@
-// One test step of a recipe as a person enters it: what it may ask of the stand and what is
-// missing. No widget, no database.
+// One test step of a recipe as a person enters it: what it may ask of the stand. No widget, no
+// database.
 #pragma once
 
 #include <QString>
 
 #include "session/drehmoment.h"
 #include "session/pruefart.h"
-
-inline constexpr Schrittgrenzen grenzenNeuRezept{120, false, 600, grenzDrehmoment};
-inline constexpr Schrittgrenzen grenzenÄndRez{120, true, 600, grenzDrehmoment};
 
 enum class Wertprüfung { Gültig, NichtNumerisch, AußerhalbBereich };
 
@@ -20,9 +17,3 @@ Wertprüfung leistungPrüfen(const QString &text, const Schrittgrenzen &grenzen)
 /// what is no number as 0.
 bool drehmomentZulässig(const QString &drehzahl, const QString &leistung,
                         const Schrittgrenzen &grenzen);
-/// Tells that it is not.
-void drehmomentMelden(const Schrittgrenzen &grenzen);
-
-/// " die Drehzahl, Leistung und Prüfart" and the like: what of a step is missing, for a sentence in
-/// German. Empty when nothing is.
-QString fehlendeAngaben(bool drehzahl, bool leistung, bool prüfart);

@@ -6,26 +6,18 @@
 #include "store/database.h"
 
 Fehlendes fehlendeAngaben(const Gerätedaten &gerät, const std::optional<Gerätedaten> &vorher) {
-    struct Angabe {
-        QString Gerätedaten::*wert;
-        const char *alsErste;
-        const char *weitere;
+    const auto fehlt = [&](QString Gerätedaten::*wert) {
+        const auto leer = [wert](const Gerätedaten &g) { return (g.*wert).trimmed().isEmpty(); };
+        return leer(gerät) && !(vorher && leer(*vorher));
     };
-    static constexpr Angabe angaben[] = {
-        {&Gerätedaten::typ, "Typ", ""},
-        {&Gerätedaten::hersteller, " Hersteller", ", Hersteller"},
-        {&Gerätedaten::serienNr, "Serien-Nr.", ", Serien-Nr."},
-        {&Gerätedaten::identNr, " Ident-Nr.", ", Ident-Nr."},
-    };
-    const auto leer = [](const QString &wert) { return wert.trimmed().isEmpty(); };
-    Fehlendes fehlendes{{}, {"Bitte ergänzen Sie ", "Input is incomplete! Please complete!"}};
-    for (int i = 0; const Angabe &angabe : angaben) {
-        if (leer(gerät.*angabe.wert) && !(vorher && leer((*vorher).*angabe.wert))) {
-            fehlendes.text.german += fehlendes.erste ? angabe.weitere : angabe.alsErste;
-            fehlendes.erste = fehlendes.erste.value_or(i);
-        }
-        ++i;
-    }
+    Fehlendes fehlendes = fehlendeAngaben({
+        {fehlt(&Gerätedaten::typ), {"Typ", {}}, {}},
+        {fehlt(&Gerätedaten::hersteller), {" Hersteller", {}}, {", Hersteller", {}}},
+        {fehlt(&Gerätedaten::serienNr), {"Serien-Nr.", {}}, {", Serien-Nr.", {}}},
+        {fehlt(&Gerätedaten::identNr), {" Ident-Nr.", {}}, {", Ident-Nr.", {}}},
+    });
+    fehlendes.text = {"Bitte ergänzen Sie " + fehlendes.text.german,
+                      "Input is incomplete! Please complete!"};
     return fehlendes;
 }
 

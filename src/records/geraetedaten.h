@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "platform/text.h"
+#include "records/angaben.h"
 #include "session/session.h"
 #include "store/recordset.h"
 
@@ -15,11 +15,8 @@ struct Gerätedaten {
     Schlüssel gerätID = 0; ///< 0 for one that is not stored yet
 };
 
-struct Fehlendes {
-    std::optional<int> erste; ///< the first of the four that is missing, from 0
-    platform::Text text;      ///< what to complete, in words
-};
-/// A blank one is missing, unless it was blank before.
+/// Which of the four are missing, in their order, and what to complete. A blank one is missing,
+/// unless it was blank before.
 Fehlendes fehlendeAngaben(const Gerätedaten &gerät,
                           const std::optional<Gerätedaten> &vorher = std::nullopt);
 

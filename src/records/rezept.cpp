@@ -65,8 +65,9 @@ void rezeptToleranzÄndern(Schlüssel rezeptID, const QString &toleranz) {
 }
 
 Recordset rezeptSchritte(Schlüssel rezeptID) {
-    return gespeicherteSchritte(rezeptID, {"Leistungsmessung  ", "Power Measurement"},
-                                {"Drehzahlmessung  ", "Speed Measurement"});
+    return Schrittliste(ordentlicheRezepte.schritte)
+        .lesen(rezeptID, {"Leistungsmessung  ", "Power Measurement"},
+               {"Drehzahlmessung  ", "Speed Measurement"});
 }
 
 void sitzungsrezeptEinsetzen() try {

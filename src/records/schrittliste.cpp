@@ -73,19 +73,32 @@ bool Schrittliste::vorhanden(Schlüssel rezeptID, int nummer) const {
 
 void Schrittliste::anlegen(Schlüssel rezeptID, const Schritt &schritt) const {
     prüfen(schritt);
-    execute("INSERT INTO %1 (RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart) "
-            "VALUES (?, ?, ?, ?, ?)",
-            {rezeptID, QString::number(schritt.nummer), schritt.drehzahl, CDbl(schritt.leistung),
-             QString::number(schritt.prüfart)});
+    QString columns = "RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart";
+    QString values = "?, ?, ?, ?, ?";
+    Datenbank::Params params{rezeptID, QString::number(schritt.nummer), schritt.drehzahl,
+                             CDbl(schritt.leistung), QString::number(schritt.prüfart)};
+    for (const auto &[name, wert] : mWeitere) {
+        columns += QString(", ") + name;
+        values += ", ?";
+        params.push_back(schritt.*wert);
+    }
+    gDatenbank.execute(QString("INSERT INTO %1 (%2) VALUES (%3)").arg(mTabelle, columns, values),
+                       params);
 }
 
 void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
     prüfen(schritt);
-    satzÄndern(QString("UPDATE %1 SET Drehzahl = ?, Leistung = ?, Prüfart = ? "
-                       "WHERE Val(Prüfschritt) = ? AND RezeptID = ?")
-                   .arg(mTabelle),
-               {schritt.drehzahl, CDbl(schritt.leistung), QString::number(schritt.prüfart),
-                schritt.nummer, rezeptID});
+    QString columns = "Drehzahl = ?, Leistung = ?, Prüfart = ?";
+    Datenbank::Params params{schritt.drehzahl, CDbl(schritt.leistung),
+                             QString::number(schritt.prüfart)};
+    for (const auto &[name, wert] : mWeitere) {
+        columns += QString(", %1 = ?").arg(name);
+        params.push_back(schritt.*wert);
+    }
+    params.insert(params.end(), {schritt.nummer, rezeptID});
+    satzÄndern(QString("UPDATE %1 SET %2 WHERE Val(Prüfschritt) = ? AND RezeptID = ?")
+                   .arg(mTabelle, columns),
+               params);
 }
 
 void Schrittliste::umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const {
@@ -109,20 +122,29 @@ void Schrittliste::löschen(Schlüssel rezeptID, int nummer) const {
         überspringen([&] { umnummerieren(rezeptID, step); });
 }
 
-Recordset gespeicherteSchritte(Schlüssel rezeptID, const Text &leistung, const Text &drehzahl) {
-    return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
-                           "IIF(Prüfart='1', ?, ?) AS Messart "
-                           "FROM Rezepte WHERE RezeptID = ? ORDER BY Val(Prüfschritt)",
+/// Asks for the two words of the type.
+QString Schrittliste::spalten() const {
+    QString columns = "SELECT Prüfschritt, Drehzahl, Leistung, IIF(Prüfart='1', ?, ?) AS Messart";
+    for (const Schrittspalte &spalte : mWeitere)
+        columns += QString(", ") + spalte.name;
+    return columns + " FROM " + mTabelle;
+}
+
+Recordset Schrittliste::lesen(Schlüssel rezeptID, const Text &leistung,
+                              const Text &drehzahl) const {
+    return gDatenbank.open(spalten() + " WHERE RezeptID = ? ORDER BY Val(Prüfschritt)",
                            {inSprache(leistung), inSprache(drehzahl), rezeptID});
 }
 
-Recordset kopierteSchritte() {
-    return gDatenbank.open("SELECT Prüfschritt, Drehzahl, Leistung, "
-                           "IIF(Prüfart='1', ?, ?) AS Messwerte FROM ÄndRez_temp",
+Recordset Schrittliste::alle() const {
+    return gDatenbank.open(spalten(),
                            {inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
 }
 
-Schritt schrittAus(const Recordset &rows) {
-    return {rows["Prüfschritt"].whole(), angezeigt(rows["Drehzahl"]), angezeigt(rows["Leistung"]),
-            Prüfart::ausAnfang(rows[3].text())};
+Schritt Schrittliste::schrittAus(const Recordset &rows) const {
+    Schritt schritt{rows["Prüfschritt"].whole(), angezeigt(rows["Drehzahl"]),
+                    angezeigt(rows["Leistung"]), Prüfart::ausAnfang(rows["Messart"].text())};
+    for (const auto &[name, wert] : mWeitere)
+        schritt.*wert = rows[name].text();
+    return schritt;
 }

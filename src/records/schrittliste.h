@@ -16,6 +16,14 @@ struct Schritt {
     QString drehzahl; ///< 1/min, as it stands on the screen
     QString leistung; ///< W, as it stands on the screen
     int prüfart = 0;
+    QString ssCode = {};       ///< line to the ergometer
+    QString messSchritte = {}; ///< number of six-round measurements
+};
+
+/// A further column of a table of steps, and what a step has there.
+struct Schrittspalte {
+    const char *name;
+    QString Schritt::*wert;
 };
 
 /// One number that becomes another.
@@ -31,8 +39,10 @@ std::vector<Umnummerierung> lückeSchließen(int nummer, int größte);
 
 class Schrittliste {
   public:
-    /// The table has the columns of Rezepte; its name stays valid.
-    explicit Schrittliste(const char *tabelle) : mTabelle(tabelle) {}
+    /// Besides the first five columns of Rezepte those named are written and read. All names stay
+    /// valid.
+    explicit Schrittliste(const char *tabelle, std::vector<Schrittspalte> weitere = {})
+        : mTabelle(tabelle), mWeitere(std::move(weitere)) {}
 
     // What fails is raised; TypeMismatch, before anything is written, for a step that lacks a
     // number or a type.
@@ -45,21 +55,21 @@ class Schrittliste {
     /// The steps behind it move down by one. A statement that fails is skipped.
     void löschen(Schlüssel rezeptID, int nummer) const;
 
+    // For a grid: Prüfschritt, Drehzahl, Leistung, the type in words as Messart, further columns.
+
+    /// The steps of a recipe in their order.
+    Recordset lesen(Schlüssel rezeptID, const platform::Text &leistung = Prüfart::leistungText,
+                    const platform::Text &drehzahl = Prüfart::drehzahlText) const;
+    /// All rows as the table gives them.
+    Recordset alle() const;
+    /// The row on which the cursor stands, numbers in the number format of the session.
+    Schritt schrittAus(const Recordset &rows) const;
+
   private:
+    QString spalten() const;
     int execute(const char *sql, const std::vector<QVariant> &params) const;
     void umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const;
 
     const char *mTabelle;
+    std::vector<Schrittspalte> mWeitere;
 };
-
-// Lists for the grid of an editor: Prüfschritt, Drehzahl, Leistung and the type as it is shown.
-
-/// The steps of a stored recipe in their order; the type stands in Messart, in these words.
-Recordset gespeicherteSchritte(Schlüssel rezeptID,
-                               const platform::Text &leistung = Prüfart::leistungText,
-                               const platform::Text &drehzahl = Prüfart::drehzahlText);
-/// All rows of the working copy as the table gives them; the type stands in Messwerte.
-Recordset kopierteSchritte();
-
-/// The row on which the recordset stands, numbers in the number format of the session.
-Schritt schrittAus(const Recordset &rows);

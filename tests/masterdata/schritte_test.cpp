@@ -1,9 +1,8 @@
 // Test steps of a recipe: what may be entered, and how their numbers are kept without gaps.
 #include <random>
 
-#include "masterdata/pruefschritt.h"
+#include "masterdata/rezeptart.h"
 #include "platform/runtime.h"
-#include "records/schrittliste.h"
 #include "session/session.h"
 #include "workshop.h"
 
@@ -25,7 +24,7 @@ TEST_F(Steps, LimitsUnderBothNumberFormats) {
         for (const Case &c : cases(tables[language - 1])) {
             QString judged;
             for (const auto check : {drehzahlPrüfen, leistungPrüfen}) {
-                for (const auto &limits : {grenzenNeuRezept, grenzenÄndRez})
+                for (const auto &limits : {neuesRezept.grenzen, geändertesRezept.grenzen})
                     judged += "gnb"[static_cast<int>(check(c.in, limits))];
             }
             EXPECT_EQ(judged, c.out) << c;
@@ -33,7 +32,8 @@ TEST_F(Steps, LimitsUnderBothNumberFormats) {
         // 57.3 and 63.7 N m; 60 to the letter under either decimal sign; what is none counts as 0
         for (const Case &c : cases("100, 600 -> 1 | 60, 400 -> 0 | 10, 62.8 -> 1 | 10, 62,8 -> 1 | "
                                    "10, 62,9 -> 0 | nichts, 600 -> 1"))
-            EXPECT_EQ(drehmomentZulässig(c.in_(0), c.in_(1), grenzenNeuRezept), c.out == "1") << c;
+            EXPECT_EQ(drehmomentZulässig(c.in_(0), c.in_(1), neuesRezept.grenzen), c.out == "1")
+                << c;
     }
 }
 
@@ -50,8 +50,10 @@ TEST_F(Steps, TypesAndWhatIsMissing) {
         EXPECT_FALSE(Prüfart::ausTaste(""));
     }
     QStringList missing;
-    for (int bits = 0; bits < 8; ++bits)
-        missing += fehlendeAngaben(bits & 1, bits & 2, bits & 4);
+    for (int bits = 0; bits < 8; ++bits) {
+        const Schritt step{1, bits & 1 ? "" : "60", bits & 2 ? "" : "50", bits & 4 ? 0 : 1};
+        missing += fehlendeAngaben(neuesRezept.angaben(step, {})).text.german;
+    }
     EXPECT_EQ(missing.join(';'),
               "; die Drehzahl; die Leistung; die Drehzahl, Leistung; die Prüfart; die Drehzahl und "
               "Prüfart; die Leistung und Prüfart; die Drehzahl, Leistung und Prüfart");
@@ -62,7 +64,8 @@ class StepTable : public Steps, public testing::WithParamInterface<const char *>
     StepTable() { gDatenbank.openFile(datenbankName); }
 
     static constexpr Schlüssel own = 700, other = 701;
-    const Schrittliste steps{GetParam()};
+    const Schrittliste steps{
+        GetParam(), {{"SSCode", &Schritt::ssCode}, {"MessSchritte", &Schritt::messSchritte}}};
 
     static Schritt step(int number, int power) {
         return {number, "60", QString::number(power), 1 + power % 2};
@@ -128,12 +131,11 @@ TEST_P(StepTable, NumbersStayWithoutGapOrDouble) {
 TEST_P(StepTable, NumbersAreReadUnderAnyFormat) {
     for (const int writerAndReader : {11, 12, 21, 22}) {
         setLanguage(writerAndReader / 10);
-        steps.anlegen(own, {1, platform::CStr(60.5), platform::CStr(75.5), 2});
+        steps.anlegen(own, {1, platform::CStr(60.5), platform::CStr(75.5), 2, "W[13]", "3"});
         setLanguage(writerAndReader % 10);
-        const Schritt read = schrittAus(GetParam() == QString("Rezepte") ? gespeicherteSchritte(own)
-                                                                         : kopierteSchritte());
-        EXPECT_EQ(read.drehzahl + ' ' + read.leistung,
-                  platform::CStr(60.5) + ' ' + platform::CStr(75.5));
+        const Schritt read = steps.schrittAus(steps.lesen(own));
+        EXPECT_EQ(read.drehzahl + ' ' + read.leistung + ' ' + read.ssCode + read.messSchritte,
+                  platform::CStr(60.5) + ' ' + platform::CStr(75.5) + " W[13]3");
         EXPECT_EQ(read.nummer * 10 + read.prüfart, 12);
         steps.löschen(own, 1);
     }
