@@ -2,7 +2,6 @@
 
 #include <QLineEdit>
 
-#include "protocols/protokollliste.h"
 #include "records/protokollnummer.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -28,27 +27,24 @@ constexpr int zeileLetztes = 2;
 frmProtokollNr::frmProtokollNr()
     : Protokolldialog({"       Prüfprotokoll: ", "       Test Protocol: "}) {
     ui.setupUi(this);
-    ui.cmbVorhanden->setCompleter(nullptr); // 1 is not to become 12 while it is typed
-    onClick(ui.obNeu, [this] { obNeu_Click(); });
+    mWahl.verbinden(
+        {ui.obNeu, ui.obVorhanden, ui.txtNeu, ui.lbProtokollID, ui.cmbVorhanden, ui.pbok});
+    onClick(ui.obNeu, [this] { mWahl.neuGewählt(); });
     onClick(ui.obVorhanden, [this] { obVorhanden_Click(); });
     onClick(ui.obLetztes, [this] { obLetztes_Click(); });
     for (QRadioButton *wahl : {ui.obNeu, ui.obVorhanden, ui.obLetztes})
         onEnter(wahl, [wahl] { wahl->click(); });
     onEnter(ui.txtNeu, [this] { ui.pbok->setFocus(); });
-    on(ui.cmbVorhanden, &QComboBox::activated, [this] { cmbVorhanden_Click(); });
-    on(ui.cmbVorhanden, &QComboBox::editTextChanged, [this] { cmbVorhanden_Change(); });
+    on(ui.cmbVorhanden, &QComboBox::activated, [this] { mWahl.eintragGewählt(); });
+    on(ui.cmbVorhanden, &QComboBox::editTextChanged, [this] { mWahl.eintragGeändert(); });
     onEnter(ui.cmbVorhanden, [this] { cmbVorhanden_KeyPress(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
-    onClick(ui.pbexit, [this] { pbexit_Click(); });
-}
-
-void frmProtokollNr::beschriften() {
-    beschriftungenSetzen(ui, *this, english);
+    onClick(ui.pbexit, [this] { abschließen(abgebrochen); });
 }
 
 void frmProtokollNr::Form_Load() try {
     gMessenAktiv = false;
-    beschriften();
+    beschriftungenSetzen(ui, *this, english);
     messfensterVerbergen();
     fnc_LeereProtokolle();
     ui.obLetztes->setEnabled(fnc_LetztesProtokollPrüfen());
@@ -59,9 +55,7 @@ void frmProtokollNr::Form_Load() try {
 }
 
 void frmProtokollNr::fnc_LeereProtokolle() try {
-    const QStringList leere = leereProtokolle();
-    protokollListeFüllen(*ui.cmbVorhanden, leere);
-    ui.obVorhanden->setEnabled(!leere.isEmpty());
+    mWahl.leereZeigen();
 } catch (const Fehler &fehler) {
     fehlerBox("9701 - ", fehler);
 }
@@ -81,60 +75,34 @@ bool frmProtokollNr::fnc_LetztesProtokollPrüfen() try {
 }
 
 void frmProtokollNr::fnc_ProtokollNrNeu() try {
-    ui.obNeu->setEnabled(false); // without a number there is no new protocol
-    gProtokollID = nächsteProtokollNr();
-    ui.lbProtokollID->setText(QString::number(gProtokollID) + " - ");
-    ui.obNeu->setEnabled(true);
+    mWahl.nummerVergeben();
 } catch (const Fehler &fehler) {
     fehlerBox("9702 - ", fehler);
 }
 
 /// Puts the list beside the option that it belongs to.
-void frmProtokollNr::listeZeigen(int zeile) {
+void frmProtokollNr::listeLegen(int zeile) {
     ui.gridWahl->addWidget(ui.cmbVorhanden, zeile, 1);
     ui.cmbVorhanden->lineEdit()->setReadOnly(zeile == zeileLetztes);
-    ui.cmbVorhanden->show();
-    ui.txtNeu->hide();
-}
-
-void frmProtokollNr::obNeu_Click() {
-    ui.cmbVorhanden->hide();
-    ui.txtNeu->show();
-    ui.txtNeu->setFocus();
-    ui.pbok->setEnabled(true);
 }
 
 void frmProtokollNr::obVorhanden_Click() {
     ui.cmbVorhanden->clear();
     fnc_LeereProtokolle();
-    listeZeigen(zeileVorhanden);
-    ui.cmbVorhanden->setFocus();
-    ui.pbok->setEnabled(!ui.cmbVorhanden->currentText().isEmpty());
+    listeLegen(zeileVorhanden);
+    mWahl.vorhandenGewählt();
 }
 
 void frmProtokollNr::obLetztes_Click() {
-    protokollListeFüllen(*ui.cmbVorhanden,
-                         {QString::number(mnLetztesProtokollID) + '-' + msLetzterName});
-    listeZeigen(zeileLetztes);
-    ui.pbok->setEnabled(true);
+    mWahl.einzigenZeigen(QString::number(mnLetztesProtokollID) + '-' + msLetzterName);
+    listeLegen(zeileLetztes);
+    mWahl.vorhandenGewählt();
     ui.pbok->setFocus();
 }
 
-void frmProtokollNr::cmbVorhanden_Click() {
-    gProtokollWahl = protokollNrAus(ui.cmbVorhanden->currentText());
-    ui.pbok->setEnabled(true);
-}
-
-void frmProtokollNr::cmbVorhanden_Change() {
-    gProtokollWahl = protokollNrAus(ui.cmbVorhanden->currentText());
-    if (ui.obVorhanden->isChecked() && ui.cmbVorhanden->currentText().isEmpty())
-        ui.pbok->setEnabled(false);
-}
-
 void frmProtokollNr::cmbVorhanden_KeyPress() try {
-    if (ui.obLetztes->isChecked())
-        return; // its one entry is not looked up
-    protokollNachschlagen(*ui.cmbVorhanden, *ui.pbok);
+    if (!ui.obLetztes->isChecked()) // its one entry is not looked up
+        mWahl.nachschlagen();
 } catch (const Fehler &fehler) {
     fehlerBox("9703- ", fehler);
 }
@@ -143,12 +111,12 @@ void frmProtokollNr::cmbVorhanden_KeyPress() try {
 // good for another try, and leaving after a failure cannot clear away a foreign head.
 void frmProtokollNr::pbok_Click() try {
     if (ui.obVorhanden->isChecked()) {
-        const QStringList gewählt = protokolleMitNummer(gProtokollWahl); // typed without Enter
-        if (gewählt.isEmpty() || !kopfNachführen(gProtokollWahl)) {
-            protokollFehlt(*ui.cmbVorhanden, *ui.pbok);
+        if (!mWahl.gewählterEintrag()) // it may have been typed without Enter
+            return;
+        if (!kopfNachführen(gProtokollWahl)) {
+            mWahl.fehltMelden();
             return;
         }
-        ui.cmbVorhanden->setEditText(gewählt[0]);
         gProtokollID = gProtokollWahl;
     } else if (ui.obNeu->isChecked()) {
         if (ui.txtNeu->text().isEmpty())
@@ -163,10 +131,6 @@ void frmProtokollNr::pbok_Click() try {
     fehlerBox("9704- ", fehler);
     if (fehler.number() == platform::fehlernummer::DuplicateKey)
         fnc_ProtokollNrNeu(); // another program took the number
-}
-
-void frmProtokollNr::pbexit_Click() {
-    abschließen(abgebrochen);
 }
 
 QString frmProtokollNr::titel() const {

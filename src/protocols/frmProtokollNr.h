@@ -3,6 +3,7 @@
 #pragma once
 
 #include "protocols/protokolldialog.h"
+#include "protocols/protokollwahl.h"
 #include "session/session.h"
 #include "ui_frmProtokollNr.h"
 
@@ -16,22 +17,18 @@ class frmProtokollNr : public Protokolldialog {
     QString titel() const override;
 
   private:
-    void beschriften();
     void fnc_LeereProtokolle();
     bool fnc_LetztesProtokollPrüfen();
     void fnc_ProtokollNrNeu();
-    void listeZeigen(int zeile);
+    void listeLegen(int zeile);
 
-    void obNeu_Click();
     void obVorhanden_Click();
     void obLetztes_Click();
-    void cmbVorhanden_Click();
-    void cmbVorhanden_Change();
     void cmbVorhanden_KeyPress();
     void pbok_Click();
-    void pbexit_Click();
 
     Ui::frmProtokollNr ui;
+    Protokollwahl mWahl;
     Schlüssel mnLetztesProtokoll = 0;   // highest with measured values
     Schlüssel mnLetztesProtokollID = 0; // the same once it may be continued
     QString msLetzterName;

@@ -1,0 +1,102 @@
+#include "protocols/protokollwahl.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "records/protokollnummer.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
+
+namespace {
+
+/// The box stays empty unless there is exactly one entry.
+void füllen(QComboBox &liste, const QStringList &einträge) {
+    liste.clear();
+    liste.addItems(einträge);
+    liste.setCurrentIndex(einträge.size() == 1 ? 0 : -1);
+}
+
+} // namespace
+
+void Protokollwahl::verbinden(const Felder &felder) {
+    mFelder = felder;
+    mFelder.liste->setCompleter(nullptr); // 1 is not to become 12 while it is typed
+}
+
+void Protokollwahl::leereZeigen() {
+    const QStringList leere = leereProtokolle();
+    füllen(*mFelder.liste, leere);
+    mFelder.vorhanden->setEnabled(!leere.isEmpty());
+}
+
+void Protokollwahl::nummerVergeben() {
+    mFelder.neu->setEnabled(false);
+    gProtokollID = nächsteProtokollNr();
+    mFelder.nummer->setText(QString::number(gProtokollID) + " - ");
+    mFelder.neu->setEnabled(true);
+}
+
+void Protokollwahl::neuGewählt() {
+    mFelder.liste->hide();
+    mFelder.name->show();
+    mFelder.name->setFocus();
+    mFelder.ok->setEnabled(true);
+}
+
+void Protokollwahl::vorhandenGewählt() {
+    mFelder.name->hide();
+    mFelder.liste->show();
+    mFelder.liste->setFocus();
+    mFelder.ok->setEnabled(!mFelder.liste->currentText().isEmpty());
+}
+
+void Protokollwahl::eintragGewählt() {
+    gProtokollWahl = protokollNrAus(mFelder.liste->currentText());
+    mFelder.ok->setEnabled(true);
+}
+
+void Protokollwahl::eintragGeändert() {
+    gProtokollWahl = protokollNrAus(mFelder.liste->currentText());
+    if (mFelder.vorhanden->isChecked() && mFelder.liste->currentText().isEmpty())
+        mFelder.ok->setEnabled(false);
+}
+
+void Protokollwahl::nachschlagen() {
+    if (mFelder.liste->currentText().isEmpty() || !gewählterEintrag())
+        return;
+    mFelder.ok->setEnabled(true);
+    mFelder.ok->setFocus();
+}
+
+std::optional<QString> Protokollwahl::gewählterEintrag() {
+    const QStringList gefunden = protokolleMitNummer(gProtokollWahl);
+    if (gefunden.isEmpty()) {
+        fehltMelden();
+        return {};
+    }
+    if (gefunden.size() > 1) {
+        mFelder.liste->clearEditText();
+        mFelder.ok->setEnabled(false);
+        meldung({"Es ist ein Fehler aufgetreten. Bitte suchen Sie das Protokoll in der Liste.",
+                 "An error has occured. Please search the list for the protocol!"},
+                platform::Exclamation, {"Fehler!", "Error!"});
+        return {};
+    }
+    mFelder.liste->setEditText(gefunden[0]);
+    return gefunden[0];
+}
+
+void Protokollwahl::fehltMelden() {
+    meldung({"Dieses Protokoll gibt es nicht!", "This protocol does not exist!"},
+            platform::Exclamation, {"Meldung", "Message"});
+    mFelder.liste->setFocus();
+    mFelder.ok->setEnabled(false);
+}
+
+void Protokollwahl::einzigenZeigen(const QString &eintrag) {
+    füllen(*mFelder.liste, {eintrag});
+}

@@ -1,0 +1,54 @@
+// The choice of a protocol: a new one under the next number, or one of those that have no measured
+// values yet, whose number may be typed. A part of the dialogs that ask for it; the screen wires
+// the events. The number that stands in the list's box is kept in gProtokollWahl.
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+class Protokollwahl {
+  public:
+    struct Felder {
+        QRadioButton *neu, *vorhanden;
+        QLineEdit *name;  ///< of a new one
+        QLabel *nummer;   ///< of a new one
+        QComboBox *liste; ///< of existing ones
+        QPushButton *ok;
+    };
+    /// Called once, before everything else.
+    void verbinden(const Felder &felder);
+
+    /// Fills the list; without an entry there is no such option. Raises what the store raises.
+    void leereZeigen();
+    /// Takes the next number; without one there is no new protocol. Raises what the store raises.
+    void nummerVergeben();
+
+    // The two options
+    void neuGewählt();
+    /// Fill the list before.
+    void vorhandenGewählt();
+
+    // Events of the list's box
+    void eintragGewählt();
+    void eintragGeändert();
+    /// Enter: completes the entry and goes on to the button, or says that there is none.
+    void nachschlagen();
+
+    /// The entry of the number in the box, which it then shows; says so when there is none.
+    std::optional<QString> gewählterEintrag();
+    /// Says that the protocol does not exist and goes back to the list.
+    void fehltMelden();
+
+    /// Offers this one entry alone.
+    void einzigenZeigen(const QString &eintrag);
+
+  private:
+    Felder mFelder{};
+};
