@@ -13,13 +13,6 @@
 
 using namespace platform;
 
-MSComm MSComm1;
-Timer Timer1;
-Timer tiDrehzahl;
-bool gTimeoutTimer1 = false;
-bool gTimeoutDrehzahl = false;
-std::int16_t gKeineMeldung = 0;
-
 namespace {
 
 constexpr int echoMilliseconds = 2'000;

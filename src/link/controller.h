@@ -12,13 +12,13 @@
 #include "platform/serial.h"
 #include "windows/screen.h"
 
-extern MSComm MSComm1;
-extern Timer Timer1;     ///< time-out of an exchange; ticks and beeps until disabled
-extern Timer tiDrehzahl; ///< time-out of the frequency stream, ticks once
+inline MSComm MSComm1;
+inline Timer Timer1;     ///< time-out of an exchange; ticks and beeps until disabled
+inline Timer tiDrehzahl; ///< time-out of the frequency stream, ticks once
 
-extern bool gTimeoutTimer1;
-extern bool gTimeoutDrehzahl;
-extern std::int16_t gKeineMeldung; ///< 1 or more keeps fnc_BefehlSenden silent
+inline bool gTimeoutTimer1 = false;
+inline bool gTimeoutDrehzahl = false;
+inline std::int16_t gKeineMeldung = 0; ///< 1 or more keeps fnc_BefehlSenden silent
 
 /// The places of the fixed waits between operations on the line, in counted rounds.
 inline constexpr long kurzeVerzögerung = 20'000;    // 1 ms

@@ -6,8 +6,6 @@
 #include "session/session.h"
 #include "windows/msgbox.h"
 
-Timer tiEinlauf(1000);
-
 namespace {
 
 void tick() {

@@ -3,7 +3,7 @@
 
 #include "platform/clock.h"
 
-extern Timer tiEinlauf; ///< one tick a second while the countdown runs
+inline Timer tiEinlauf(1000); ///< one tick a second while the countdown runs
 
 /// Connects the timer; called once before the first use, and again after the clock was replaced.
 void einlaufVorbereiten();
