@@ -1,5 +1,6 @@
 #include "measure/bewertung.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/fehler.h"
@@ -105,14 +106,13 @@ void drehzahlBewerten(Urteil &urteil, const SchrittTexte &texte, const Spezifika
 }
 
 bool endprüfungBewerten(const SchrittTexte &texte, const Spezifikation &spezifikation) {
-    const double watt = Round(spezifikation.watt);
     const double deviation = std::fabs(difference(texte.soll_P, texte.ist_P_torvena));
     const double share = hundredths(texte.soll_P) / 100 * spezifikation.prozent;
-    const bool power = deviation <= (share < watt ? watt : share);
-    const bool speed =
-        spezifikation.grenzAbw == 0 ||
-        std::fabs(Val(texte.ist_n_torvena) - Val(texte.ist_n_ergom)) <= spezifikation.grenzAbw;
-    return power && speed;
+    const bool power = deviation <= std::max(share, spezifikation.watt);
+    if (spezifikation.grenzAbw == 0)
+        return power;
+    const double speed = std::fabs(difference(texte.ist_n_torvena, texte.ist_n_ergom));
+    return speed <= spezifikation.grenzAbw && power;
 }
 
 double fnc_LeistungsToleranz(double prozent, double watt, const QString &soll_P) {

@@ -23,7 +23,7 @@ void drehzahlBewerten(Urteil &urteil, const SchrittTexte &texte, const Spezifika
                       const Unsicherheiten &muDrehzahl);
 
 /// The one verdict of a final test: power and, unless grenzAbw is 0, speed. `prozent` is a share
-/// here (0.05 for 5 %). Raises TypeMismatch.
+/// here (0.05 for 5 %). Raises TypeMismatch for a text that is no number: that is no verdict.
 bool endprüfungBewerten(const SchrittTexte &texte, const Spezifikation &spezifikation);
 
 /// The permitted deviation of power in W at the set-point, by the greater of share and minimum.

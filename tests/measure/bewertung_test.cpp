@@ -138,20 +138,22 @@ TEST_F(Bewertung, FailuresLeaveTheVerdictsOfTheStepBefore) {
 }
 
 TEST_F(Bewertung, OfAFinalTest) {
-    // W, W measured, 1/min measured, read; share, W, 1/min permitted: 0 is no limit of speed, 2.5 W
-    // count as 2, and of 62,90 1/min 62 is what is compared
+    // W, W measured, 1/min measured, read; share, W, 1/min permitted: 0 is no limit of speed
     for (const Case &c : cases(R"(
             200 210,00 60,00 50 0.05 5 0 -> good | 200 210,01 60,00 60 0.05 5 0 -> bad
-            | 200 190,00 60,00 60 0.05 5 2 -> good | 200 190,00 60,00 63 0.05 5 2 -> bad
-            | 200 190,00 62,90 60 0.05 5 2 -> good | 200 190,00 57,00 60 0.05 5 2 -> bad
-            | 50 52,00 60 60 0 2.5 2 -> good | 50 52,01 60 60 0 2.5 2 -> bad
-            | 50 52,00 60 60 0 1.5 2 -> good | 100 100,01 60 60 0 0 0 -> bad)")) {
+            | 200 190,00 60,10 58,10 0.05 5 2 -> good | 200 190,00 60,00 63 0.05 5 2 -> bad
+            | 200 190,00 62,01 60 0.05 5 2 -> bad | 200 210,01 60,00 60 0.05 5 2 -> bad
+            | 0 3,00 60 60 0.05 3 2 -> good | 50 3,01 60 60 0.05 3 2 -> bad)")) {
         const QStringList in = c.in.split(' ');
         EXPECT_EQ(endprüfungBewerten({"60", in[0], in[2], in[1], in[3]},
                                      {in[4].toDouble(), in[5].toDouble(), in[6].toShort()}),
                   c.out == "good")
             << c;
     }
+    EXPECT_EQ(raised([] {
+                  endprüfungBewerten({"60", "100", "60", "100", ""}, {0.05, 3, 2});
+              }),
+              TypeMismatch);
 }
 
 TEST_F(Bewertung, PermittedDeviationAndTorque) {
