@@ -1,7 +1,5 @@
 #include "measure/frmNachStatNPK.h"
 
-#include "measure/frmMessen.h"
-#include "measure/frmStatMessen.h"
 #include "session/session.h"
 #include "session/sprache.h"
 
@@ -50,11 +48,11 @@ void frmNachStatNPK::pbok_Click() {
 
 void frmNachStatNPK::Form_Unload() {
     // Without a finished correction no measurement may follow, whatever closed this screen.
-    auto *korrektur = loaded<frmStatMessen>();
+    Screen *korrektur = loaded(frm::StatMessen);
     const bool weiter =
         gFormStatus == Formstatus::Keiner && gMessStatus != Messstatus::Verweigert && korrektur;
     if (korrektur)
         korrektur->unload();
     if (weiter)
-        form<frmMessen>().show();
+        form(frm::Messen).show();
 }

@@ -35,7 +35,7 @@ constexpr long weiterVerzögerung = 1'000'000; // counted rounds
 frmStatMessen::frmStatMessen() {
     ui.setupUi(this);
     ui.laMeldung->hide();
-    onClick(ui.pbWeiter, [this] { pbWeiter_Click(); });
+    onClick(ui.pbWeiter, gefangen("4042 - ", [this] { pbWeiter_Click(); }));
     onClick(ui.pbAbbrechen, [this] { pbAbbrechen_Click(); });
 }
 
@@ -89,6 +89,8 @@ void frmStatMessen::Form_Unload() {
     }
     if (gMessStatus == Messstatus::Verweigert)
         motorfenster().setMessenEnabled(false);
+    if (gFormStatus == Formstatus::Korrektur)
+        gFormStatus = Formstatus::Abgebrochen; // left without pbWeiter, it does not begin anew
 }
 
 void frmStatMessen::fnc_StatVorbereiten() {
@@ -185,7 +187,7 @@ void frmStatMessen::fnc_StatSchreiben() try {
     fehlerBox("4003 - ", fehler);
 }
 
-void frmStatMessen::pbWeiter_Click() try {
+void frmStatMessen::pbWeiter_Click() {
     fnc_PortÖffnen(); // the line may have been away
     MSComm1.Output("-");
     countedDelay(weiterVerzögerung);
@@ -197,8 +199,6 @@ void frmStatMessen::pbWeiter_Click() try {
     }
     beep();
     form(frm::NachStatNPK).showModal();
-} catch (const Fehler &fehler) {
-    fehlerBox("4042 - ", fehler);
 }
 
 void frmStatMessen::pbAbbrechen_Click() {

@@ -65,4 +65,13 @@ JOURNEY_P(CorrectionFaults, ValuesThatCannotBeWritten) {
         ? correctionAborted ; pbAbbrechen ; @Desktop ; cannot pbMessen ; shaft ~ factor=none)");
 }
 
+JOURNEY(CorrectionFaults, ClosedWithinACalibration) {
+    co_await go("select ; direction");
+    gFormStatus = Formstatus::Korrektur;
+    form(frm::StatMessen).show();
+    co_await go("@VorStatNPK ; close ; @StatMessen");
+    form(frm::StatMessen).unload();
+    EXPECT_EQ(gFormStatus, Formstatus::Abgebrochen);
+}
+
 } // namespace
