@@ -53,8 +53,7 @@ constexpr Beschriftung english[] = {
 
 } // namespace
 
-frmMessen::frmMessen()
-    : mDrehzahlfeld{nullptr, drehzahlgrenze}, mLeistungsfeld{nullptr, leistungsgrenze} {
+frmMessen::frmMessen() {
     ui.setupUi(this);
     ui.DBGrid1->setModel(&mRaster);
     ui.DBGrid1->verticalHeader()->hide();
@@ -73,8 +72,7 @@ void frmMessen::Form_Load() try {
     motorfenster().disableFront();
     fnc_BefehlSenden("E", gDrehrichtung, "00");
     beschriftungenSetzen(ui, *this, english);
-    ui.cmbMessArt->addItems({inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
-    ui.cmbMessArt->setEditText({});
+    mEingabe.listeFüllen();
     ansichtZeigen();
     fnc_EingabeSperren();
     korrFSetzen(1);
@@ -175,10 +173,7 @@ void frmMessen::fnc_PrüfschrittAnzeigen() try {
         fnc_MesswerteAnzeigen();
     ui.txtIST_n_ergom->clear();
     const int art = dataRezept["Prüfart"].whole();
-    if (art == Prüfart::Leistung)
-        messArtZeigen(art, inSprache(Prüfart::leistungText));
-    else if (art == Prüfart::Drehzahl)
-        messArtZeigen(art, inSprache(Prüfart::drehzahlText));
+    mEingabe.artZeigen(art);
     ergometerFeldZeigen(art != Prüfart::Leistung);
 } catch (const Fehler &fehler) {
     fehlerBox("3017 - ", fehler);
@@ -191,15 +186,9 @@ void frmMessen::fnc_MesswerteAnzeigen() {
 }
 
 SchrittTexte frmMessen::texte() const {
-    return {ui.txtSoll_n->text(),
-            ui.txtSoll_P->text(),
-            ui.txtIST_n_torvena->text(),
-            ui.txtIST_P_torvena->text(),
-            ui.txtIST_n_ergom->text(),
-            ui.txtIST_D_torvena->text(),
-            ui.laPrSchritt->text(),
-            mMessArt,
-            mBasisDrehzahl};
+    return {ui.txtSoll_n->text(),        ui.txtSoll_P->text(),      ui.txtIST_n_torvena->text(),
+            ui.txtIST_P_torvena->text(), ui.txtIST_n_ergom->text(), ui.txtIST_D_torvena->text(),
+            ui.laPrSchritt->text(),      mEingabe.prüfart(),        mBasisDrehzahl};
 }
 
 bool frmMessen::schrittAbschließen() {

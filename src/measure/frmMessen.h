@@ -8,7 +8,7 @@
 #include "controls/recordsetmodel.h"
 #include "measure/empfang.h"
 #include "measure/messablauf.h"
-#include "measure/sollwert.h"
+#include "measure/sollwerteingabe.h"
 #include "measure/speichernregel.h"
 #include "session/screens.h"
 #include "ui_frmMessen.h"
@@ -54,15 +54,9 @@ class frmMessen : public Screen, private Messanzeige, private Messfenster {
     void navigieren(int zeile);
 
     // Set-points and free input (frmMessen_eingabe.cpp)
-    struct Sollwertfeld {
-        QLineEdit *box;
-        const Sollwertgrenze &grenze;
-        QString alt = {}; ///< what stood there when it got the keyboard
-    };
     void eingabenVerdrahten();
     void fnc_EingabeSperren();
     void fnc_MesswerteLeeren();
-    bool fnc_DrehmomentPrüfen();
     void korrigieren(double schritt, bool taste);
     void korrFSetzen(double faktor);
     void korrekturErledigt();
@@ -71,10 +65,7 @@ class frmMessen : public Screen, private Messanzeige, private Messfenster {
     void pbAusführen_Click();
     void neuMessen();
     void pbFreieEing_Click();
-    bool cmbMessArt_KeyPress(QKeyEvent &taste);
-    void messArtZeigen(int prüfart, const QString &wort);
     void ausführenFreigeben();
-    void sollwertPrüfen(const Sollwertfeld &feld);
     bool freieEingabe() const { return ui.laPrSchritt->text() == freierSchritt; }
     void txtIST_n_ergom_LostFocus();
     void ergometerFeldZeigen(bool zeigen);
@@ -100,6 +91,7 @@ class frmMessen : public Screen, private Messanzeige, private Messfenster {
     };
 
     Ui::frmMessen ui;
+    Sollwerteingabe mEingabe{ui};
     RecordsetModel mRaster;
     Recordset dataRezept;
     Recordset dataMesswerte;
@@ -107,13 +99,10 @@ class frmMessen : public Screen, private Messanzeige, private Messfenster {
     Messansicht mAnsicht;
     Zustand mZustand;
     Werte mWerte = Werte::Fremde;
-    Sollwertfeld mDrehzahlfeld;
-    Sollwertfeld mLeistungsfeld;
 
     double mBasisDrehzahl = 0; ///< speed of the step before the correction factor, 1/min
     double mKorrF = 1;
     double mGesendeteKorrF = 1;
-    int mMessArt = Prüfart::Keine; ///< of the word in txtMessArt
     bool mDrehzNull = false;
     bool mRezeptEnde = false;
     bool mDurchgangLäuft = false;

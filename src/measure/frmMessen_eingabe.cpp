@@ -4,18 +4,16 @@
 #include <QKeyEvent>
 
 #include "platform/runtime.h"
-#include "session/drehmoment.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
-#include "windows/waiting.h"
 
 using namespace platform;
 
 void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbAusführen, [this] { pbAusführen_Click(); });
     onClick(ui.pbÜbernehmen, [this] {
-        if (!fnc_DrehmomentPrüfen())
+        if (!mEingabe.drehmomentZulässig())
             return;
         korrekturErledigt();
         neuMessen();
@@ -30,12 +28,13 @@ void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbMinus, [this] { korrigieren(-0.1, false); });
 
     enterChain({ui.txtSoll_n, ui.txtSoll_P, ui.cmbMessArt});
-    mDrehzahlfeld.box = ui.txtSoll_n;
-    mLeistungsfeld.box = ui.txtSoll_P;
-    for (Sollwertfeld *feld : {&mDrehzahlfeld, &mLeistungsfeld}) {
-        onGotFocus(feld->box, [feld] { feld->alt = feld->box->text(); });
-        onLostFocus(feld->box, [this, feld] { sollwertPrüfen(*feld); });
-        on(feld->box, &QLineEdit::textChanged, [this] { ausführenFreigeben(); });
+    for (QLineEdit *box : {ui.txtSoll_n, ui.txtSoll_P}) {
+        onGotFocus(box, [this, box] { mEingabe.merken(box); });
+        onLostFocus(box, [this, box] {
+            if (freieEingabe()) // on a step of the recipe the pass alone sets the limit
+                mEingabe.prüfen(box);
+        });
+        on(box, &QLineEdit::textChanged, [this] { ausführenFreigeben(); });
     }
     onKey(ui.txtSoll_n, [this](QKeyEvent &taste) {
         const bool plus = taste.text() == "+";
@@ -47,10 +46,10 @@ void frmMessen::eingabenVerdrahten() {
 
     on(ui.cmbMessArt, &QComboBox::editTextChanged, [this] { ausführenFreigeben(); });
     on(ui.cmbMessArt, &QComboBox::activated, [this] {
-        messArtZeigen(ui.cmbMessArt->currentIndex() + 1, ui.cmbMessArt->currentText());
-        ergometerFeldZeigen(mMessArt == Prüfart::Drehzahl);
+        mEingabe.artAusListe();
+        ergometerFeldZeigen(mEingabe.istDrehzahl());
     });
-    onKey(ui.cmbMessArt, [this](QKeyEvent &taste) { return cmbMessArt_KeyPress(taste); });
+    onKey(ui.cmbMessArt, [this](QKeyEvent &taste) { return mEingabe.artTaste(taste); });
     onEnter(ui.cmbMessArt, [this] {
         if (ui.pbAusführen->isEnabled())
             ui.pbAusführen->setFocus();
@@ -69,10 +68,7 @@ void frmMessen::eingabenVerdrahten() {
 }
 
 void frmMessen::fnc_EingabeSperren() {
-    setFreeInput(ui.txtSoll_n, false);
-    setFreeInput(ui.txtSoll_P, false);
-    ui.cmbMessArt->hide();
-    ui.txtMessArt->show();
+    mEingabe.sperren();
     mZustand.ungesendet = false;
     zustandZeigen();
 }
@@ -86,20 +82,9 @@ void frmMessen::fnc_MesswerteLeeren() {
     zustandZeigen();
 }
 
-bool frmMessen::fnc_DrehmomentPrüfen() {
-    if (drehmoment(ValBeider(ui.txtSoll_n->text()), ValBeider(ui.txtSoll_P->text())) <=
-        grenzDrehmoment)
-        return true;
-    meldung({"Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!",
-             "The permissible torque has been exeeded!\r\nPlease enter other values!"},
-            Critical, {"Drehmoment<=60Nm", "Torque<=60Nm"});
-    ui.txtSoll_n->setFocus();
-    return false;
-}
-
 // A key gives no button to take the speed over with: on a step of the recipe the step is sent anew.
 void frmMessen::korrigieren(double schritt, bool taste) {
-    const double neu = ValBeider(ui.txtSoll_n->text()) + schritt;
+    const double neu = mEingabe.drehzahl() + schritt;
     if (mBasisDrehzahl != 0 && !freieEingabe()) // the factor is one of the steps of the recipe
         korrFSetzen(neu / mBasisDrehzahl);
     ui.txtSoll_n->setText(CStr(neu));
@@ -129,10 +114,10 @@ void frmMessen::werteVerwerfen() {
 }
 
 void frmMessen::pbAusführen_Click() {
-    if (!fnc_DrehmomentPrüfen())
+    if (!mEingabe.drehmomentZulässig())
         return;
-    ergometerFeldZeigen(mMessArt != Prüfart::Leistung);
-    if (mMessArt == Prüfart::Drehzahl)
+    ergometerFeldZeigen(!mEingabe.istLeistung());
+    if (mEingabe.istDrehzahl())
         ui.txtIST_n_ergom->setFocus();
     neuMessen();
 }
@@ -159,65 +144,18 @@ void frmMessen::pbFreieEing_Click() {
 
 void frmMessen::fnc_FreieEingabe() {
     ui.laPrSchritt->setText(freierSchritt);
-    ui.txtMessArt->hide();
-    ui.cmbMessArt->show();
-    for (Sollwertfeld *feld : {&mDrehzahlfeld, &mLeistungsfeld}) {
-        setFreeInput(feld->box, true);
-        feld->box->setText(mDrehzNull ? "0" : "");
-        feld->alt = feld->box->text();
-    }
-    if (!mDrehzNull) {
-        ui.cmbMessArt->setEditText({});
-        ui.txtSoll_n->setFocus();
-        return;
-    }
-    messArtZeigen(Prüfart::Leistung, Prüfart::leistungText.german); // in both languages
-    ui.cmbMessArt->setEditText(ui.txtMessArt->text());
-    pbAusführen_Click();
+    mEingabe.öffnen(mDrehzNull);
+    if (mDrehzNull)
+        pbAusführen_Click();
     mDrehzNull = false;
-}
-
-bool frmMessen::cmbMessArt_KeyPress(QKeyEvent &taste) {
-    const bool enter = taste.key() == Qt::Key_Return || taste.key() == Qt::Key_Enter;
-    const bool löschen = taste.key() == Qt::Key_Backspace || taste.key() == Qt::Key_Delete;
-    const bool zeichen = !taste.text().isEmpty() && taste.text().at(0).isPrint();
-    const bool befehl =
-        taste.modifiers() & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier);
-    if (enter || befehl || (!zeichen && !löschen))
-        return false;
-    const auto wort = zeichen ? Prüfart::ausTaste(taste.text()) : std::nullopt;
-    if (wort)
-        messArtZeigen(Prüfart::ausText(*wort), *wort);
-    else if (zeichen)
-        beep();
-    ui.cmbMessArt->setEditText(wort.value_or(QString()));
-    return true;
-}
-
-void frmMessen::messArtZeigen(int prüfart, const QString &wort) {
-    mMessArt = prüfart;
-    ui.txtMessArt->setText(wort);
 }
 
 // In free input: the button follows from the three fields.
 void frmMessen::ausführenFreigeben() {
     if (!freieEingabe())
         return;
-    mZustand.ungesendet = !ui.txtSoll_n->text().isEmpty() && !ui.txtSoll_P->text().isEmpty() &&
-                          !ui.cmbMessArt->currentText().isEmpty();
+    mZustand.ungesendet = mEingabe.vollständig();
     werteVerwerfen();
-}
-
-void frmMessen::sollwertPrüfen(const Sollwertfeld &feld) {
-    if (feld.box->text().isEmpty() || !freieEingabe())
-        return; // on a step of the recipe the pass alone sets the limit
-    const Text *mangel = feld.grenze.mangel(feld.box->text());
-    if (!mangel)
-        return;
-    const QString gut = feld.alt;
-    meldung(*mangel, Critical, {"Eingabefehler", "Input Error"});
-    feld.box->setText(gut);
-    feld.box->setFocus();
 }
 
 void frmMessen::txtIST_n_ergom_LostFocus() {
@@ -237,8 +175,8 @@ void frmMessen::ergometerFeldZeigen(bool zeigen) {
 }
 
 void frmMessen::meldungGeschlossen() {
-    ergometerFeldZeigen(mMessArt == Prüfart::Drehzahl);
-    if (mMessArt == Prüfart::Drehzahl)
+    ergometerFeldZeigen(mEingabe.istDrehzahl());
+    if (mEingabe.istDrehzahl())
         ui.txtIST_n_ergom->setFocus();
 }
 

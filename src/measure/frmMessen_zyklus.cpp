@@ -32,7 +32,7 @@ void frmMessen::fnc_Messzyklus() {
 
 void frmMessen::durchgang() try {
     // Set-points that are still being typed are nothing to measure.
-    const bool offen = freieEingabe() && !ui.txtSoll_n->isReadOnly();
+    const bool offen = freieEingabe() && mEingabe.offen();
     if (gMessStatus == Messstatus::Messen && !offen) {
         gMessenFreigabe = true;
         fnc_MesswerteLeeren(); // what stands there belongs to another set-point
@@ -42,13 +42,12 @@ void frmMessen::durchgang() try {
         korrekturErledigt();
         // The keyboard waits where the step wants something: the reading of the ergometer, or
         // nothing until pbSpeichern takes it, but not on a button that moves to another step.
-        if (mMessArt == Prüfart::Drehzahl && mAnsicht.bedient)
+        if (mEingabe.istDrehzahl() && mAnsicht.bedient)
             ui.txtIST_n_ergom->setFocus();
         else
             ui.DBGrid1->setFocus();
         mWerte = Werte::Angefragte;
-        const double drehzahl = ValBeider(ui.txtSoll_n->text());
-        if (drehzahl < 0 || drehzahl > höchsterSollwert) {
+        if (mEingabe.drehzahl() < 0 || mEingabe.drehzahl() > höchsterSollwert) {
             sollwertAblehnen();
         } else if (fnc_SollwertSenden()) {
             countedDelay(sehrKurzeVerzögerung);
@@ -65,10 +64,18 @@ void frmMessen::durchgang() try {
     }
     gMessenFreigabe = false;
     gefangen("3014 - ", datenstromBeenden)(); // what was asked for goes on
+    const bool nichtsLäuft = gMessStatus == Messstatus::Messen || gMessStatus == Messstatus::Ruhe;
+    if (!mAnsicht.bedient && nichtsLäuft &&
+        gDesktopAktiv) // nobody is there to go on with a shaft that turns
+        gMessStatus = Messstatus::Verweigert;
     verteilen();
 } catch (const Fehler &fehler) {
     gMessenFreigabe = false;
     fehlerBox("3014 - ", fehler);
+    if (!mAnsicht.bedient) {
+        gMessStatus = Messstatus::Ende;
+        requestActivation(*this); // which leaves the screen
+    }
 }
 
 void frmMessen::verteilen() {
@@ -98,7 +105,7 @@ void frmMessen::verteilen() {
 
 // Nothing goes out and the shaft turns on as it does; another speed or another step leads on.
 void frmMessen::sollwertAblehnen() {
-    meldung(drehzahlgrenze.außerhalb, Critical, {"Eingabefehler", "Input Error"});
+    meldung(drehzahlAußerhalb, Critical, {"Eingabefehler", "Input Error"});
     mZustand.schritteFrei = mZustand.freiErlaubt = true;
     mZustand.freiGewählt = freieEingabe();
     werteVerwerfen();

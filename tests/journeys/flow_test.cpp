@@ -82,4 +82,11 @@ JOURNEY(Counting, AStopWins) {
         stored Prüfschritt == ; idle == yes)");
 }
 
+// A shaft that turns does not wait for somebody to come.
+JOURNEY(Counting, IsNotLeftToItself) {
+    co_await go(R"(
+        select ; direction ; run ; until log ~ 1/2 ; ? lineLost ; ? refused ; ? noPort ; line out ; @Desktop
+        motor == on ; can pbMotaus)");
+}
+
 } // namespace
