@@ -48,7 +48,8 @@ void SechsRundenEmpfang::stop() {
     Timer2_6R.setInterval(0);
 }
 
-void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) try {
+void SechsRundenEmpfang::fnc_SechsRundenEmpfang(const Zeigen &zeigen,
+                                                const std::function<bool()> &abgelöst) try {
     Timer1_6R.setEnabled(false);
     Timer2_6R.setInterval(transmissionMilliseconds);
     Timer2_6R.setEnabled(false);
@@ -57,19 +58,19 @@ void SechsRundenEmpfang::fnc_SechsRundenEmpfang(Messanzeige &anzeige) try {
     SechsRundenDecoder decoder;
     using Ereignis = SechsRundenDecoder::Ereignis;
     stromLesen(
-        [&anzeige] {
+        [&abgelöst] {
             return gDesktopAktiv && gMessStatus == Messstatus::Messen && !gTimeoutTimer1 &&
-                   !anzeige.abgelöst();
+                   !abgelöst();
         },
         [&](std::uint8_t byte) {
             const Ereignis was = decoder.feed(byte);
             if (was == Ereignis::Sync || was == Ereignis::Leistung)
                 Timer1_6R.setEnabled(was == Ereignis::Sync);
             if (was != Ereignis::Sync && was != Ereignis::Nichts)
-                anzeige.zeige(was, decoder.value());
+                zeigen(was, decoder.value());
         },
         [this] { Timer1_6R.setEnabled(true); });
-    if (gTimeoutTimer1 && !anzeige.abgelöst()) {
+    if (gTimeoutTimer1 && !abgelöst()) {
         gTimeoutTimer1 = false;
         Timer2_6R.setEnabled(false);
         meldung({"Nach 18 Sek kein Empfang", "No reception after 18 sec"}, Exclamation,

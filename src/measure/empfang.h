@@ -2,19 +2,10 @@
 // comes. Runs until the measurement's status says otherwise.
 #pragma once
 
+#include <functional>
+
 #include "measure/sechsrunden.h"
 #include "platform/clock.h"
-
-/// Where the values go, and who may end the reception.
-class Messanzeige {
-  public:
-    virtual ~Messanzeige() = default;
-    /// A value has come: speed in 1/min, torque in N m, power in W. With the power the frame is
-    /// complete.
-    virtual void zeige(SechsRundenDecoder::Ereignis was, double wert) = 0;
-    /// A newer pass wants the line: leave without touching anything.
-    virtual bool abgelöst() const = 0;
-};
 
 /// Sends "6" and waits a moment. Shows its failures in a box.
 void fnc_SechsRundenStarten();
@@ -23,9 +14,12 @@ void fnc_SechsRundenStarten();
 class SechsRundenEmpfang {
   public:
     SechsRundenEmpfang();
-    /// Returns when gMessStatus is above 0, gTimeoutTimer1 is set, the desktop is gone or a newer
-    /// pass asks. Pumps events, so buttons act meanwhile. Shows its failures in a box.
-    void fnc_SechsRundenEmpfang(Messanzeige &anzeige);
+    using Zeigen = std::function<void(SechsRundenDecoder::Ereignis, double wert)>;
+    /// Hands on each value: speed in 1/min, torque in N m, and power in W, which completes a frame.
+    /// Returns when gMessStatus is above 0, gTimeoutTimer1 is set, the desktop is gone, or a newer
+    /// pass wants the line (`abgelöst`): then without touching anything. Pumps events, so buttons
+    /// act meanwhile. Shows its failures in a box.
+    void fnc_SechsRundenEmpfang(const Zeigen &zeigen, const std::function<bool()> &abgelöst);
 
   private:
     void stop();

@@ -13,7 +13,7 @@
 #include "session/screens.h"
 #include "ui_frmMessen.h"
 
-class frmMessen : public Screen, private Messanzeige, private Messfenster {
+class frmMessen : public Screen, private Messfenster {
   public:
     static constexpr frm id = frm::Messen;
     frmMessen();
@@ -35,8 +35,8 @@ class frmMessen : public Screen, private Messanzeige, private Messfenster {
     void verteilen();
     void sollwertAblehnen();
     bool fnc_SollwertSenden();
-    void zeige(SechsRundenDecoder::Ereignis was, double wert) override;
-    bool abgelöst() const override { return mNeuerDurchgang || unloaded(); }
+    void zeige(SechsRundenDecoder::Ereignis was, double wert);
+    bool abgelöst() const { return mNeuerDurchgang || unloaded(); }
 
     // Steps, saving, leaving (frmMessen.cpp)
     void ansichtZeigen();

@@ -27,7 +27,8 @@ void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbPlus, [this] { korrigieren(+0.1, false); });
     onClick(ui.pbMinus, [this] { korrigieren(-0.1, false); });
 
-    enterChain({ui.txtSoll_n, ui.txtSoll_P, ui.cmbMessArt});
+    enterChain({ui.txtSoll_n, ui.txtSoll_P, ui.cmbMessArt, ui.pbAusführen});
+    enterChain({ui.txtIST_n_ergom, ui.pbSpeichern});
     for (QLineEdit *box : {ui.txtSoll_n, ui.txtSoll_P}) {
         onGotFocus(box, [this, box] { mEingabe.merken(box); });
         onLostFocus(box, [this, box] {
@@ -50,15 +51,6 @@ void frmMessen::eingabenVerdrahten() {
         ergometerFeldZeigen(mEingabe.istDrehzahl());
     });
     onKey(ui.cmbMessArt, [this](QKeyEvent &taste) { return mEingabe.artTaste(taste); });
-    onEnter(ui.cmbMessArt, [this] {
-        if (ui.pbAusführen->isEnabled())
-            ui.pbAusführen->setFocus();
-    });
-
-    onEnter(ui.txtIST_n_ergom, [this] {
-        if (ui.pbSpeichern->isEnabled())
-            ui.pbSpeichern->setFocus();
-    });
     onLostFocus(ui.txtIST_n_ergom, [this] { txtIST_n_ergom_LostFocus(); });
     for (const auto &[box, name] : {std::pair{ui.txtIST_n_torvena, Messbox::n_torvena},
                                     {ui.txtIST_D_torvena, Messbox::D_torvena},

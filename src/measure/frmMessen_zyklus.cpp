@@ -57,7 +57,8 @@ void frmMessen::durchgang() try {
             zustandZeigen();
             if (mWerte == Werte::Angefragte) // nothing was changed meanwhile
                 mWerte = Werte::Eigene;
-            mEmpfang.fnc_SechsRundenEmpfang(*this);
+            mEmpfang.fnc_SechsRundenEmpfang([this](auto was, double wert) { zeige(was, wert); },
+                                            [this] { return abgelöst(); });
         }
         if (abgelöst())
             return;

@@ -136,22 +136,16 @@ bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
     if (!werte)
         return false;
     const StatikSoll soll{gOffsetSoll, gGainSoll, gMomentFaktor};
-    if (offset) {
-        gOffsetRoh = mittelwert(*werte);
-        const StatikErgebnis ergebnis = offsetErgebnis(gOffsetRoh, soll);
-        ui.txtOffset2->setText(Format(ergebnis.drift, "0.000"));
-        ui.lblOffsetDiff->setText(Format(ergebnis.drift, "0.000"));
-        gOffsetDiff = ergebnis.drift * 1000;
-        ui.AnzWert_O->setBalken(driftBalken(gOffsetDiff));
-    } else {
-        gGainRoh = mittelwert(*werte);
-        const StatikErgebnis ergebnis = gainErgebnis(gGainRoh, gOffsetRoh, soll);
+    (offset ? gOffsetRoh : gGainRoh) = mittelwert(*werte);
+    const StatikErgebnis ergebnis =
+        offset ? offsetErgebnis(gOffsetRoh, soll) : gainErgebnis(gGainRoh, gOffsetRoh, soll);
+    if (!offset)
         ui.txtGain1->setText(Format(ergebnis.soll, "0.000"));
-        ui.txtGain2->setText(Format(ergebnis.ist, "0.000"));
-        ui.lblGainDiff->setText(Format(ergebnis.drift, "0.000"));
-        gGainDiff = ergebnis.drift * 1000;
-        ui.AnzWert_G->setBalken(driftBalken(gGainDiff));
-    }
+    (offset ? ui.txtOffset2 : ui.txtGain2)->setText(Format(ergebnis.ist, "0.000"));
+    (offset ? ui.lblOffsetDiff : ui.lblGainDiff)->setText(Format(ergebnis.drift, "0.000"));
+    double &drift = offset ? gOffsetDiff : gGainDiff;
+    drift = ergebnis.drift * 1000;
+    (offset ? ui.AnzWert_O : ui.AnzWert_G)->setBalken(driftBalken(drift));
     return true;
 } catch (const Fehler &fehler) {
     fehlerBox("4002 - ", fehler);

@@ -9,22 +9,22 @@ namespace {
 
 const QByteArray frame = QByteArray::fromHex("ffff17700bb8004650"); // 60.00, 30.00, 180.00
 
-class Reception : public support::ScriptTest, protected Messanzeige {
+class Reception : public support::ScriptTest {
   protected:
     Reception() { MSComm1.setPortOpen(true); }
-    void zeige(SechsRundenDecoder::Ereignis what, double value) override {
+    void receive() {
         using Ereignis = SechsRundenDecoder::Ereignis;
-        const QString name = what == Ereignis::Drehzahl     ? "n"
-                             : what == Ereignis::Drehmoment ? "D"
-                             : what == Ereignis::Leistung   ? "P"
-                                                            : "?";
-        shown += name + QString::number(value) + ' ';
-        if (name == endsAt)
-            gMessStatus = Messstatus::Speichern;
+        reception.fnc_SechsRundenEmpfang(
+            [this](Ereignis what, double value) {
+                const QString name = what == Ereignis::Drehzahl     ? "n"
+                                     : what == Ereignis::Drehmoment ? "D"
+                                                                    : "P";
+                shown += name + QString::number(value) + ' ';
+                if (name == endsAt)
+                    gMessStatus = Messstatus::Speichern;
+            },
+            [this] { return superseded; });
     }
-    bool abgelöst() const override { return superseded; }
-
-    void receive() { reception.fnc_SechsRundenEmpfang(*this); }
 
     SechsRundenEmpfang reception;
     QString shown;
@@ -94,53 +94,27 @@ TEST_F(Reception, TimeOutsAndALostLineAreTold) {
     fnc_SechsRundenStarten();
 }
 
-class StaticReception : public support::ScriptTest {
-  protected:
-    StaticReception() { MSComm1.setPortOpen(true); }
-    /// What is received of the samples first to last, sent 10 ms from now; those up to `wild` are
-    /// far off.
-    std::optional<std::vector<double>> receive(const Statikstrom &stream, int samples, int wild) {
+TEST_F(Reception, OfSamplesDropsWhatSettlesAndCountsTheRest) {
+    const auto received = [this](const Statikstrom &stream) {
         QByteArray bytes;
-        for (int sample = 1; sample <= samples; ++sample) {
-            const int raw = sample <= wild ? 9'999'990 : 10 * sample;
-            bytes += QByteArray("\xff").append(static_cast<char>(stream.code));
-            for (const int shift : {16, 8, 0})
-                bytes.append(static_cast<char>(raw >> shift));
+        for (int sample = 1; sample <= 200; ++sample) { // a raw value is its number, or far off
+            const int raw = sample <= stream.verworfen ? 9'999'990 : 10 * sample;
+            for (const int byte : {255, int(stream.code), raw >> 16, raw >> 8, raw})
+                bytes.append(static_cast<char>(byte));
         }
-        arrive({bytes + QByteArray("\xff").append(static_cast<char>(stream.code))}, 10);
+        arrive({bytes}, 10);
         script.written.clear();
-        counted.clear();
-        return statikEmpfangen(
-            stream, [this](int count) { counted += QString::number(count) + ' '; },
-            [this] { return unwanted; });
-    }
-    QString counted;
-    bool unwanted = false;
-};
-
-TEST_F(StaticReception, DropsWhatSettlesAndCountsTheRest) {
-    auto values = receive({codeGain}, 200, 150);
-    ASSERT_TRUE(values);
-    EXPECT_EQ(values->size(), 25u);
-    EXPECT_DOUBLE_EQ(mittelwert(*values), 163) << "of 151 to 175";
-    EXPECT_TRUE(counted.startsWith("1 2 ") && counted.endsWith(" 24 25 ")) << counted;
+        const auto values = statikEmpfangen(
+            stream, [this](int count) { shown += QString::number(count) + ' '; },
+            [] { return false; });
+        return values.value_or(std::vector<double>());
+    };
+    EXPECT_EQ(received({codeOffset, 0, 3}), (std::vector<double>{1, 2, 3}));
+    EXPECT_EQ(shown + script.written, "1 2 3 f-");
+    const std::vector<double> values = received({codeGain});
+    ASSERT_EQ(values.size(), 25u);
+    EXPECT_DOUBLE_EQ(mittelwert(values), 163) << "of 151 to 175";
     EXPECT_EQ(script.written, "t-");
-    values = receive({codeOffset, 0, 3}, 3, 0);
-    ASSERT_TRUE(values);
-    EXPECT_EQ(*values, (std::vector<double>{1, 2, 3}));
-    EXPECT_EQ(script.written, "f-");
-}
-
-TEST_F(StaticReception, EndsWithoutValues) {
-    expectKnown("noStream");
-    const double start = clock.elapsed();
-    EXPECT_FALSE(receive({codeOffset, 0, 3}, 2, 0));
-    EXPECT_NEAR(clock.elapsed() - start, 15'000, 20);
-    EXPECT_EQ(script.written, "f-");
-    clock.after(14'000, [this] { unwanted = true; });
-    EXPECT_FALSE(receive({codeOffset, 0, 3}, 2, 0));
-    EXPECT_EQ(script.written, "f-");
-    EXPECT_FALSE(gTimeoutTimer1 || Timer1.enabled());
 }
 
 } // namespace
