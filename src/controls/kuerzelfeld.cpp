@@ -37,5 +37,6 @@ void Kürzelfeld::geändert() {
         eintragSetzen(mFeld, *word);
         mFeld->lineEdit()->selectAll();
     }
-    mDanach(word.has_value());
+    if (mDanach)
+        mDanach(word.has_value());
 }

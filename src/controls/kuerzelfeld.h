@@ -23,8 +23,8 @@ std::optional<QString> kürzelwort(std::span<const Kürzel> kürzel, const QStri
 class Kürzelfeld {
   public:
     /// Called once, before everything else. `wort` knows the word of a key, which comes in upper
-    /// case; a word goes into the box. Afterwards `danach` is told whether there was one; without a
-    /// new key it is not called. Does the box keep its last key, every change reads it anew.
+    /// case; a word goes into the box. Afterwards `danach`, if any, is told whether there was one.
+    /// A key counts for one change, or with `behält` for all up to the next key.
     void verbinden(QComboBox *feld, std::function<std::optional<QString>(const QString &)> wort,
                    std::function<void(bool gefunden)> danach, bool behält = false);
 

@@ -1,6 +1,7 @@
 #include "controls/recordsetmodel.h"
 
 #include "platform/runtime.h"
+#include "store/sqltext.h"
 
 void RecordsetModel::setSpalten(std::vector<Spalte> spalten) {
     beginResetModel();
@@ -35,6 +36,10 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const {
     if (column < 0)
         return {};
     const QVariant &value = mRows.at(index.row(), column);
+    if (spalte.format == "dd.mm.yyyy")
+        return datumText(datumAus(value.toString()));
+    if (!spalte.format.isEmpty() && !value.isNull())
+        return Format(Feld(value).number(), spalte.format);
     return value.typeId() == QMetaType::Double ? QVariant(CStr(value.toDouble())) : value;
 }
 

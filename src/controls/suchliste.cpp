@@ -10,12 +10,14 @@
 
 #include <algorithm>
 
+#include "controls/eintrag.h"
+
 void Suchliste::verbinden(QComboBox *feld, QListView *liste) {
     mFeld = feld;
     mListe = liste;
     mAuswahl = new QStringListModel(feld);
     mModell = new QStringListModel(liste);
-    mFeld->setCompleter(nullptr); // it would write into the box while a person types
+    ohneErgänzung(mFeld);
     mFeld->setModel(mAuswahl);
     if (auto *popup = qobject_cast<QListView *>(mFeld->view()))
         popup->setUniformItemSizes(true); // measuring each of 20 000 rows takes a second

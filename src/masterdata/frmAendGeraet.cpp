@@ -10,7 +10,7 @@ void frmÄndGerät::Form_Load() try {
     setSpeichernEnabled(false);
     vorbereiten();
     const auto *geräte = loaded<frmGerät>();
-    const Schlüssel shown = geräte ? geräte->gerätID() : 0;
+    const Schlüssel shown = geräte ? geräte->gezeigt() : 0;
     if (shown == 0)
         return;
     eintragen(gerätLesen(shown));

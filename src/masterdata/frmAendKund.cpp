@@ -10,7 +10,7 @@ void frmÄndKund::Form_Load() try {
     setSpeichernEnabled(false);
     vorbereiten();
     const auto *kunden = loaded<frmKunden>();
-    const Schlüssel shown = kunden ? kunden->kundenID() : 0;
+    const Schlüssel shown = kunden ? kunden->gezeigt() : 0;
     if (shown == 0)
         return;
     eintragen(kundeLesen(shown));

@@ -8,7 +8,6 @@
 
 #include "controls/eintrag.h"
 #include "controls/umbruch.h"
-#include "masterdata/frmRezepte.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
@@ -121,11 +120,9 @@ void frmÄndRez::Form_Activate() try {
 void frmÄndRez::zeigen() {
     mEditor.beschriften();
     fnc_Fill_CmbToleranz(ui.cmbToleranz);
-    if (const auto *list = loaded<frmRezepte>()) {
-        mToleranz = list->toleranz();
-        eintragSetzen(ui.cmbToleranz, mToleranz);
-        ui.laRezName->setText(umbrechbar(list->rezeptname()));
-    }
+    mToleranz = gRezeptName;
+    eintragSetzen(ui.cmbToleranz, mToleranz);
+    ui.laRezName->setText(umbrechbar(gRezeptWahl));
     mEditor.lesen(0);
     mEditor.leeren();
     mOhneSchritt = true;
@@ -160,7 +157,7 @@ bool frmÄndRez::kopieAbschließen(bool übernehmen) {
 }
 
 void frmÄndRez::Form_Unload() {
-    auto *list = loaded<frmRezepte>();
+    Screen *list = loaded(frm::Rezepte);
     if (!list)
         return;
     hide();            // so that the list comes up over the window that it came from

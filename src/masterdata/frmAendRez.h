@@ -1,6 +1,7 @@
 // Changes the steps of a recipe on their working copy in ÄndRez_temp, which whoever opens this
-// screen has filled. Leaving decides whether the copy goes back. The specification is no part of
-// the copy: a new one is written at once and stays.
+// screen has filled: recipe and specification stand in gRezeptID, gRezeptWahl and gRezeptName.
+// Leaving decides whether the copy goes back. The specification is no part of the copy: a new one
+// is written at once and stays.
 #pragma once
 
 #include "controls/kuerzelfeld.h"

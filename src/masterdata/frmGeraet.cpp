@@ -1,10 +1,6 @@
 #include "masterdata/frmGeraet.h"
 
 #include <QLineEdit>
-#include <QSignalBlocker>
-
-#include <algorithm>
-#include <utility>
 
 #include "controls/umbruch.h"
 #include "session/auswahl.h"
@@ -34,113 +30,47 @@ constexpr Beschriftung english[] = {
     {"pbexit", "&Cancel"},
 };
 
-void erstGerätWählen() {
-    meldung({"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"}, Exclamation,
-            {"Achtung!", "Attention!"});
-}
-
 } // namespace
 
 frmGerät::frmGerät() {
     ui.setupUi(this);
-    sucheVerdrahten(
-        ui.cmbIdent, ui.lstIdent, [this] { cmbIdent_Change(); }, [this] { pbok_Click(); });
-    on(ui.cmbTyp, &QComboBox::currentIndexChanged, [this] { cmbTyp_Click(); });
+    const auto choose = gefangen("1102 - ", [this] { pbok_Click(); });
+    verdrahten({ui.cmbIdent,
+                ui.lstIdent,
+                ui.cmbTyp,
+                {"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"},
+                {"Achtung!", "Attention!"},
+                "1091 - ",
+                "1092 - ",
+                "1094 - ",
+                "1093 - "},
+               choose);
     enterChain({ui.cmbTyp, ui.cmbIdent});
-    onClick(ui.pbNeu, [this] { pbNeu_Click(); });
-    onClick(ui.pbchange, [this] { pbchange_Click(); });
+    onClick(ui.pbNeu, [this] { neuen(frm::NeuGerät); });
+    onClick(ui.pbchange, gefangen("1100 - ", [this] { mitGezeigtem(frm::ÄndGerät); }));
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });
-    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbok, choose);
     onClick(ui.pbexit, [this] { unload(); });
-    onEnter(this, [this] { pbok_Click(); });
-    onEscape([this] { unload(); });
-}
-
-QString frmGerät::gerätename() const {
-    return mGerätID == 0 ? QString() : ui.txtTyp->text();
-}
-
-QString frmGerät::identnummer() const {
-    return ui.txtIdentNr->text();
 }
 
 void frmGerät::beschriften() {
     beschriftungenSetzen(ui, *this, english);
     ui.cmbIdent->lineEdit()->setPlaceholderText(
         inSprache({"Nummer oder Teil davon", "Number or part of it"}));
-}
-
-void frmGerät::Form_Load() try {
-    beschriften();
-    mGeladen = true; // also when the reading fails: it would fail again
     ui.laKunde->setText(umbrechbar(auswahl().kunde));
-    listenLesen();
-    ui.cmbIdent->setFocus();
-} catch (const Fehler &fehler) {
-    fehlerBox("1091 - ", fehler);
 }
 
-void frmGerät::Form_Activate() {
-    if (!std::exchange(mGeladen, false))
-        fnc_ListeAktualisieren();
-}
-
-void frmGerät::listenLesen() {
-    const QString typ = ui.cmbTyp->currentText();
-    const Namensliste types(gerätetypen(gKundenID));
-    {
-        const QSignalBlocker quiet(ui.cmbTyp);
-        ui.cmbTyp->clear();
-        ui.cmbTyp->addItem({}); // all types
-        ui.cmbTyp->addItems(types.namen());
-    }
-    typSetzen(typ);
-    identnummernLesen();
-}
-
-void frmGerät::typSetzen(const QString &typ) {
-    const QSignalBlocker quiet(ui.cmbTyp);
-    ui.cmbTyp->setCurrentIndex(std::max(ui.cmbTyp->findText(typ), 0));
-}
-
-void frmGerät::identnummernLesen() {
-    const QStringList numbers = identnummern(gKundenID, ui.cmbTyp->currentText());
+void frmGerät::namenLesen(const QString &typ) {
+    const QStringList numbers = identnummern(gKundenID, typ);
     mSuche.füllen(numbers);
     mOhneNummer = numbers.size() - mSuche.namen().size();
     if (numbers.size() == 1) {
         mSuche.leeren();
         mSuche.übernehmen(numbers.first());
     }
-    fnc_GerätZeigen();
 }
 
-void frmGerät::fnc_ListeAktualisieren() try { listenLesen(); } catch (const Fehler &fehler) {
-    fehlerBox("1092 - ", fehler);
-}
-
-void frmGerät::fnc_ListeLeeren() {
-    typSetzen({});
-    mSuche.leeren();
-    fnc_ListeAktualisieren();
-    ui.cmbIdent->setFocus();
-}
-
-void frmGerät::fnc_GerätWählen(const QString &identNr) try {
-    mGeladen = true; // also when the reading fails: it would fail again
-    mSuche.leeren();
-    listenLesen();
-    if (!mSuche.namen().contains(identNr)) {
-        typSetzen({});
-        listenLesen();
-    }
-    mSuche.leeren(); // the only one of its type went in by itself
-    mSuche.übernehmen(identNr);
-    ui.cmbIdent->setFocus(); // Enter chooses it
-} catch (const Fehler &fehler) {
-    fehlerBox("1092 - ", fehler);
-}
-
-void frmGerät::fnc_GerätZeigen() {
+void frmGerät::detailsZeigen() {
     zeigen({}); // nothing that could be changed or deleted when the reading fails
     const Recordset row = ident().isEmpty() ? einzigesGerät() : gerätMitIdent(gKundenID, ident());
     if (!row.empty())
@@ -158,7 +88,8 @@ Recordset frmGerät::einzigesGerät() const {
 }
 
 void frmGerät::zeigen(const Gerätedaten &gerät) {
-    mGerätID = gerät.gerätID;
+    mGezeigt = gerät.gerätID;
+    mGerät = gerät;
     ui.txtTyp->setText(gerät.typ);
     ui.txtHersteller->setText(gerät.hersteller);
     ui.txtSerienNr->setText(gerät.serienNr);
@@ -170,20 +101,6 @@ void frmGerät::aktualisieren() {
                            (mSuche.name().isEmpty() && !mSuche.text().trimmed().isEmpty());
     ui.Label->setText(inSprache({"Ergometeranzahl: ", "Number Of Units In The List: "}) +
                       QString::number(mSuche.anzahl() + (gefiltert ? 0 : mOhneNummer)));
-}
-
-void frmGerät::cmbTyp_Click() try {
-    mSuche.leeren();
-    identnummernLesen();
-} catch (const Fehler &fehler) {
-    fehlerBox("1093 - ", fehler);
-}
-
-void frmGerät::cmbIdent_Change() try {
-    mSuche.textGeändert();
-    fnc_GerätZeigen();
-} catch (const Fehler &fehler) {
-    fehlerBox("1094 - ", fehler);
 }
 
 /// An ident number is meant as it stands: part of one could be another unit.
@@ -207,8 +124,7 @@ Recordset frmGerät::gewähltesGerät() {
         return row;
     }
     if (typ.isEmpty()) {
-        erstGerätWählen();
-        ui.cmbIdent->setFocus();
+        erstWählen();
         return {};
     }
     const Recordset rows = geräteVomTyp(gKundenID, typ);
@@ -224,7 +140,7 @@ Recordset frmGerät::gewähltesGerät() {
     return rows;
 }
 
-void frmGerät::pbok_Click() try {
+void frmGerät::pbok_Click() {
     const Recordset row = gewähltesGerät();
     if (row.empty())
         return;
@@ -237,33 +153,10 @@ void frmGerät::pbok_Click() try {
     if (answer == Yes)
         gDesktopFolge = Desktopfolge::Rezept;
     unload();
-} catch (const Fehler &fehler) {
-    fehlerBox("1102 - ", fehler);
-}
-
-bool frmGerät::gerätGezeigt() {
-    if (mGerätID == 0) {
-        erstGerätWählen();
-        ui.cmbIdent->setFocus();
-    }
-    return mGerätID != 0;
-}
-
-void frmGerät::pbNeu_Click() {
-    gNeuModus = false;
-    form(frm::NeuGerät).showModal();
-}
-
-void frmGerät::pbchange_Click() try {
-    if (gerätGezeigt())
-        form(frm::ÄndGerät).showModal();
-} catch (const Fehler &fehler) {
-    fehlerBox("1100 - ", fehler);
 }
 
 void frmGerät::pbDelete_Click() try {
-    if (gerätGezeigt())
-        form(frm::LöschGerät).showModal();
+    mitGezeigtem(frm::LöschGerät);
 } catch (const Fehler &fehler) {
     fehlerBox({"Fehler 1101 - ", "ERROR 1101 - "}, fehler, {"Achtung Fehler!", "ATTENTION !!"});
 }

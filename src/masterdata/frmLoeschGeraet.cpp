@@ -2,11 +2,9 @@
 
 #include "controls/umbruch.h"
 #include "masterdata/frmGeraet.h"
-#include "records/loeschung.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"
-#include "windows/msgbox.h"
 
 namespace {
 
@@ -21,51 +19,33 @@ constexpr Beschriftung english[] = {
 
 frmLöschGerät::frmLöschGerät() {
     ui.setupUi(this);
-    onClick(ui.pbYes, [this] { pbYes_Click(); });
-    onClick(ui.pbNo, [this] { unload(); });
-    onEscape([this] { unload(); });
+    verdrahten({Löschziel::Gerät,
+                ui.lbProtocollCount,
+                ui.pbYes,
+                ui.pbNo,
+                {"Daten wurden gelöscht!", "Data have been deleted!"},
+                "31002 - "});
 }
 
 void frmLöschGerät::beschriften() {
     beschriftungenSetzen(ui, *this, english);
 }
 
-void frmLöschGerät::Form_Load() try {
-    beschriften();
-    ui.pbNo->setFocus();
-    fnc_FrageZeigen();
-} catch (const Fehler &fehler) {
-    fehlerBox("31002 - ", fehler);
+Schlüssel frmLöschGerät::gewählt() const {
+    const auto *list = loaded<frmGerät>();
+    return list ? list->gezeigt() : 0;
 }
 
-void frmLöschGerät::fnc_FrageZeigen() {
-    ui.pbYes->setEnabled(false); // until it is known what Yes would delete
-    const auto *geräte = loaded<frmGerät>();
-    const Schlüssel shown = geräte ? geräte->gerätID() : 0;
-    if (shown == 0)
-        return;
-    const Text frage = gerätefrage(protokolleZählen(Löschziel::Gerät, shown), geräte->gerätename());
-    ui.lbProtocollCount->setText(umbrechbar(inSprache(frage)));
-    ui.laIdent->setText(umbrechbar(geräte->identnummer()));
-    mGerätID = shown;
-    ui.pbYes->setEnabled(true);
+platform::Text frmLöschGerät::frage(Schlüssel gerätID) {
+    const Gerätedaten &unit = loaded<frmGerät>()->gerät();
+    const platform::Text text = gerätefrage(protokolleZählen(Löschziel::Gerät, gerätID), unit.typ);
+    ui.laIdent->setText(umbrechbar(unit.identNr));
+    return text;
 }
 
-void frmLöschGerät::pbYes_Click() try {
-    löschen(Löschziel::Gerät, mGerätID, ui.lbProtocollCount);
-    meldung({"Daten wurden gelöscht!", "Data have been deleted!"}, platform::Information,
-            {"Bestätigung", "Confirmation"});
-    if (auto *geräte = loaded<frmGerät>())
-        geräte->fnc_ListeLeeren();
-    if (gGerätID == mGerätID)
+void frmLöschGerät::nachLöschen(Schlüssel gerätID) {
+    if (auto *list = loaded<frmGerät>())
+        list->fnc_ListeLeeren();
+    if (gGerätID == gerätID)
         gerätAbwählen();
-    unload();
-} catch (const Fehler &fehler) {
-    fehlerBox("31001 - ", fehler);
-    nachFehler();
-}
-
-/// Asks about what is left; the unit itself goes last.
-void frmLöschGerät::nachFehler() try { fnc_FrageZeigen(); } catch (const Fehler &fehler) {
-    fehlerBox("31002 - ", fehler);
 }

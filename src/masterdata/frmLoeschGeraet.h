@@ -3,7 +3,6 @@
 #pragma once
 
 #include "masterdata/loeschabfrage.h"
-#include "session/session.h"
 #include "ui_frmLoeschGeraet.h"
 
 class frmLöschGerät : public Löschabfrage {
@@ -11,15 +10,11 @@ class frmLöschGerät : public Löschabfrage {
     static constexpr frm id = frm::LöschGerät;
     frmLöschGerät();
 
-  protected:
-    void Form_Load() override;
-
   private:
-    void beschriften();
-    void fnc_FrageZeigen();
-    void pbYes_Click();
-    void nachFehler();
+    void beschriften() override;
+    Schlüssel gewählt() const override;
+    platform::Text frage(Schlüssel gerätID) override;
+    void nachLöschen(Schlüssel gerätID) override;
 
     Ui::frmLöschGerät ui;
-    Schlüssel mGerätID = 0;
 };

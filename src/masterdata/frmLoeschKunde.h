@@ -3,7 +3,6 @@
 #pragma once
 
 #include "masterdata/loeschabfrage.h"
-#include "session/session.h"
 #include "ui_frmLoeschKunde.h"
 
 class frmLöschKunde : public Löschabfrage {
@@ -11,16 +10,14 @@ class frmLöschKunde : public Löschabfrage {
     static constexpr frm id = frm::LöschKunde;
     frmLöschKunde();
 
-  protected:
-    void Form_Load() override;
-
   private:
-    void beschriften();
-    void fnc_FrageZeigen();
-    void pbok_Click();
-    void nachFehler();
+    void beschriften() override;
+    Schlüssel gewählt() const override;
+    platform::Text frage(Schlüssel kundenID) override;
+    void nachLöschen(Schlüssel kundenID) override;
+    void nachFehler(Schlüssel kundenID) override;
 
     Ui::frmLöschKunde ui;
-    Schlüssel mKundenID = 0;
-    int mGeräte = 0; ///< units of the customer
+    int mGeräte = 0; ///< units of the customer when it was asked last
+    int mGeräteZuvor = 0;
 };

@@ -25,13 +25,18 @@ constexpr Beschriftung english[] = {
 
 frmRezeptKopie::frmRezeptKopie() {
     ui.setupUi(this);
-    sucheVerdrahten(
-        ui.cmbRezeptname, ui.lstRezepte, [this] { cmbRezeptname_Change(); },
-        [this] { cmbRezeptname_Enter(); });
-    mGitter.verbinden(ui.DBGridRez);
+    verdrahten(
+        {ui.cmbRezeptname, ui.lstRezepte, ui.laInfo, ui.lbRezTol, ui.DBGridRez},
+        [this] {
+            mSuche.textGeändert();
+            cmbRezeptname_Click();
+        },
+        [this] { // a completed name shows its steps by the change of the text
+            if (rezeptFestlegen())
+                pbok_Click();
+        });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
-    onEscape([this] { unload(); });
 }
 
 void frmRezeptKopie::Form_Load() {
@@ -55,47 +60,21 @@ void frmRezeptKopie::Form_Unload() try {
     fehlerBox("1018 - ", fehler);
 }
 
-void frmRezeptKopie::fnc_ListeFüllen() try {
-    mSuche.füllen(rezeptnamen());
-    ui.laInfo->setText(inSprache({"Rezeptanzahl: ", "Number Of Recipes: "}) +
-                       QString::number(mSuche.namen().size()));
-} catch (const Fehler &fehler) {
+void frmRezeptKopie::fnc_ListeFüllen() try { namenLesen(); } catch (const Fehler &fehler) {
     fehlerBox("1016 - ", fehler);
-}
-
-void frmRezeptKopie::cmbRezeptname_Change() {
-    mSuche.textGeändert();
-    cmbRezeptname_Click();
 }
 
 void frmRezeptKopie::cmbRezeptname_Click() try {
     ui.pbok->setEnabled(false);
-    ui.lbRezTol->clear();
-    mGitter.zeigen({});
+    leeren();
     const QString name = mSuche.name();
     if (name.isEmpty())
         return;
     const RezeptKopf kopf = rezeptKopf(name);
-    ui.lbRezTol->setText(kopf.toleranz);
-    mGitter.zeigen(rezeptSchritte(kopf.rezeptID));
+    zeigen(kopf.toleranz, rezeptSchritte(kopf.rezeptID));
     ui.pbok->setEnabled(true);
 } catch (const Fehler &fehler) {
     fehlerBox("1012 - ", fehler);
-}
-
-void frmRezeptKopie::cmbRezeptname_Enter() {
-    switch (mSuche.abschließen()) { // a completed name shows its steps by the change of the text
-    case Suchliste::Eingabe::Leer:
-    case Suchliste::Eingabe::Unbekannt:
-        meldung({"Es wurden keine Daten gefunden! ", "No data found! "}, Information,
-                {"Rezepte", "Recipes"});
-        break;
-    case Suchliste::Eingabe::Ergänzt:
-        break;
-    case Suchliste::Eingabe::Vollständig:
-        pbok_Click();
-        break;
-    }
 }
 
 /// By the first letter of the type as it is shown, and in German only: under English every copied

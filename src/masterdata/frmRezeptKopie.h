@@ -2,11 +2,10 @@
 // session stays the new one whatever is looked at here.
 #pragma once
 
-#include "controls/schrittgitter.h"
-#include "controls/suchmaske.h"
+#include "masterdata/rezepttafel.h"
 #include "ui_frmRezeptKopie.h"
 
-class frmRezeptKopie : public Suchmaske {
+class frmRezeptKopie : public Rezepttafel {
   public:
     static constexpr frm id = frm::RezeptKopie;
     frmRezeptKopie();
@@ -18,12 +17,9 @@ class frmRezeptKopie : public Suchmaske {
 
   private:
     void fnc_ListeFüllen();
-    void cmbRezeptname_Change();
     void cmbRezeptname_Click();
-    void cmbRezeptname_Enter();
     bool fnc_SchrittAnlegen(const Recordset &schritt);
     void pbok_Click();
 
     Ui::frmRezeptKopie ui;
-    Schrittgitter mGitter;
 };

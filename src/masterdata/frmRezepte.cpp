@@ -32,17 +32,14 @@ constexpr Beschriftung english[] = {
 
 frmRezepte::frmRezepte() {
     ui.setupUi(this);
-    sucheVerdrahten(
-        ui.cmbRezeptname, ui.lstRezepte, [this] { cmbRezeptname_Change(); },
-        [this] { bestätigen(); });
-    mGitter.verbinden(ui.DBGridRez);
+    verdrahten({ui.cmbRezeptname, ui.lstRezepte, ui.laInfo, ui.lbRezTol, ui.DBGridRez},
+               gefangen("1011 - ", [this] { cmbRezeptname_Change(); }), [this] { bestätigen(); });
     onClick(ui.pbNeuRezept, [this] { pbNeuRezept_Click(); });
     onClick(ui.pbÄndRez, [this] { pbÄndRez_Click(); });
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
     onEnter(this, [this] { pbok_Click(); });
-    onEscape([this] { unload(); });
 }
 
 void frmRezepte::beschriften() {
@@ -85,7 +82,7 @@ void frmRezepte::Form_Unload() {
 
 void frmRezepte::listeLesen() {
     mGezeigt.clear(); // the recipe may have changed
-    mSuche.füllen(rezeptnamen());
+    namenLesen();
     aktualisieren();
 }
 
@@ -94,8 +91,7 @@ void frmRezepte::fnc_ListeFüllen() try { listeLesen(); } catch (const Fehler &f
 }
 
 void frmRezepte::aktualisieren() {
-    ui.laInfo->setText(inSprache({"Rezeptanzahl: ", "Number Of Recipes: "}) +
-                       QString::number(mSuche.namen().size()));
+    anzahlZeigen();
     ui.cmbRezeptname->lineEdit()->setPlaceholderText(
         !mSuche.namen().isEmpty()
             ? inSprache({"Name oder Teil davon", "Name or part of it"})
@@ -112,12 +108,10 @@ void frmRezepte::aktualisieren() {
     ui.pbDelete->setVisible(maintenance);
 }
 
-void frmRezepte::cmbRezeptname_Change() try {
+void frmRezepte::cmbRezeptname_Change() {
     mSuche.textGeändert();
     aktualisieren();
     cmbRezeptname_Click();
-} catch (const Fehler &fehler) {
-    fehlerBox("1011 - ", fehler);
 }
 
 void frmRezepte::cmbRezeptname_Click() try {
@@ -125,14 +119,12 @@ void frmRezepte::cmbRezeptname_Click() try {
     if (!name.isEmpty() && name == mGezeigt)
         return;
     mGezeigt.clear();
-    ui.lbRezTol->clear();
-    mGitter.zeigen({});
+    leeren();
     if (name.isEmpty())
         return;
     const RezeptKopf kopf = rezeptKopf(name);
     rezeptEinsetzen(kopf);
-    ui.lbRezTol->setText(kopf.toleranz);
-    mGitter.zeigen(rezeptSchritte(kopf.rezeptID));
+    zeigen(kopf.toleranz, rezeptSchritte(kopf.rezeptID));
     mGezeigt = name;
 } catch (const Fehler &fehler) {
     fehlerBox("1012 - ", fehler);
@@ -141,18 +133,8 @@ void frmRezepte::cmbRezeptname_Click() try {
 /// Whether the box names a recipe that is in force. Completes part of a name.
 bool frmRezepte::rezeptGezeigt() {
     const QString before = mSuche.text();
-    switch (mSuche.abschließen()) {
-    case Suchliste::Eingabe::Leer:
-    case Suchliste::Eingabe::Unbekannt:
-        meldung({"Es wurden keine Daten gefunden! ", "No data found! "}, Information,
-                {"Rezepte", "Recipes"});
-        ui.cmbRezeptname->setFocus();
+    if (!rezeptFestlegen())
         return false;
-    case Suchliste::Eingabe::Ergänzt:
-        return false;
-    case Suchliste::Eingabe::Vollständig:
-        break;
-    }
     if (mSuche.text() == before) // otherwise the change has done it
         cmbRezeptname_Click();   // tells why when the recipe cannot be used
     return !mGezeigt.isEmpty();

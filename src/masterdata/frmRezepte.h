@@ -5,18 +5,13 @@
 // Leaving without a choice puts the recipe that the desktop shows back in force.
 #pragma once
 
-#include "controls/schrittgitter.h"
-#include "controls/suchmaske.h"
+#include "masterdata/rezepttafel.h"
 #include "ui_frmRezepte.h"
 
-class frmRezepte : public Suchmaske {
+class frmRezepte : public Rezepttafel {
   public:
     static constexpr frm id = frm::Rezepte;
     frmRezepte();
-
-    /// Name and specification of the recipe whose steps are shown; empty for none.
-    const QString &rezeptname() const { return mGezeigt; }
-    QString toleranz() const { return ui.lbRezTol->text(); }
 
     /// Reads the list of names anew; the text of the box stays.
     void fnc_ListeFüllen();
@@ -42,7 +37,6 @@ class frmRezepte : public Suchmaske {
     void pbok_Click();
 
     Ui::frmRezepte ui;
-    Schrittgitter mGitter;
-    QString mGezeigt;
+    QString mGezeigt; ///< the recipe whose steps are shown
     bool mGewählt = false;
 };

@@ -3,6 +3,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+#include <utility>
+
 #include "controls/eintrag.h"
 #include "records/rezept.h"
 #include "records/schluessel.h"
@@ -38,15 +40,13 @@ constexpr Beschriftung english[] = {
 
 frmToleranzen::frmToleranzen() {
     ui.setupUi(this);
-    ui.cmbGKlasse->setCompleter(nullptr); // it would write into the box while a person types
     ui.cmbGKlasse->lineEdit()->setMaxLength(255);
     QSizePolicy policy = ui.details->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     ui.details->setSizePolicy(policy);
     blockZeigen(false);
     ui.pbEdit->setVisible(false);
-    for (QPushButton *button : {ui.pbEdit, ui.pbDelete, ui.pbSave})
-        button->setEnabled(false);
+    aktualisieren();
     verdrahten();
 }
 
@@ -61,15 +61,13 @@ void frmToleranzen::verdrahten() {
         if (speichernFreigeben())
             ui.pbSave->setFocus();
     });
-    onLostFocus(ui.txtTolBez, [this] { txtTolBez_LostFocus(); });
+    onLostFocus(ui.txtTolBez, gefangen("Tol05 - ", [this] { txtTolBez_LostFocus(); }));
     onLostFocus(ui.txtTolProz, [this] { txtTolProz_LostFocus(); });
     onLostFocus(ui.txtTolWatt, [this] { txtTolWatt_LostFocus(); });
-    onLostFocus(ui.txtAbw, [this] { txtAbw_LostFocus(); });
+    onLostFocus(ui.txtAbw, gefangen("Tol05 - ", [this] { txtAbw_LostFocus(); }));
     onLostFocus(ui.txtMessverfahren, [this] { txtMessverfahren_LostFocus(); });
-    onKey(ui.cmbGKlasse, [this](QKeyEvent &key) {
-        msGKlasseTaste = key.text().toUpper();
-        return false;
-    });
+    mKlasse.verbinden(ui.cmbGKlasse, klasseZurTaste, {}, true);
+    onKey(ui.cmbGKlasse, [this](QKeyEvent &key) { return mKlasse.taste(key); });
     on(ui.cmbGKlasse->lineEdit(), &QLineEdit::textEdited, [this] { cmbGKlasse_Change(); });
     on(ui.cmbGKlasse, &QComboBox::activated, [this] {
         if (eingabe().vollständig())
@@ -77,11 +75,11 @@ void frmToleranzen::verdrahten() {
     });
     onClick(ui.pbNew, [this] { pbNew_Click(); });
     onClick(ui.pbEdit, [this] { pbEdit_Click(); });
-    onClick(ui.pbDelete, [this] { pbDelete_Click(); });
+    onClick(ui.pbDelete, gefangen("Tol06 - ", [this] { pbDelete_Click(); }));
     onClick(ui.pbSave, [this] { pbSave_Click(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
-    onClick(ui.pbexit, [this] { pbexit_Click(); });
-    onEscape([this] { pbexit_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    onEscape([this] { unload(); });
 }
 
 void frmToleranzen::beschriften() {
@@ -97,6 +95,18 @@ void frmToleranzen::Form_Load() {
 
 void frmToleranzen::Form_Unload() {
     gefangen("1015 - ", sitzungsrezeptEinsetzen)();
+}
+
+void frmToleranzen::aktualisieren() {
+    ui.pbNew->setEnabled(!mNeuBegonnen);
+    ui.pbDelete->setEnabled(mAusgewählt);
+    ui.pbEdit->setEnabled(mAusgewählt && ui.details->isHidden());
+    ui.pbSave->setEnabled(mSpeicherbar);
+}
+
+void frmToleranzen::speicherbar(bool möglich) {
+    mSpeicherbar = möglich;
+    aktualisieren();
 }
 
 void frmToleranzen::blockZeigen(bool sichtbar) {
@@ -167,10 +177,9 @@ void frmToleranzen::fnc_Find_ToleranzID() {
             break;
         }
     }
-    ui.pbDelete->setEnabled(true);
-    ui.pbNew->setEnabled(true);
-    if (!mbBearbeiten)
-        ui.pbEdit->setEnabled(true);
+    mAusgewählt = true;
+    mNeuBegonnen = false;
+    aktualisieren();
 }
 
 void frmToleranzen::cmbBezTol_Click() {
@@ -198,7 +207,7 @@ void frmToleranzen::cmbBezTol_Click() {
 
 void frmToleranzen::auswahlImNeuModus() {
     int answer = No;
-    if (ui.pbSave->isEnabled()) {
+    if (mSpeicherbar) {
         answer = meldung({"Wollen Sie die Daten speichern?\r"
                           "Klicken Sie auf Abbrechen, um ihre Eingabe zu beenden!",
                           "Shall data be saved?\rPush 'Cancel' to determine your input!"},
@@ -239,9 +248,10 @@ void frmToleranzen::pbNew_Click() try {
     felderLeeren();
     blockZeigen(true);
     ui.txtTolBez->setFocus(); // before its button is disabled, or the keyboard goes elsewhere
-    for (QPushButton *button : {ui.pbNew, ui.pbDelete, ui.pbEdit})
-        button->setEnabled(false);
+    mNeuBegonnen = true;
+    mAusgewählt = false;
     mbBearbeiten = false;
+    aktualisieren();
 } catch (const Fehler &fehler) {
     fehlerBox("Tol04 - ", fehler);
 }
@@ -252,14 +262,14 @@ void frmToleranzen::pbEdit_Click() try {
     felderLeeren();
     blockZeigen(true);
     ui.txtTolBez->setFocus();
-    ui.pbEdit->setEnabled(false);
+    aktualisieren();
     mbNeu = false;
     felderZeigen();
 } catch (const Fehler &fehler) {
     fehlerBox("Tol07 - ", fehler);
 }
 
-void frmToleranzen::pbDelete_Click() try {
+void frmToleranzen::pbDelete_Click() {
     if (mbNeu) {
         mbNeu = false;
         blockZeigen(false);
@@ -271,17 +281,13 @@ void frmToleranzen::pbDelete_Click() try {
         toleranzLöschen(mnToleranzID);
         fnc_Fill_CmbBezTol();
         ui.cmbBezTol->setFocus();
-        for (QPushButton *button : {ui.pbDelete, ui.pbEdit, ui.pbSave})
-            button->setEnabled(false);
-        if (mbBearbeiten) {
-            mbBearbeiten = false;
+        mAusgewählt = mSpeicherbar = false;
+        if (std::exchange(mbBearbeiten, false))
             blockZeigen(false);
-        }
+        aktualisieren();
     } else if (mbBearbeiten) {
         ui.txtTolBez->setFocus();
     }
-} catch (const Fehler &fehler) {
-    fehlerBox("Tol06 - ", fehler);
 }
 
 void frmToleranzen::pbSave_Click() try {
@@ -291,7 +297,7 @@ void frmToleranzen::pbSave_Click() try {
         änderungSpeichern();
 } catch (const Fehler &fehler) {
     ui.cmbBezTol->setFocus(); // the input cannot be saved any more; the picker leads on
-    ui.pbSave->setEnabled(mbNeu || mbBearbeiten);
+    speichernFreigeben();
     fehlerBox("Tol08 - ", fehler);
 }
 
@@ -310,7 +316,8 @@ void frmToleranzen::neueSpeichern() {
     blockZeigen(false);
     fnc_Fill_CmbBezTol();
     ui.cmbBezTol->setFocus();
-    ui.pbNew->setEnabled(true);
+    mNeuBegonnen = false;
+    aktualisieren();
 }
 
 void frmToleranzen::änderungSpeichern() {
@@ -323,8 +330,7 @@ void frmToleranzen::änderungSpeichern() {
     fnc_Fill_CmbBezTol();
     zeileZeigen();
     ui.cmbBezTol->setFocus();
-    ui.pbEdit->setEnabled(true);
-    ui.pbSave->setEnabled(false);
+    speicherbar(false);
 }
 
 void frmToleranzen::pbok_Click() {
@@ -339,10 +345,6 @@ void frmToleranzen::pbok_Click() {
     }
     if (answer == Yes)
         pbSave_Click();
-    unload();
-}
-
-void frmToleranzen::pbexit_Click() {
     unload();
 }
 

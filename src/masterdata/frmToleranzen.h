@@ -7,6 +7,7 @@
 
 #include <functional>
 
+#include "controls/kuerzelfeld.h"
 #include "records/toleranz.h"
 #include "session/screens.h"
 #include "ui_frmToleranzen.h"
@@ -28,6 +29,8 @@ class frmToleranzen : public Screen {
   private:
     void verdrahten();
     void beschriften();
+    void aktualisieren();
+    void speicherbar(bool möglich);
     void blockZeigen(bool sichtbar);
     void zeileZeigen();
     void felderLeeren();
@@ -64,14 +67,16 @@ class frmToleranzen : public Screen {
     void neueSpeichern();
     void änderungSpeichern();
     void pbok_Click();
-    void pbexit_Click();
 
     Ui::frmToleranzen ui;
     Schlüssel mnToleranzID = 0; ///< of the row picked last
     bool mbNeu = false;
     bool mbBearbeiten = false;
+    bool mNeuBegonnen = false; ///< a new one stands in the fields, also one that saving refused
+    bool mAusgewählt = false;  ///< the picker has shown a row that may be deleted
+    bool mSpeicherbar = false;
     bool mbGeändert = false; ///< in edit mode, a field differs from when it took the keyboard
     QString msAltWert;       ///< in edit mode, what it held then; for txtTolWatt the percentage
-    QString msGKlasseTaste;  ///< the last key in cmbGKlasse, upper case
+    Kürzelfeld mKlasse;
     Recordset mrsToleranzen; ///< behind cmbBezTol, in its order
 };

@@ -5,7 +5,6 @@
 
 #include <limits>
 
-#include "controls/eintrag.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
 
@@ -23,20 +22,19 @@ void frmToleranzen::altWertMerken() {
 void frmToleranzen::änderungPrüfen(const QLineEdit *feld) {
     if (mbBearbeiten && feld->text() != msAltWert) {
         mbGeändert = true;
-        ui.pbSave->setEnabled(true);
+        speicherbar(true);
     }
 }
 
 void frmToleranzen::vollständigkeitPrüfen() {
     if (mbNeu)
-        ui.pbSave->setEnabled(eingabe().vollständig());
+        speicherbar(eingabe().vollständig());
 }
 
 /// What a failed saving has ended cannot be saved.
 bool frmToleranzen::speichernFreigeben() {
-    const bool möglich = mbNeu || mbBearbeiten;
-    ui.pbSave->setEnabled(möglich);
-    return möglich;
+    speicherbar(mbNeu || mbBearbeiten);
+    return mSpeicherbar;
 }
 
 void frmToleranzen::zurückweisen(QLineEdit *feld, const QString &text) {
@@ -58,7 +56,7 @@ void frmToleranzen::zahlPrüfen(QLineEdit *feld, double größter, const Text &t
     änderungPrüfen(feld);
 }
 
-void frmToleranzen::txtTolBez_LostFocus() try {
+void frmToleranzen::txtTolBez_LostFocus() {
     const QString name = ui.txtTolBez->text();
     if (mbNeu && !name.trimmed().isEmpty() && bezeichnungVergeben(name)) {
         meldung({"Diese Bezeichnung für eine Toleranz gibt es bereits.\r"
@@ -70,8 +68,6 @@ void frmToleranzen::txtTolBez_LostFocus() try {
     }
     vollständigkeitPrüfen();
     änderungPrüfen(ui.txtTolBez);
-} catch (const Fehler &fehler) {
-    fehlerBox("Tol05 - ", fehler);
 }
 
 void frmToleranzen::txtTolProz_LostFocus() {
@@ -90,14 +86,12 @@ void frmToleranzen::txtTolWatt_LostFocus() {
                [this](const QString &text) { func_Round_Watt(text); });
 }
 
-void frmToleranzen::txtAbw_LostFocus() try {
+void frmToleranzen::txtAbw_LostFocus() {
     zahlPrüfen(ui.txtAbw, std::numeric_limits<double>::infinity(),
                {"Der angegebene Wert liegt außerhalb des gültigen Bereichs!",
                 "The value is not within the permissible interval."},
                {"Eingabfehler!", "Input Error!"},
                [this](const QString &text) { ui.txtAbw->setText(drehzahlGerundet(text)); });
-} catch (const Fehler &fehler) {
-    fehlerBox("Tol05 - ", fehler);
 }
 
 void frmToleranzen::txtMessverfahren_LostFocus() {
@@ -120,10 +114,7 @@ void frmToleranzen::func_Round_Watt(const QString &text) try {
 }
 
 void frmToleranzen::cmbGKlasse_Change() {
-    if (const QString klasse = klasseZurTaste(msGKlasseTaste); !klasse.isEmpty()) {
-        eintragSetzen(ui.cmbGKlasse, klasse);
-        ui.cmbGKlasse->lineEdit()->selectAll();
-    }
+    mKlasse.geändert();
     if (eingabe().vollständig())
         speichernFreigeben();
 }

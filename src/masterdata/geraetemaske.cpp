@@ -80,7 +80,7 @@ bool Gerätemaske::prüfen(Schlüssel gerätID) {
 void Gerätemaske::schließen(const QString &identNr) {
     unload();
     if (auto *geräte = loaded<frmGerät>())
-        geräte->fnc_GerätWählen(identNr);
+        geräte->fnc_Wählen(identNr);
 }
 
 void Gerätemaske::bemerken(const QString &text) {

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 
+#include "controls/eintrag.h"
 #include "controls/namensliste.h"
 #include "masterdata/frmKunden.h"
 #include "session/session.h"
@@ -24,7 +25,7 @@ const Text eingabefehler{"Eingabefehler", "Error"};
 Kundenmaske::Kundenmaske(const Text &titel) : mTitel(titel) {
     ui.setupUi(this);
     setCaption(mTitel.german);
-    ui.cmbOrt->setCompleter(nullptr); // it would write into the box while a person types
+    ohneErgänzung(ui.cmbOrt);
     ui.cmbOrt->lineEdit()->setMaxLength(ui.txtName->maxLength());
     enterChain({ui.txtName, ui.txtStraße, ui.txtPLZ, ui.cmbOrt});
     onEnter(ui.cmbOrt, [this] { ui.pbSave->click(); });
@@ -74,5 +75,5 @@ bool Kundenmaske::prüfen(Schlüssel kundenID) {
 void Kundenmaske::schließen(const QString &name) {
     unload();
     if (auto *kunden = loaded<frmKunden>())
-        kunden->fnc_KundeWählen(name);
+        kunden->fnc_Wählen(name);
 }

@@ -2,8 +2,11 @@
 
 #include <QCoreApplication>
 #include <QLabel>
+#include <QPushButton>
 
+#include "controls/umbruch.h"
 #include "session/sprache.h"
+#include "windows/msgbox.h"
 
 using platform::Text;
 
@@ -53,12 +56,50 @@ Text gerätefrage(int protokolle, const QString &name) {
             english + "' there are " + m + " protocols existent.\rShall they be deleted now?"};
 }
 
-void Löschabfrage::löschen(Löschziel ziel, int schlüssel, QLabel *frage) try {
+void Löschabfrage::verdrahten(const Aufbau &aufbau) {
+    mAufbau = aufbau;
+    onClick(aufbau.ja, [this] { ja_Click(); });
+    onClick(aufbau.nein, [this] { unload(); });
+    onEscape([this] { unload(); });
+}
+
+void Löschabfrage::Form_Load() {
+    beschriften();
+    mAufbau.nein->setFocus();
+    gefangen(mAufbau.fragen, [this] { fnc_FrageZeigen(); })();
+}
+
+void Löschabfrage::fnc_FrageZeigen() {
+    mAufbau.ja->setEnabled(false); // until it is known what Yes would delete
+    const Schlüssel shown = gewählt();
+    if (shown == 0)
+        return;
+    mAufbau.frage->setText(umbrechbar(inSprache(frage(shown))));
+    mSchlüssel = shown;
+    mAufbau.ja->setEnabled(true);
+}
+
+void Löschabfrage::ja_Click() try {
+    löschen();
+    meldung(mAufbau.gelöscht, platform::Information, {"Bestätigung", "Confirmation"});
+    nachLöschen(mSchlüssel);
+    unload();
+} catch (const Fehler &fehler) {
+    fehlerBox("31001 - ", fehler);
+    gefangen(mAufbau.fragen, [this] {
+        fnc_FrageZeigen();
+        nachFehler(mSchlüssel);
+    })();
+}
+
+/// May take a while. The window says so and takes no more input, unless it fails, which is raised.
+void Löschabfrage::löschen() try {
     const HoldActivations hold;
-    frage->setText(inSprache({"Die Daten werden gelöscht ...", "Data are being deleted ..."}));
+    mAufbau.frage->setText(
+        inSprache({"Die Daten werden gelöscht ...", "Data are being deleted ..."}));
     disable();
     QCoreApplication::processEvents();
-    datensatzLöschen(ziel, schlüssel, [] { QCoreApplication::processEvents(); });
+    datensatzLöschen(mAufbau.ziel, mSchlüssel, [] { QCoreApplication::processEvents(); });
 } catch (const Fehler &) {
     enable();
     throw;

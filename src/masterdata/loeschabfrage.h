@@ -6,14 +6,42 @@
 #include "session/screens.h"
 
 class QLabel;
+class QPushButton;
 
 /// The question before. Two sentences have a carriage return between them.
 platform::Text kundenfrage(int geräte, int protokolle, const QString &name);
 platform::Text gerätefrage(int protokolle, const QString &name);
 
+/// Counts and asks when it opens, deletes on Yes, and asks anew about what a failure has left.
 class Löschabfrage : public Screen {
   protected:
-    /// Deletes, which may take a while. The window says so and takes no more input, unless it
-    /// fails: raises as datensatzLöschen.
-    void löschen(Löschziel ziel, int schlüssel, QLabel *frage);
+    struct Aufbau {
+        Löschziel ziel;
+        QLabel *frage;
+        QPushButton *ja, *nein;
+        platform::Text gelöscht; ///< told at the end
+        const char *fragen;      ///< tag of the failure box
+    };
+    /// Called once.
+    void verdrahten(const Aufbau &aufbau);
+
+    void Form_Load() override;
+
+    virtual void beschriften() = 0;
+    /// Key of the record to be deleted, 0 for none.
+    virtual Schlüssel gewählt() const = 0;
+    /// The question about it. Raises what fails.
+    virtual platform::Text frage(Schlüssel schlüssel) = 0;
+    /// The record is gone from the database.
+    virtual void nachLöschen(Schlüssel schlüssel) = 0;
+    /// Something of it may be left; the question stands anew.
+    virtual void nachFehler(Schlüssel) {}
+
+  private:
+    void fnc_FrageZeigen();
+    void ja_Click();
+    void löschen();
+
+    Aufbau mAufbau{};
+    Schlüssel mSchlüssel = 0;
 };

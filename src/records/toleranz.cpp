@@ -27,10 +27,10 @@ bool Toleranz::vollständig() const {
     return true;
 }
 
-QString klasseZurTaste(const QString &taste) {
+std::optional<QString> klasseZurTaste(const QString &taste) {
     if (taste == "M")
         return inSprache(klasseMedizin);
-    return taste == "S" ? inSprache(klasseStationär) : QString();
+    return taste == "S" ? std::optional(inSprache(klasseStationär)) : std::nullopt;
 }
 
 bool außerhalb(const QString &text, double kleinster, double größter) {

@@ -26,9 +26,8 @@ struct Toleranz {
 inline const Text klasseMedizin{"Medizinische Geräte", "Medical Devices"};
 inline const Text klasseStationär{"Stationäre Trainingsgeräte", "Stationary Devices"};
 
-/// What typing makes of the class: "M" gives the medical one, "S" the stationary one. Empty for
-/// every other key.
-QString klasseZurTaste(const QString &taste);
+/// What typing makes of the class: "M" gives the medical one, "S" the stationary one.
+std::optional<QString> klasseZurTaste(const QString &taste);
 
 inline constexpr double größteLeistungstoleranz = 20; // of both, % and W
 

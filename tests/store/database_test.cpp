@@ -244,6 +244,11 @@ TEST_F(Store, GridShowsChosenColumns) {
     EXPECT_EQ(model.rowCount(last), 0);
     model.setRecordset(store.open("SELECT 2.5 AS Nr FROM Schritte"));
     EXPECT_EQ(shown(), "2,5") << "as the person writes numbers";
+    model.setSpalten({{"Nr", ""}, {"Nr", "", {}, "0.000"}});
+    EXPECT_EQ(shown(), "2,500");
+    model.setSpalten({{"Tag", ""}, {"Tag", "", {}, "dd.mm.yyyy"}});
+    model.setRecordset(store.open("SELECT '2024-02-29 10:00:00' AS Tag FROM Schritte"));
+    EXPECT_EQ(shown(), "29.02.2024");
     model.setRecordset({});
     EXPECT_EQ(shown(), "");
     model.setSpalten({});
