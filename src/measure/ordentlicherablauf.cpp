@@ -3,6 +3,7 @@
 #include "link/controller.h"
 #include "measure/bewertung.h"
 #include "measure/messablauf.h"
+#include "records/protokollinhalt.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -90,13 +91,13 @@ void OrdentlicherAblauf::rezeptEnde() {
 }
 
 void OrdentlicherAblauf::beimVerlassen(Weggang weggang) {
-    if (protokollHatMesswerte(gProtokollID)) {
+    if (vorhanden(Bestand::Arbeit, Inhalt::Messwerte, gProtokollID)) {
         gBerichtAntwort = Yes;
         return;
     }
-    if (protokollHatBlätter(gProtokollID))
+    if (!inhaltslos(Bestand::Arbeit, gProtokollID))
         return;
-    protokollkopfLöschen(gProtokollID);
+    kopfLöschen(Bestand::Arbeit, gProtokollID);
     if (weggang == Weggang::Still)
         return;
     meldung({"Protokoll enthält keine Daten und wird gelöscht!",

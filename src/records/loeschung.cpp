@@ -2,11 +2,11 @@
 
 #include <vector>
 
+#include "records/protokollinhalt.h"
 #include "store/database.h"
 
 namespace {
 
-// Tables bear their names without "_temp": of each pair the working table goes first.
 struct Löschplan {
     QString schlüssel; ///< column that names the record in the heads and in master data
     bool auchLeereKöpfe;
@@ -19,56 +19,52 @@ const Löschplan &planFür(Löschziel ziel) {
     return ziel == Löschziel::Kunde ? kunde : gerät;
 }
 
-/// Protocols that have rows in all these tables, and the tables that are cleared of them. Each
-/// step finds what the ones before it have left.
+/// Protocols that have all of this, and what is cleared before their heads. Each step finds what
+/// the ones before it have left.
 struct Löschschritt {
-    std::vector<QString> mitZeilenIn;
-    std::vector<QString> leeren;
+    std::vector<Inhalt> mit;
+    std::vector<Inhalt> leeren;
 };
 
 const Löschschritt löschschritte[] = {
-    {{"Messwerte"}, {"SecControl", "Blutdruck", "Messwerte", "Protokoll"}},
-    {{"Blutdruck", "SecControl"}, {"Blutdruck", "SecControl", "Protokoll"}},
-    {{"Blutdruck"}, {"Blutdruck", "Protokoll"}},
-    {{"SecControl"}, {"SecControl", "Protokoll"}},
+    {{Inhalt::Messwerte}, {Inhalt::SecControl, Inhalt::Blutdruck, Inhalt::Messwerte}},
+    {{Inhalt::Blutdruck, Inhalt::SecControl}, {Inhalt::Blutdruck, Inhalt::SecControl}},
+    {{Inhalt::Blutdruck}, {Inhalt::Blutdruck}},
+    {{Inhalt::SecControl}, {Inhalt::SecControl}},
 };
 
-const QString paar[] = {"_temp", ""}; // in work, archived
-
-void schrittAusführen(const Löschschritt &schritt, const Löschplan &plan, const QString &endung,
+void schrittAusführen(const Löschschritt &schritt, const Löschplan &plan, Bestand bestand,
                       Schlüssel schlüssel, const std::function<void()> &zwischendurch) {
-    QString sql = "SELECT DISTINCT Kopf.ProtokollID FROM Protokoll" + endung + " AS Kopf";
-    for (const QString &tabelle : schritt.mitZeilenIn) {
-        const QString name = tabelle + endung;
-        sql += " INNER JOIN " + name + " ON Kopf.ProtokollID = " + name + ".ProtokollID";
-    }
+    QString sql = "SELECT DISTINCT Kopf.ProtokollID FROM " + kopftabelle(bestand) + " AS Kopf";
+    for (const Inhalt inhalt : schritt.mit)
+        sql += " INNER JOIN " + tabelle(bestand, inhalt) + " USING (ProtokollID)";
     sql += " WHERE Kopf." + plan.schlüssel + " = ?";
     for (Recordset kopf = gDatenbank.open(sql, {schlüssel}); !kopf.atEnd(); kopf.moveNext()) {
-        for (const QString &tabelle : schritt.leeren)
-            gDatenbank.execute("DELETE FROM " + tabelle + endung + " WHERE ProtokollID = ?",
-                               {kopf[0].value()});
+        for (const Inhalt inhalt : schritt.leeren)
+            inhaltLöschen(bestand, inhalt, kopf[0].whole());
+        kopfLöschen(bestand, kopf[0].whole());
         zwischendurch();
     }
 }
 
-void protokolleLöschen(const Löschplan &plan, const QString &endung, Schlüssel schlüssel,
+void protokolleLöschen(const Löschplan &plan, Bestand bestand, Schlüssel schlüssel,
                        const std::function<void()> &zwischendurch) {
     for (const Löschschritt &schritt : löschschritte)
-        schrittAusführen(schritt, plan, endung, schlüssel, zwischendurch);
+        schrittAusführen(schritt, plan, bestand, schlüssel, zwischendurch);
     if (plan.auchLeereKöpfe)
-        gDatenbank.execute("DELETE FROM Protokoll" + endung + " WHERE " + plan.schlüssel + " = ?",
+        gDatenbank.execute("DELETE FROM " + kopftabelle(bestand) + " WHERE " + plan.schlüssel +
+                               " = ?",
                            {schlüssel});
 }
 
 } // namespace
 
 int protokolleZählen(Löschziel ziel, Schlüssel schlüssel) {
-    const Löschplan &plan = planFür(ziel);
     int count = 0;
-    for (const QString &endung : paar)
+    for (const Bestand bestand : alleBestände)
         count += gDatenbank
-                     .open("SELECT ProtokollID FROM Protokoll" + endung + " WHERE " +
-                               plan.schlüssel + " = ?",
+                     .open("SELECT ProtokollID FROM " + kopftabelle(bestand) + " WHERE " +
+                               planFür(ziel).schlüssel + " = ?",
                            {schlüssel})
                      .count();
     return count;
@@ -85,8 +81,8 @@ int geräteZählen(Schlüssel kundenID) {
 void datensatzLöschen(Löschziel ziel, Schlüssel schlüssel,
                       const std::function<void()> &zwischendurch) {
     const Löschplan &plan = planFür(ziel);
-    for (const QString &endung : paar)
-        protokolleLöschen(plan, endung, schlüssel, zwischendurch);
+    for (const Bestand bestand : alleBestände) // the working tables first
+        protokolleLöschen(plan, bestand, schlüssel, zwischendurch);
     for (const QString &tabelle : plan.stammdaten)
         gDatenbank.execute("DELETE FROM " + tabelle + " WHERE " + plan.schlüssel + " = ?",
                            {schlüssel});

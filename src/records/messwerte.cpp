@@ -96,21 +96,3 @@ void messwertSpeichern(int protokollID, const SchrittTexte &schritt, const Urtei
          schritt.ist_D_torvena, schritt.ist_P_torvena, schritt.ist_n_ergom, ohne, urteil.mit,
          urteil.muProz});
 }
-
-bool protokollHatMesswerte(int protokollID) {
-    return !gDatenbank
-                .open("SELECT 1 FROM Messwerte_temp WHERE ProtokollID = ? LIMIT 1", {protokollID})
-                .empty();
-}
-
-bool protokollHatBlätter(int protokollID) {
-    return !gDatenbank
-                .open("SELECT 1 FROM Blutdruck_temp WHERE ProtokollID = ?1 UNION ALL "
-                      "SELECT 1 FROM SecControl_temp WHERE ProtokollID = ?1 LIMIT 1",
-                      {protokollID})
-                .empty();
-}
-
-void protokollkopfLöschen(int protokollID) {
-    gDatenbank.execute("DELETE FROM Protokoll_temp WHERE ProtokollID = ?", {protokollID});
-}

@@ -70,8 +70,3 @@ Unsicherheiten unsicherheitDrehzahl();
 /// than a tenth from the step's: then it is the row of another recipe and takes those of the step.
 /// Raises what the store raises.
 void messwertSpeichern(int protokollID, const SchrittTexte &schritt, const Urteil &urteil);
-
-/// A protocol with no measured values and no sheet has no content.
-bool protokollHatMesswerte(int protokollID);
-bool protokollHatBlätter(int protokollID);
-void protokollkopfLöschen(int protokollID);
