@@ -15,7 +15,6 @@ Anschlussmaske::Anschlussmaske(const Anschluss &anschluss) : mAnschluss(anschlus
     on(ui.SbCOM, &QScrollBar::valueChanged, [this] { SbCOM_Change(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
-    onEnter(this, [this] { pbok_Click(); });
     onEscape([this] { unload(); });
 }
 

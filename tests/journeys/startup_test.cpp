@@ -4,6 +4,7 @@
 #include <QProgressBar>
 
 #include "measuring.h"
+#include "records/normal.h"
 
 namespace {
 
@@ -88,6 +89,7 @@ JOURNEY_ROWS(Startup, DueDateOfTheLeverArm, "2024-01-15 100", "2024-04-15 50", "
               day > "2024-07-15");
     EXPECT_EQ(control<QProgressBar>(frm::Desktop, "ProgressBar1")->value(),
               givenRow.section(' ', 1).toInt());
+    EXPECT_EQ(hebelarmRest(clock.now().date(), clock.now().date(), clock.now().date()), 0);
 }
 
 } // namespace

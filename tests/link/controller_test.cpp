@@ -108,6 +108,7 @@ TEST_F(OnStand, MotorOffWaitsForTheStandstill) {
     EXPECT_TRUE(fnc_BefehlSenden("E", 1, "60"));
     clock.run(20'000);
     wire();
+    gTimeoutDrehzahl = true; // left over
     const double start = clock.elapsed();
     EXPECT_TRUE(fnc_MotorAus());
     EXPECT_LT(clock.elapsed() - start, 11'000) << "no longer than the shaft";
@@ -205,7 +206,10 @@ TEST_F(OnScript, ModeAndReset) {
             arrive(answer.toLatin1().split(' '), 100);
         };
         script.written.clear();
-        gTimeoutTimer1 = true; // left over
+        gTimeoutTimer1 = true; // left over, as is the byte
+        fnc_PortÖffnen();
+        arrive({"\7"});
+        clock.run(50);
         if (wanted[0] == "0")
             expectKnown(mode ? "noMode" : "noReset");
         const double start = clock.elapsed();

@@ -109,7 +109,7 @@ JOURNEY_P(Settings, OfTheLineAreToldWhenTheyCannotBeReadOrStored) {
     other.execute("DELETE FROM Interface");
     other.execute("COMMIT");
     co_await go(R"(
-        SbCOM > 3 ; ? noRecord(I_1002) ; pbexit ; @Desktop
+        SbCOM > 3 ; ? noRecord(I_1002) ; pbexit ; @Desktop ; line == 1 19200,N,8,1
         ? unreadRow(I_1001) ; mnuSSParameter ; @Interface ; ? noRecord(I_1002) ; pbexit ; @Desktop)");
 }
 
