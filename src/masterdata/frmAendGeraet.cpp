@@ -2,34 +2,25 @@
 
 #include "masterdata/frmGeraet.h"
 #include "session/auswahl.h"
-#include "session/session.h"
-#include "session/sprache.h"
-#include "windows/msgbox.h"
 
-void frmÄndGerät::Form_Load() try {
+frmÄndGerät::frmÄndGerät()
+    : Gerätemaske({{"Gerät ändern", "Edit Unit"},
+                   "1150 - ",
+                   "1150 - ",
+                   {" Daten wurden geändert. ", " Data have been changed!"}}) {
     setSpeichernEnabled(false);
-    vorbereiten();
-    const auto *geräte = loaded<frmGerät>();
-    const Schlüssel shown = geräte ? geräte->gezeigt() : 0;
-    if (shown == 0)
-        return;
-    eintragen(gerätLesen(shown));
-    mGerätID = shown;
-    setSpeichernEnabled(true);
-} catch (const Fehler &fehler) {
-    fehlerBox("1150 - ", fehler);
 }
 
-void frmÄndGerät::pbSave_Click() try {
-    if (!prüfen(mGerätID))
+void frmÄndGerät::laden() {
+    const auto *list = loaded<frmGerät>();
+    if (!list || list->gezeigt() == 0)
         return;
-    const Gerätedaten gerät = eingabe();
-    gerätÄndern(mGerätID, gerät);
-    if (gGerätID == mGerätID)
+    eintragen(gerätLesen(list->gezeigt()));
+    setSpeichernEnabled(true);
+}
+
+void frmÄndGerät::speichern(const Gerätedaten &gerät) {
+    gerätÄndern(gerät);
+    if (gGerätID == gerät.gerätID)
         gerätUmbenennen(gerät.typ, gerät.identNr);
-    meldung({" Daten wurden geändert. ", " Data have been changed!"}, platform::Information,
-            {"Bestätigung", "MESSAGE"});
-    schließen(gerät.identNr);
-} catch (const Fehler &fehler) {
-    fehlerBox("1150 - ", fehler);
 }

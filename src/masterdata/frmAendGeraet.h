@@ -6,12 +6,9 @@
 class frmÄndGerät : public Gerätemaske {
   public:
     static constexpr frm id = frm::ÄndGerät;
-    frmÄndGerät() : Gerätemaske({"Gerät ändern", "Edit Unit"}) {}
-
-  protected:
-    void Form_Load() override;
-    void pbSave_Click() override;
+    frmÄndGerät();
 
   private:
-    Schlüssel mGerätID = 0; ///< 0 when nothing was loaded that could be saved
+    void laden() override;
+    void speichern(const Gerätedaten &gerät) override;
 };

@@ -2,34 +2,25 @@
 
 #include "masterdata/frmKunden.h"
 #include "session/auswahl.h"
-#include "session/session.h"
-#include "session/sprache.h"
-#include "windows/msgbox.h"
 
-void frmÄndKund::Form_Load() try {
+frmÄndKund::frmÄndKund()
+    : Kundenmaske({{"Kunde ändern", "Edit Customer"},
+                   "1140 - ",
+                   "1140 - ",
+                   {" Daten wurden geändert. ", " Data have been changed!"}}) {
     setSpeichernEnabled(false);
-    vorbereiten();
-    const auto *kunden = loaded<frmKunden>();
-    const Schlüssel shown = kunden ? kunden->gezeigt() : 0;
-    if (shown == 0)
-        return;
-    eintragen(kundeLesen(shown));
-    mKundenID = shown;
-    setSpeichernEnabled(true);
-} catch (const Fehler &fehler) {
-    fehlerBox("1140 - ", fehler);
 }
 
-void frmÄndKund::pbSave_Click() try {
-    if (!prüfen(mKundenID))
+void frmÄndKund::laden() {
+    const auto *list = loaded<frmKunden>();
+    if (!list || list->gezeigt() == 0)
         return;
-    const Kundendaten kunde = eingabe();
-    kundeÄndern(mKundenID, kunde);
-    if (gKundenID == mKundenID)
+    eintragen(kundeLesen(list->gezeigt()));
+    setSpeichernEnabled(true);
+}
+
+void frmÄndKund::speichern(const Kundendaten &kunde) {
+    kundeÄndern(kunde);
+    if (gKundenID == kunde.kundenID)
         kundeUmbenennen(kunde.name);
-    meldung({" Daten wurden geändert. ", " Data have been changed!"}, platform::Information,
-            {"Bestätigung", "MESSAGE"});
-    schließen(kunde.name);
-} catch (const Fehler &fehler) {
-    fehlerBox("1140 - ", fehler);
 }

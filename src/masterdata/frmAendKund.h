@@ -6,12 +6,9 @@
 class frmÄndKund : public Kundenmaske {
   public:
     static constexpr frm id = frm::ÄndKund;
-    frmÄndKund() : Kundenmaske({"Kunde ändern", "Edit Customer"}) {}
-
-  protected:
-    void Form_Load() override;
-    void pbSave_Click() override;
+    frmÄndKund();
 
   private:
-    Schlüssel mKundenID = 0; ///< 0 when nothing was loaded that could be saved
+    void laden() override;
+    void speichern(const Kundendaten &kunde) override;
 };

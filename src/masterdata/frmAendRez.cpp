@@ -210,7 +210,7 @@ void frmÄndRez::cmbPrArt_LostFocus() {
 }
 
 void frmÄndRez::pbSpeichern_Click() {
-    if (!mEditor.prüfen())
+    if (!mEditor.schrittPrüfen())
         return;
     const std::optional<bool> stored = mEditor.vorhanden();
     if (!stored)

@@ -6,12 +6,21 @@
 class frmNeuGerät : public Gerätemaske {
   public:
     static constexpr frm id = frm::NeuGerät;
-    frmNeuGerät() : Gerätemaske({"Neues Gerät", "New Unit"}) {}
+    frmNeuGerät()
+        : Gerätemaske({{"Neues Gerät", "New Unit"},
+                       "1061 - ",
+                       "1060 - ",
+                       {"Daten wurden gespeichert!", "Data have been saved!"}}) {}
 
     void showInfo(const QString &text) override { bemerken(text); }
 
   protected:
-    void Form_Load() override;
-    void Form_Unload() override;
-    void pbSave_Click() override;
+    void Form_Unload() override { gNeuModus = false; }
+
+  private:
+    void speichern(const Gerätedaten &gerät) override {
+        gerätEinfügen(gKundenID, gerät);
+        if (gNeuModus) // the customer's first: the list of units was skipped, and comes now
+            gDesktopFolge = Desktopfolge::Gerät;
+    }
 };

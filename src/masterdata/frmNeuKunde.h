@@ -6,9 +6,12 @@
 class frmNeuKunde : public Kundenmaske {
   public:
     static constexpr frm id = frm::NeuKunde;
-    frmNeuKunde() : Kundenmaske({"Neuer Kunde", "New Customer"}) {}
+    frmNeuKunde()
+        : Kundenmaske({{"Neuer Kunde", "New Customer"},
+                       "1051 - ",
+                       "1050 - ",
+                       {"Daten wurden gespeichert!", "Data have been saved!"}}) {}
 
-  protected:
-    void Form_Load() override;
-    void pbSave_Click() override;
+  private:
+    void speichern(const Kundendaten &kunde) override { kundeEinfügen(kunde); }
 };

@@ -43,19 +43,20 @@ frmNeuRezept::frmNeuRezept() {
     ui.setupUi(this);
     ui.lbRezSaved->hide();
     ui.lbToleranzSave->hide();
+    const auto save = gefangen("1030 - ", [this] { fnc_RezeptnameSpeichern(); });
     on(ui.txtRezName, &QLineEdit::textChanged, [this] { txtRezName_Change(); });
-    onEnter(ui.txtRezName, [this] {
+    onEnter(ui.txtRezName, [this, save] {
         if (ui.pbRezSave->isEnabled())
-            fnc_RezeptnameSpeichern();
+            save();
         else
             ui.cmbToleranz->setFocus();
     });
     on(ui.cmbToleranz, &QComboBox::currentIndexChanged, [this] { txtRezName_Change(); });
-    onEnter(ui.cmbToleranz, [this] {
+    onEnter(ui.cmbToleranz, [this, save] {
         if (ui.pbRezSave->isEnabled())
-            fnc_RezeptnameSpeichern();
+            save();
     });
-    onClick(ui.pbRezSave, [this] { fnc_RezeptnameSpeichern(); });
+    onClick(ui.pbRezSave, save);
     schritteVerdrahten();
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
@@ -106,7 +107,7 @@ void frmNeuRezept::txtRezName_Change() {
                              !ui.cmbToleranz->currentText().isEmpty());
 }
 
-void frmNeuRezept::fnc_RezeptnameSpeichern() try {
+void frmNeuRezept::fnc_RezeptnameSpeichern() {
     if (fnc_RezeptnameVorhanden())
         return;
     const int answer = meldung(
@@ -120,8 +121,6 @@ void frmNeuRezept::fnc_RezeptnameSpeichern() try {
     }
     gRezeptID = rezeptAnlegen(ui.txtRezName->text(), ui.cmbToleranz->currentText());
     schritteFreigeben();
-} catch (const Fehler &fehler) {
-    fehlerBox("1030 - ", fehler);
 }
 
 /// Also true when it cannot be found out.
@@ -178,7 +177,7 @@ bool frmNeuRezept::verlassen() try {
     }
     if (!input)
         return true;
-    if (!mEditor.prüfen() || !mEditor.anlegen())
+    if (!mEditor.schrittPrüfen() || !mEditor.anlegen())
         return false;
     gRezeptWahl = ui.txtRezName->text();
     fnc_RezeptlisteAktualisieren();

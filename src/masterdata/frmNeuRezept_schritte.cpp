@@ -118,7 +118,7 @@ void frmNeuRezept::fnc_SpeichernFreigeben() {
 }
 
 void frmNeuRezept::pbSave_Click() {
-    if (!mEditor.prüfen())
+    if (!mEditor.schrittPrüfen())
         return;
     const std::optional<bool> there = mEditor.vorhanden();
     if (!there || !(*there ? mEditor.ändern() : mEditor.anlegen()))

@@ -25,17 +25,13 @@ constexpr Beschriftung english[] = {
 
 frmRezeptKopie::frmRezeptKopie() {
     ui.setupUi(this);
-    verdrahten(
-        {ui.cmbRezeptname, ui.lstRezepte, ui.laInfo, ui.lbRezTol, ui.DBGridRez},
-        [this] {
-            mSuche.textGeändert();
-            cmbRezeptname_Click();
-        },
-        [this] { // a completed name shows its steps by the change of the text
-            if (rezeptFestlegen())
-                pbok_Click();
-        });
-    onClick(ui.pbok, [this] { pbok_Click(); });
+    const auto copy = gefangen("12008 - ", [this] { pbok_Click(); });
+    verdrahten({ui.cmbRezeptname, ui.lstRezepte, ui.laInfo, ui.lbRezTol, ui.DBGridRez},
+               gefangen("1012 - ", [this] { cmbRezeptname_Change(); }), [this, copy] {
+                   if (rezeptFestlegen()) // its steps are shown by the change of the text
+                       copy();
+               });
+    onClick(ui.pbok, copy);
     onClick(ui.pbexit, [this] { unload(); });
 }
 
@@ -64,7 +60,8 @@ void frmRezeptKopie::fnc_ListeFüllen() try { namenLesen(); } catch (const Fehle
     fehlerBox("1016 - ", fehler);
 }
 
-void frmRezeptKopie::cmbRezeptname_Click() try {
+void frmRezeptKopie::cmbRezeptname_Change() {
+    mSuche.textGeändert();
     ui.pbok->setEnabled(false);
     leeren();
     const QString name = mSuche.name();
@@ -73,8 +70,6 @@ void frmRezeptKopie::cmbRezeptname_Click() try {
     const RezeptKopf kopf = rezeptKopf(name);
     zeigen(kopf.toleranz, rezeptSchritte(kopf.rezeptID));
     ui.pbok->setEnabled(true);
-} catch (const Fehler &fehler) {
-    fehlerBox("1012 - ", fehler);
 }
 
 /// By the first letter of the type as it is shown, and in German only: under English every copied
@@ -92,7 +87,7 @@ bool frmRezeptKopie::fnc_SchrittAnlegen(const Recordset &schritt) try {
 }
 
 /// A step that fails ends the copy; those before it stay.
-void frmRezeptKopie::pbok_Click() try {
+void frmRezeptKopie::pbok_Click() {
     if (!ui.pbok->isEnabled())
         return;
     Recordset rows = mGitter.schritte();
@@ -103,6 +98,4 @@ void frmRezeptKopie::pbok_Click() try {
     if (auto *neu = loaded<frmNeuRezept>())
         neu->neuenSchrittFreigeben();
     unload();
-} catch (const Fehler &fehler) {
-    fehlerBox("12008 - ", fehler);
 }

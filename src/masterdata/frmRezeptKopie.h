@@ -17,7 +17,7 @@ class frmRezeptKopie : public Rezepttafel {
 
   private:
     void fnc_ListeFüllen();
-    void cmbRezeptname_Click();
+    void cmbRezeptname_Change();
     bool fnc_SchrittAnlegen(const Recordset &schritt);
     void pbok_Click();
 

@@ -33,13 +33,15 @@ constexpr Beschriftung english[] = {
 frmRezepte::frmRezepte() {
     ui.setupUi(this);
     verdrahten({ui.cmbRezeptname, ui.lstRezepte, ui.laInfo, ui.lbRezTol, ui.DBGridRez},
-               gefangen("1011 - ", [this] { cmbRezeptname_Change(); }), [this] { bestätigen(); });
+               gefangen("1011 - ", [this] { cmbRezeptname_Change(); }),
+               gefangen("1019 - ", [this] { bestätigen(); }));
+    const auto ok = gefangen("1019 - ", [this] { pbok_Click(); });
     onClick(ui.pbNeuRezept, [this] { pbNeuRezept_Click(); });
-    onClick(ui.pbÄndRez, [this] { pbÄndRez_Click(); });
+    onClick(ui.pbÄndRez, gefangen("1017 - ", [this] { pbÄndRez_Click(); }));
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });
-    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbok, ok);
     onClick(ui.pbexit, [this] { unload(); });
-    onEnter(this, [this] { pbok_Click(); });
+    onEnter(this, ok);
 }
 
 void frmRezepte::beschriften() {
@@ -150,7 +152,7 @@ void frmRezepte::bestätigen() {
         ui.pbÄndRez->setFocus();
 }
 
-void frmRezepte::pbok_Click() try {
+void frmRezepte::pbok_Click() {
     if (!ui.pbok->isEnabled())
         return;
     if (gRezeptAufruf) {
@@ -161,8 +163,6 @@ void frmRezepte::pbok_Click() try {
         rezeptWählen(mGezeigt);
     }
     unload();
-} catch (const Fehler &fehler) {
-    fehlerBox("1019 - ", fehler);
 }
 
 void frmRezepte::pbNeuRezept_Click() {
@@ -170,7 +170,7 @@ void frmRezepte::pbNeuRezept_Click() {
     form(frm::NeuRezept).showModal();
 }
 
-void frmRezepte::pbÄndRez_Click() try {
+void frmRezepte::pbÄndRez_Click() {
     if (!rezeptGezeigt())
         return;
     Arbeitskopie(ordentlicheRezepte.schritte).füllen(gRezeptID);
@@ -180,8 +180,6 @@ void frmRezepte::pbÄndRez_Click() try {
         inSprache({"Änderung im Rezept '%1'", "Canges In Recipe '%1'"}).arg(mGezeigt));
     hide(); // stays loaded; the editor keeps the screens below out of use
     editor.showModal();
-} catch (const Fehler &fehler) {
-    fehlerBox("1017 - ", fehler);
 }
 
 void frmRezepte::pbDelete_Click() try {

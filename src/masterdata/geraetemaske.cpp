@@ -23,22 +23,25 @@ constexpr Beschriftung english[] = {
 
 } // namespace
 
-Gerätemaske::Gerätemaske(const Text &titel) : mTitel(titel) {
+Gerätemaske::Gerätemaske(const Art &art) : mArt(art) {
     ui.setupUi(this);
-    setCaption(mTitel.german);
+    setCaption(mArt.titel.german);
     ui.Label1->hide();
     enterChain({ui.txtTyp, ui.txtHersteller, ui.txtSerienNr, ui.txtIdentNr});
     onEnter(ui.txtIdentNr, [this] { ui.pbSave->click(); });
-    onClick(ui.pbSave, [this] { pbSave_Click(); });
+    onClick(ui.pbSave, gefangen(mArt.speichern, [this] { pbSave_Click(); }));
     onClick(ui.pbexit, [this] { unload(); });
     onEscape([this] { unload(); });
 }
 
-void Gerätemaske::vorbereiten() {
-    beschriftungenSetzen(ui, *this, english);
-    setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
-    ui.laKunde->setText(umbrechbar(auswahl().kunde));
-    ui.txtTyp->setFocus();
+void Gerätemaske::Form_Load() {
+    gefangen(mArt.laden, [this] {
+        beschriftungenSetzen(ui, *this, english);
+        setCaption(gSprache == 2 ? mArt.titel.english : mArt.titel.german);
+        ui.laKunde->setText(umbrechbar(auswahl().kunde));
+        ui.txtTyp->setFocus();
+        laden();
+    })();
 }
 
 void Gerätemaske::eintragen(const Gerätedaten &gerät) {
@@ -46,16 +49,19 @@ void Gerätemaske::eintragen(const Gerätedaten &gerät) {
     ui.txtHersteller->setText(gerät.hersteller);
     ui.txtSerienNr->setText(gerät.serienNr);
     ui.txtIdentNr->setText(gerät.identNr);
+    mGerätID = gerät.gerätID;
     mVorher = eingabe();
     ui.txtTyp->setCursorPosition(0); // a long name shows its start
 }
 
 Gerätedaten Gerätemaske::eingabe() const {
     return {ui.txtTyp->text(), ui.txtHersteller->text(), ui.txtSerienNr->text(),
-            ui.txtIdentNr->text()};
+            ui.txtIdentNr->text(), mGerätID};
 }
 
-bool Gerätemaske::prüfen(Schlüssel gerätID) {
+/// False, and told why, when something is missing or another unit has the ident number; not if it
+/// was so before.
+bool Gerätemaske::annehmbar() {
     const Gerätedaten gerät = eingabe();
     const Fehlendes fehlendes = fehlendeAngaben(gerät, mVorher);
     if (fehlendes.erste) {
@@ -66,7 +72,7 @@ bool Gerätemaske::prüfen(Schlüssel gerätID) {
     }
     const bool gleich =
         mVorher && gerät.identNr.compare(mVorher->identNr, Qt::CaseInsensitive) == 0;
-    if (!gleich && identnummerVergeben(gerät.identNr, gerätID)) {
+    if (!gleich && identnummerVergeben(gerät.identNr, mGerätID)) {
         meldung({"Diese Identifikationsnummer ist bereits vergeben!",
                  "This identification number has already been allocated!"},
                 Exclamation, {"MESSAGE!", "MESSAGE!"});
@@ -77,10 +83,16 @@ bool Gerätemaske::prüfen(Schlüssel gerätID) {
     return true;
 }
 
-void Gerätemaske::schließen(const QString &identNr) {
+/// Stores and closes, and lets the list of units show this one.
+void Gerätemaske::pbSave_Click() {
+    if (!annehmbar())
+        return;
+    const Gerätedaten gerät = eingabe();
+    speichern(gerät);
+    meldung(mArt.gespeichert, Information, {"Bestätigung", "MESSAGE"});
     unload();
-    if (auto *geräte = loaded<frmGerät>())
-        geräte->fnc_Wählen(identNr);
+    if (auto *list = loaded<frmGerät>())
+        list->fnc_Wählen(gerät.identNr);
 }
 
 void Gerätemaske::bemerken(const QString &text) {

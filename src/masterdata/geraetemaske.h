@@ -11,25 +11,30 @@
 
 class Gerätemaske : public Screen {
   protected:
-    explicit Gerätemaske(const platform::Text &titel);
+    struct Art {
+        platform::Text titel;
+        const char *laden, *speichern; ///< tags of the failure boxes
+        platform::Text gespeichert;
+    };
+    explicit Gerätemaske(const Art &art);
 
-    virtual void pbSave_Click() = 0;
+    void Form_Load() override;
+    // These raise what fails.
+    virtual void laden() {}
+    virtual void speichern(const Gerätedaten &gerät) = 0;
 
-    /// Captions, the customer's name, and the keyboard to the type.
-    void vorbereiten();
     void eintragen(const Gerätedaten &gerät);
-    Gerätedaten eingabe() const;
-    /// False, and told why, when something is missing or another unit has the ident number; not if
-    /// it was so before. `gerätID` is the unit that is changed, 0 for a new one.
-    bool prüfen(Schlüssel gerätID);
-    /// Closes, and lets the list of units show this one.
-    void schließen(const QString &identNr);
     void setSpeichernEnabled(bool enabled) { ui.pbSave->setEnabled(enabled); }
     /// A remark above the fields; none without a text.
     void bemerken(const QString &text);
 
   private:
+    Gerätedaten eingabe() const;
+    bool annehmbar();
+    void pbSave_Click();
+
     Ui::Gerätemaske ui;
-    platform::Text mTitel;
-    std::optional<Gerätedaten> mVorher; ///< of the unit that is changed
+    Art mArt;
+    Schlüssel mGerätID = 0;             ///< of the unit that is changed
+    std::optional<Gerätedaten> mVorher; ///< the same
 };

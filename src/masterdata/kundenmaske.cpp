@@ -22,25 +22,28 @@ const Text eingabefehler{"Eingabefehler", "Error"};
 
 } // namespace
 
-Kundenmaske::Kundenmaske(const Text &titel) : mTitel(titel) {
+Kundenmaske::Kundenmaske(const Art &art) : mArt(art) {
     ui.setupUi(this);
-    setCaption(mTitel.german);
+    setCaption(mArt.titel.german);
     ohneErgänzung(ui.cmbOrt);
     ui.cmbOrt->lineEdit()->setMaxLength(ui.txtName->maxLength());
     enterChain({ui.txtName, ui.txtStraße, ui.txtPLZ, ui.cmbOrt});
     onEnter(ui.cmbOrt, [this] { ui.pbSave->click(); });
-    onClick(ui.pbSave, [this] { pbSave_Click(); });
+    onClick(ui.pbSave, gefangen(mArt.speichern, [this] { pbSave_Click(); }));
     onClick(ui.pbexit, [this] { unload(); });
     onEscape([this] { unload(); });
 }
 
-void Kundenmaske::vorbereiten() {
-    beschriftungenSetzen(ui, *this, english);
-    setCaption(gSprache == 2 ? mTitel.english : mTitel.german);
-    ui.txtName->setFocus();
-    ui.cmbOrt->addItems(Namensliste(kundenorte()).namen());
-    ui.cmbOrt->setCurrentIndex(-1);
-    ui.cmbOrt->clearEditText();
+void Kundenmaske::Form_Load() {
+    gefangen(mArt.laden, [this] {
+        beschriftungenSetzen(ui, *this, english);
+        setCaption(gSprache == 2 ? mArt.titel.english : mArt.titel.german);
+        ui.txtName->setFocus();
+        ui.cmbOrt->addItems(Namensliste(kundenorte()).namen());
+        ui.cmbOrt->setCurrentIndex(-1);
+        ui.cmbOrt->clearEditText();
+        laden();
+    })();
 }
 
 void Kundenmaske::eintragen(const Kundendaten &kunde) {
@@ -48,22 +51,26 @@ void Kundenmaske::eintragen(const Kundendaten &kunde) {
     ui.txtStraße->setText(kunde.straße);
     ui.txtPLZ->setText(kunde.plz);
     ui.cmbOrt->setEditText(kunde.ort);
+    mVorher.kundenID = kunde.kundenID;
     mVorher = eingabe();
     ui.txtName->setCursorPosition(0); // a long name shows its start
 }
 
 Kundendaten Kundenmaske::eingabe() const {
-    return {ui.txtName->text(), ui.txtStraße->text(), ui.txtPLZ->text(), ui.cmbOrt->currentText()};
+    return {ui.txtName->text(), ui.txtStraße->text(), ui.txtPLZ->text(), ui.cmbOrt->currentText(),
+            mVorher.kundenID};
 }
 
-bool Kundenmaske::prüfen(Schlüssel kundenID) {
+/// False, and told why, when there is no name or another customer bears it; not if it was so
+/// before.
+bool Kundenmaske::annehmbar() {
     const QString name = ui.txtName->text();
-    if (kundenID != 0 && name.compare(mVorher.name, Qt::CaseInsensitive) == 0)
+    if (mVorher.kundenID != 0 && name.compare(mVorher.name, Qt::CaseInsensitive) == 0)
         return true;
     if (name.trimmed().isEmpty())
         meldung({" Keine Daten zum Speichern vorhanden! ", " No data to be saved! "}, Exclamation,
                 eingabefehler);
-    else if (kundennameVergeben(name, kundenID))
+    else if (kundennameVergeben(name, mVorher.kundenID))
         meldung({" Dieser Kunde existiert schon!", " This customer is already existent!"},
                 Exclamation, eingabefehler);
     else
@@ -72,8 +79,14 @@ bool Kundenmaske::prüfen(Schlüssel kundenID) {
     return false;
 }
 
-void Kundenmaske::schließen(const QString &name) {
+/// Stores and closes, and lets the list of customers show this one.
+void Kundenmaske::pbSave_Click() {
+    if (!annehmbar())
+        return;
+    const Kundendaten kunde = eingabe();
+    speichern(kunde);
+    meldung(mArt.gespeichert, Information, {"Bestätigung", "MESSAGE"});
     unload();
-    if (auto *kunden = loaded<frmKunden>())
-        kunden->fnc_Wählen(name);
+    if (auto *list = loaded<frmKunden>())
+        list->fnc_Wählen(kunde.name);
 }

@@ -9,23 +9,27 @@
 
 class Kundenmaske : public Screen {
   protected:
-    explicit Kundenmaske(const platform::Text &titel);
+    struct Art {
+        platform::Text titel;
+        const char *laden, *speichern; ///< tags of the failure boxes
+        platform::Text gespeichert;
+    };
+    explicit Kundenmaske(const Art &art);
 
-    virtual void pbSave_Click() = 0;
+    void Form_Load() override;
+    // These raise what fails.
+    virtual void laden() {}
+    virtual void speichern(const Kundendaten &kunde) = 0;
 
-    /// Captions, the list of towns, and the keyboard to the name.
-    void vorbereiten();
     void eintragen(const Kundendaten &kunde);
-    Kundendaten eingabe() const;
-    /// False, and told why, when there is no name or another customer bears it; not if it was so
-    /// before. `kundenID` is the customer that is changed, 0 for a new one.
-    bool prüfen(Schlüssel kundenID);
-    /// Closes, and lets the list of customers show this one.
-    void schließen(const QString &name);
     void setSpeichernEnabled(bool enabled) { ui.pbSave->setEnabled(enabled); }
 
   private:
+    Kundendaten eingabe() const;
+    bool annehmbar();
+    void pbSave_Click();
+
     Ui::Kundenmaske ui;
-    platform::Text mTitel;
+    Art mArt;
     Kundendaten mVorher; ///< of the customer that is changed
 };

@@ -163,7 +163,7 @@ bool Schritteditor::wertAnnehmen(const Wertfeld &wert) {
     return false;
 }
 
-bool Schritteditor::prüfen() try {
+bool Schritteditor::schrittPrüfen() try {
     const Fehlendes missing = fehlendeAngaben(
         mArt.angaben(schritt(), mFelder.prüfart ? mFelder.prüfart->currentText() : QString()));
     if (!missing.erste)

@@ -59,7 +59,7 @@ class Schritteditor {
     void einmalUngeprüft() { mUngeprüft = true; }
 
     // The step at hand and the table. False, or nothing, after a box that told why.
-    bool prüfen(); ///< complete, and its torque permissible
+    bool schrittPrüfen(); ///< complete, and its torque permissible
     std::optional<bool> vorhanden() const;
     bool anlegen() const;
     bool ändern() const;

@@ -69,8 +69,8 @@ void gerätEinfügen(Schlüssel kundenID, const Gerätedaten &gerät) {
                        {kundenID, gerät.typ, gerät.hersteller, gerät.serienNr, gerät.identNr});
 }
 
-void gerätÄndern(Schlüssel gerätID, const Gerätedaten &gerät) {
+void gerätÄndern(const Gerätedaten &gerät) {
     satzÄndern("update Ergometer set Gerätetyp = ?, Hersteller = ?, SerienNr = ?, "
                "IdentNr = ? where GerätID = ?",
-               {gerät.typ, gerät.hersteller, gerät.serienNr, gerät.identNr, gerätID});
+               {gerät.typ, gerät.hersteller, gerät.serienNr, gerät.identNr, gerät.gerätID});
 }

@@ -38,4 +38,4 @@ bool hatGeräte(Schlüssel kundenID);
 bool identnummerVergeben(const QString &identNr, Schlüssel außer);
 
 void gerätEinfügen(Schlüssel kundenID, const Gerätedaten &gerät);
-void gerätÄndern(Schlüssel gerätID, const Gerätedaten &gerät);
+void gerätÄndern(const Gerätedaten &gerät);

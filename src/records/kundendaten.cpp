@@ -45,7 +45,7 @@ void kundeEinfügen(const Kundendaten &kunde) {
                        {kunde.name, kunde.straße, kunde.ort, kunde.plz});
 }
 
-void kundeÄndern(Schlüssel kundenID, const Kundendaten &kunde) {
+void kundeÄndern(const Kundendaten &kunde) {
     satzÄndern("update Kunden set Name = ?, Straße = ?, PLZ = ?, Ort = ? where KundenID = ?",
-               {kunde.name, kunde.straße, kunde.plz, kunde.ort, kundenID});
+               {kunde.name, kunde.straße, kunde.plz, kunde.ort, kunde.kundenID});
 }

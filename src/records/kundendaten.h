@@ -33,4 +33,4 @@ Kundendaten kundeLesen(Schlüssel kundenID);
 bool kundennameVergeben(const QString &name, Schlüssel außer);
 
 void kundeEinfügen(const Kundendaten &kunde);
-void kundeÄndern(Schlüssel kundenID, const Kundendaten &kunde);
+void kundeÄndern(const Kundendaten &kunde);

@@ -19,28 +19,28 @@ const Löschplan &planFür(Löschziel ziel) {
     return ziel == Löschziel::Kunde ? kunde : gerät;
 }
 
-/// Protocols that have all of this, and what is cleared before their heads. Each step finds what
+/// Protocols that have all of this, and what is cleared before their heads. Each round finds what
 /// the ones before it have left.
-struct Löschschritt {
+struct Löschgang {
     std::vector<Inhalt> mit;
     std::vector<Inhalt> leeren;
 };
 
-const Löschschritt löschschritte[] = {
+const Löschgang löschgänge[] = {
     {{Inhalt::Messwerte}, {Inhalt::SecControl, Inhalt::Blutdruck, Inhalt::Messwerte}},
     {{Inhalt::Blutdruck, Inhalt::SecControl}, {Inhalt::Blutdruck, Inhalt::SecControl}},
     {{Inhalt::Blutdruck}, {Inhalt::Blutdruck}},
     {{Inhalt::SecControl}, {Inhalt::SecControl}},
 };
 
-void schrittAusführen(const Löschschritt &schritt, const Löschplan &plan, Bestand bestand,
-                      Schlüssel schlüssel, const std::function<void()> &zwischendurch) {
+void gangAusführen(const Löschgang &gang, const Löschplan &plan, Bestand bestand,
+                   Schlüssel schlüssel, const std::function<void()> &zwischendurch) {
     QString sql = "SELECT DISTINCT Kopf.ProtokollID FROM " + kopftabelle(bestand) + " AS Kopf";
-    for (const Inhalt inhalt : schritt.mit)
+    for (const Inhalt inhalt : gang.mit)
         sql += " INNER JOIN " + tabelle(bestand, inhalt) + " USING (ProtokollID)";
     sql += " WHERE Kopf." + plan.schlüssel + " = ?";
     for (Recordset kopf = gDatenbank.open(sql, {schlüssel}); !kopf.atEnd(); kopf.moveNext()) {
-        for (const Inhalt inhalt : schritt.leeren)
+        for (const Inhalt inhalt : gang.leeren)
             inhaltLöschen(bestand, inhalt, kopf[0].whole());
         kopfLöschen(bestand, kopf[0].whole());
         zwischendurch();
@@ -49,8 +49,8 @@ void schrittAusführen(const Löschschritt &schritt, const Löschplan &plan, Bes
 
 void protokolleLöschen(const Löschplan &plan, Bestand bestand, Schlüssel schlüssel,
                        const std::function<void()> &zwischendurch) {
-    for (const Löschschritt &schritt : löschschritte)
-        schrittAusführen(schritt, plan, bestand, schlüssel, zwischendurch);
+    for (const Löschgang &gang : löschgänge)
+        gangAusführen(gang, plan, bestand, schlüssel, zwischendurch);
     if (plan.auchLeereKöpfe)
         gDatenbank.execute("DELETE FROM " + kopftabelle(bestand) + " WHERE " + plan.schlüssel +
                                " = ?",

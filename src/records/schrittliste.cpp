@@ -16,7 +16,7 @@ void überspringen(Statement statement) try {
 }
 
 /// Raises for a step that no recipe may hold.
-void prüfen(const Schritt &schritt) {
+void vollständigVerlangen(const Schritt &schritt) {
     CDbl(schritt.drehzahl);
     CDbl(schritt.leistung);
     if (schritt.nummer < 1 || schritt.prüfart == Prüfart::Keine)
@@ -72,7 +72,7 @@ bool Schrittliste::vorhanden(Schlüssel rezeptID, int nummer) const {
 }
 
 void Schrittliste::anlegen(Schlüssel rezeptID, const Schritt &schritt) const {
-    prüfen(schritt);
+    vollständigVerlangen(schritt);
     QString columns = "RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart";
     QString values = "?, ?, ?, ?, ?";
     Datenbank::Params params{rezeptID, QString::number(schritt.nummer), schritt.drehzahl,
@@ -87,7 +87,7 @@ void Schrittliste::anlegen(Schlüssel rezeptID, const Schritt &schritt) const {
 }
 
 void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
-    prüfen(schritt);
+    vollständigVerlangen(schritt);
     QString columns = "Drehzahl = ?, Leistung = ?, Prüfart = ?";
     Datenbank::Params params{schritt.drehzahl, CDbl(schritt.leistung),
                              QString::number(schritt.prüfart)};
@@ -101,15 +101,15 @@ void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
                params);
 }
 
-void Schrittliste::umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const {
+void Schrittliste::umnummerieren(Schlüssel rezeptID, const Umnummerierung &nummer) const {
     execute("UPDATE %1 SET Prüfschritt = ? WHERE Val(Prüfschritt) = ? AND RezeptID = ?",
-            {QString::number(schritt.nach), schritt.von, rezeptID});
+            {QString::number(nummer.nach), nummer.von, rezeptID});
 }
 
 void Schrittliste::einfügen(Schlüssel rezeptID, const Schritt &schritt) const {
-    prüfen(schritt); // before anything has moved
-    for (const Umnummerierung &step : platzSchaffen(schritt.nummer, größteNummer(rezeptID)))
-        umnummerieren(rezeptID, step);
+    vollständigVerlangen(schritt); // before anything has moved
+    for (const Umnummerierung &number : platzSchaffen(schritt.nummer, größteNummer(rezeptID)))
+        umnummerieren(rezeptID, number);
     anlegen(rezeptID, schritt);
 }
 
@@ -118,8 +118,8 @@ void Schrittliste::löschen(Schlüssel rezeptID, int nummer) const {
     überspringen([&] {
         execute("DELETE FROM %1 WHERE Val(Prüfschritt) = ? AND RezeptID = ?", {nummer, rezeptID});
     });
-    for (const Umnummerierung &step : lückeSchließen(nummer, greatest))
-        überspringen([&] { umnummerieren(rezeptID, step); });
+    for (const Umnummerierung &number : lückeSchließen(nummer, greatest))
+        überspringen([&] { umnummerieren(rezeptID, number); });
 }
 
 /// Asks for the two words of the type.

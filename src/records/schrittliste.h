@@ -68,7 +68,7 @@ class Schrittliste {
   private:
     QString spalten() const;
     int execute(const char *sql, const std::vector<QVariant> &params) const;
-    void umnummerieren(Schlüssel rezeptID, const Umnummerierung &schritt) const;
+    void umnummerieren(Schlüssel rezeptID, const Umnummerierung &nummer) const;
 
     const char *mTabelle;
     std::vector<Schrittspalte> mWeitere;
