@@ -2,13 +2,22 @@
 #pragma once
 
 #include "masterdata/geraetemaske.h"
+#include "session/auswahl.h"
 
 class frmÄndGerät : public Gerätemaske {
   public:
     static constexpr frm id = frm::ÄndGerät;
-    frmÄndGerät();
+    frmÄndGerät()
+        : Gerätemaske({{"Gerät ändern", "Edit Unit"},
+                       "1150 - ",
+                       "1150 - ",
+                       {" Daten wurden geändert. ", " Data have been changed!"},
+                       true}) {}
 
   private:
-    void laden() override;
-    void speichern(const Gerätedaten &gerät) override;
+    void speichern(const Gerätedaten &gerät) override {
+        gerätÄndern(gerät);
+        if (gGerätID == gerät.gerätID)
+            gerätUmbenennen(gerät.typ, gerät.identNr);
+    }
 };

@@ -18,23 +18,10 @@ namespace {
 
 constexpr Beschriftung english[] = {
     {"lbRezName", "Recipe:"},
-    {"lbToleranz", "S&pecification:"},
-    {"FrSchritt", "Test Step"},
-    {"lbSchritt", "Test step:"},
-    {"lbDrehzahl", "Spee&d:"},
-    {"lbLeistung", "Po&wer:"},
-    {"lbPrArt", "&Type:"},
     {"pbSpeichern", "&Save"},
     {"pbNeu", "&New Step"},
-    {"pbEinfuegen", "&Insert"},
-    {"pbLoeschen", "De&lete"},
-    {"FrSchritte", "Test Steps Of The Recipe"},
-    {"pbFirst#tip", "First test step"},
     {"pbVorheriger#tip", "Previous test step"},
-    {"pbNext#tip", "Next test step"},
     {"pbLetzter#tip", "Last test step"},
-    {"pbok", "&OK"},
-    {"pbexit", "&Cancel"},
 };
 
 std::optional<QString> toleranzZurTaste(const QString &taste) {
@@ -105,6 +92,7 @@ void frmÄndRez::felderVerdrahten() {
 void frmÄndRez::beschriften() {
     const QString recipe = caption(); // names it, from whoever opened the screen
     beschriftungenSetzen(ui, *this, english);
+    englischBeschriften(*this, schrittEnglisch);
     setCaption(recipe);
 }
 

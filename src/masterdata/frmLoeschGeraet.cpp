@@ -20,6 +20,7 @@ constexpr Beschriftung english[] = {
 frmLöschGerät::frmLöschGerät() {
     ui.setupUi(this);
     verdrahten({Löschziel::Gerät,
+                frm::Gerät,
                 ui.lbProtocollCount,
                 ui.pbYes,
                 ui.pbNo,
@@ -31,11 +32,6 @@ void frmLöschGerät::beschriften() {
     beschriftungenSetzen(ui, *this, english);
 }
 
-Schlüssel frmLöschGerät::gewählt() const {
-    const auto *list = loaded<frmGerät>();
-    return list ? list->gezeigt() : 0;
-}
-
 platform::Text frmLöschGerät::frage(Schlüssel gerätID) {
     const Gerätedaten &unit = loaded<frmGerät>()->gerät();
     const platform::Text text = gerätefrage(protokolleZählen(Löschziel::Gerät, gerätID), unit.typ);
@@ -43,9 +39,7 @@ platform::Text frmLöschGerät::frage(Schlüssel gerätID) {
     return text;
 }
 
-void frmLöschGerät::nachLöschen(Schlüssel gerätID) {
-    if (auto *list = loaded<frmGerät>())
-        list->fnc_ListeLeeren();
+void frmLöschGerät::abwählen(Schlüssel gerätID) {
     if (gGerätID == gerätID)
         gerätAbwählen();
 }

@@ -12,9 +12,8 @@ class frmLöschGerät : public Löschabfrage {
 
   private:
     void beschriften() override;
-    Schlüssel gewählt() const override;
     platform::Text frage(Schlüssel gerätID) override;
-    void nachLöschen(Schlüssel gerätID) override;
+    void abwählen(Schlüssel gerätID) override;
 
     Ui::frmLöschGerät ui;
 };

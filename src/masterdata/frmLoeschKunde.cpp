@@ -18,6 +18,7 @@ constexpr Beschriftung english[] = {
 frmLöschKunde::frmLöschKunde() {
     ui.setupUi(this);
     verdrahten({Löschziel::Kunde,
+                frm::Kunden,
                 ui.lbProtocollCount,
                 ui.pbok,
                 ui.pbCancel,
@@ -29,20 +30,13 @@ void frmLöschKunde::beschriften() {
     beschriftungenSetzen(ui, *this, english);
 }
 
-Schlüssel frmLöschKunde::gewählt() const {
-    const auto *list = loaded<frmKunden>();
-    return list ? list->gezeigt() : 0;
-}
-
 platform::Text frmLöschKunde::frage(Schlüssel kundenID) {
     mGeräteZuvor = std::exchange(mGeräte, geräteZählen(kundenID));
     return kundenfrage(mGeräte, protokolleZählen(Löschziel::Kunde, kundenID),
                        loaded<frmKunden>()->kundenname());
 }
 
-void frmLöschKunde::nachLöschen(Schlüssel kundenID) {
-    if (auto *list = loaded<frmKunden>())
-        list->fnc_ListeLeeren();
+void frmLöschKunde::abwählen(Schlüssel kundenID) {
     if (gKundenID == kundenID)
         kundeAbwählen();
 }

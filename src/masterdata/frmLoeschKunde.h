@@ -12,9 +12,8 @@ class frmLöschKunde : public Löschabfrage {
 
   private:
     void beschriften() override;
-    Schlüssel gewählt() const override;
     platform::Text frage(Schlüssel kundenID) override;
-    void nachLöschen(Schlüssel kundenID) override;
+    void abwählen(Schlüssel kundenID) override;
     void nachFehler(Schlüssel kundenID) override;
 
     Ui::frmLöschKunde ui;

@@ -10,7 +10,8 @@ class frmNeuGerät : public Gerätemaske {
         : Gerätemaske({{"Neues Gerät", "New Unit"},
                        "1061 - ",
                        "1060 - ",
-                       {"Daten wurden gespeichert!", "Data have been saved!"}}) {}
+                       {"Daten wurden gespeichert!", "Data have been saved!"},
+                       false}) {}
 
     void showInfo(const QString &text) override { bemerken(text); }
 

@@ -10,7 +10,8 @@ class frmNeuKunde : public Kundenmaske {
         : Kundenmaske({{"Neuer Kunde", "New Customer"},
                        "1051 - ",
                        "1050 - ",
-                       {"Daten wurden gespeichert!", "Data have been saved!"}}) {}
+                       {"Daten wurden gespeichert!", "Data have been saved!"},
+                       false}) {}
 
   private:
     void speichern(const Kundendaten &kunde) override { kundeEinfügen(kunde); }

@@ -16,25 +16,12 @@ namespace {
 constexpr Beschriftung english[] = {
     {"", "New Recipe"},
     {"lbRezName", "&Recipe name:"},
-    {"lbToleranz", "S&pecification:"},
     {"pbRezSave", "Sa&ve Recipe Name"},
-    {"FrSchritt", "Test Step"},
-    {"lbSchritt", "Test step:"},
-    {"lbDrehzahl", "Spee&d:"},
-    {"lbLeistung", "Po&wer:"},
-    {"lbPrArt", "&Type:"},
     {"pbSave", "&Save"},
     {"pbAddNew", "&New Step"},
-    {"pbEinfuegen", "&Insert"},
-    {"pbLoeschen", "De&lete"},
     {"pbKopie", "Cop&y Recipe ..."},
-    {"FrSchritte", "Test Steps Of The Recipe"},
-    {"pbFirst#tip", "First test step"},
     {"pbPrevious#tip", "Previous test step"},
-    {"pbNext#tip", "Next test step"},
     {"pbLast#tip", "Last test step"},
-    {"pbok", "&OK"},
-    {"pbexit", "&Cancel"},
 };
 
 } // namespace
@@ -65,6 +52,7 @@ frmNeuRezept::frmNeuRezept() {
 
 void frmNeuRezept::beschriften() {
     beschriftungenSetzen(ui, *this, english);
+    englischBeschriften(*this, schrittEnglisch);
     for (QPushButton *symbol : {ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast})
         symbol->setAccessibleName(symbol->toolTip());
     mEditor.beschriften();

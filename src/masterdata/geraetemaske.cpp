@@ -26,6 +26,7 @@ constexpr Beschriftung english[] = {
 Gerätemaske::Gerätemaske(const Art &art) : mArt(art) {
     ui.setupUi(this);
     setCaption(mArt.titel.german);
+    ui.pbSave->setEnabled(!mArt.änderung); // nothing is loaded yet
     ui.Label1->hide();
     enterChain({ui.txtTyp, ui.txtHersteller, ui.txtSerienNr, ui.txtIdentNr});
     onEnter(ui.txtIdentNr, [this] { ui.pbSave->click(); });
@@ -40,7 +41,11 @@ void Gerätemaske::Form_Load() {
         setCaption(gSprache == 2 ? mArt.titel.english : mArt.titel.german);
         ui.laKunde->setText(umbrechbar(auswahl().kunde));
         ui.txtTyp->setFocus();
-        laden();
+        const auto *list = loaded<frmGerät>();
+        if (mArt.änderung && list && list->gezeigt() != 0) {
+            eintragen(gerätLesen(list->gezeigt()));
+            ui.pbSave->setEnabled(true);
+        }
     })();
 }
 

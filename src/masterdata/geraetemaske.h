@@ -15,20 +15,18 @@ class Gerätemaske : public Screen {
         platform::Text titel;
         const char *laden, *speichern; ///< tags of the failure boxes
         platform::Text gespeichert;
+        bool änderung; ///< of the one that the list shows
     };
     explicit Gerätemaske(const Art &art);
 
     void Form_Load() override;
-    // These raise what fails.
-    virtual void laden() {}
+    /// Raises what fails.
     virtual void speichern(const Gerätedaten &gerät) = 0;
-
-    void eintragen(const Gerätedaten &gerät);
-    void setSpeichernEnabled(bool enabled) { ui.pbSave->setEnabled(enabled); }
     /// A remark above the fields; none without a text.
     void bemerken(const QString &text);
 
   private:
+    void eintragen(const Gerätedaten &gerät);
     Gerätedaten eingabe() const;
     bool annehmbar();
     void pbSave_Click();

@@ -25,6 +25,7 @@ const Text eingabefehler{"Eingabefehler", "Error"};
 Kundenmaske::Kundenmaske(const Art &art) : mArt(art) {
     ui.setupUi(this);
     setCaption(mArt.titel.german);
+    ui.pbSave->setEnabled(!mArt.änderung); // nothing is loaded yet
     ohneErgänzung(ui.cmbOrt);
     ui.cmbOrt->lineEdit()->setMaxLength(ui.txtName->maxLength());
     enterChain({ui.txtName, ui.txtStraße, ui.txtPLZ, ui.cmbOrt});
@@ -42,7 +43,11 @@ void Kundenmaske::Form_Load() {
         ui.cmbOrt->addItems(Namensliste(kundenorte()).namen());
         ui.cmbOrt->setCurrentIndex(-1);
         ui.cmbOrt->clearEditText();
-        laden();
+        const auto *list = loaded<frmKunden>();
+        if (mArt.änderung && list && list->gezeigt() != 0) {
+            eintragen(kundeLesen(list->gezeigt()));
+            ui.pbSave->setEnabled(true);
+        }
     })();
 }
 

@@ -13,18 +13,16 @@ class Kundenmaske : public Screen {
         platform::Text titel;
         const char *laden, *speichern; ///< tags of the failure boxes
         platform::Text gespeichert;
+        bool änderung; ///< of the one that the list shows
     };
     explicit Kundenmaske(const Art &art);
 
     void Form_Load() override;
-    // These raise what fails.
-    virtual void laden() {}
+    /// Raises what fails.
     virtual void speichern(const Kundendaten &kunde) = 0;
 
-    void eintragen(const Kundendaten &kunde);
-    void setSpeichernEnabled(bool enabled) { ui.pbSave->setEnabled(enabled); }
-
   private:
+    void eintragen(const Kundendaten &kunde);
     Kundendaten eingabe() const;
     bool annehmbar();
     void pbSave_Click();

@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "controls/umbruch.h"
+#include "masterdata/listenmaske.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
 
@@ -71,18 +72,20 @@ void Löschabfrage::Form_Load() {
 
 void Löschabfrage::fnc_FrageZeigen() {
     mAufbau.ja->setEnabled(false); // until it is known what Yes would delete
-    const Schlüssel shown = gewählt();
-    if (shown == 0)
+    const auto *list = static_cast<Listenmaske *>(loaded(mAufbau.liste));
+    if (!list || list->gezeigt() == 0)
         return;
-    mAufbau.frage->setText(umbrechbar(inSprache(frage(shown))));
-    mSchlüssel = shown;
+    mAufbau.frage->setText(umbrechbar(inSprache(frage(list->gezeigt()))));
+    mSchlüssel = list->gezeigt();
     mAufbau.ja->setEnabled(true);
 }
 
 void Löschabfrage::ja_Click() try {
     löschen();
     meldung(mAufbau.gelöscht, platform::Information, {"Bestätigung", "Confirmation"});
-    nachLöschen(mSchlüssel);
+    if (Screen *list = loaded(mAufbau.liste))
+        static_cast<Listenmaske *>(list)->fnc_ListeLeeren();
+    abwählen(mSchlüssel);
     unload();
 } catch (const Fehler &fehler) {
     fehlerBox("31001 - ", fehler);

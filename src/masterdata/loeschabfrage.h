@@ -12,11 +12,13 @@ class QPushButton;
 platform::Text kundenfrage(int geräte, int protokolle, const QString &name);
 platform::Text gerätefrage(int protokolle, const QString &name);
 
-/// Counts and asks when it opens, deletes on Yes, and asks anew about what a failure has left.
+/// Counts and asks when it opens, deletes on Yes the record that its list shows, and asks anew
+/// about what a failure has left.
 class Löschabfrage : public Screen {
   protected:
     struct Aufbau {
         Löschziel ziel;
+        frm liste; ///< a Listenmaske
         QLabel *frage;
         QPushButton *ja, *nein;
         platform::Text gelöscht; ///< told at the end
@@ -28,12 +30,10 @@ class Löschabfrage : public Screen {
     void Form_Load() override;
 
     virtual void beschriften() = 0;
-    /// Key of the record to be deleted, 0 for none.
-    virtual Schlüssel gewählt() const = 0;
-    /// The question about it. Raises what fails.
+    /// The question about the record of this key. Raises what fails.
     virtual platform::Text frage(Schlüssel schlüssel) = 0;
-    /// The record is gone from the database.
-    virtual void nachLöschen(Schlüssel schlüssel) = 0;
+    /// The record is gone: no longer chosen for the session.
+    virtual void abwählen(Schlüssel schlüssel) = 0;
     /// Something of it may be left; the question stands anew.
     virtual void nachFehler(Schlüssel) {}
 

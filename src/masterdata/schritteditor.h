@@ -14,12 +14,30 @@
 #include "controls/kuerzelfeld.h"
 #include "controls/schrittgitter.h"
 #include "masterdata/rezeptart.h"
+#include "session/sprache.h"
 
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QTableView;
 class QWidget;
+
+/// English captions that the screens of editors have in common.
+inline constexpr Beschriftung schrittEnglisch[] = {
+    {"lbToleranz", "S&pecification:"},
+    {"FrSchritt", "Test Step"},
+    {"lbSchritt", "Test step:"},
+    {"lbDrehzahl", "Spee&d:"},
+    {"lbLeistung", "Po&wer:"},
+    {"lbPrArt", "&Type:"},
+    {"pbEinfuegen", "&Insert"},
+    {"pbLoeschen", "De&lete"},
+    {"FrSchritte", "Test Steps Of The Recipe"},
+    {"pbFirst#tip", "First test step"},
+    {"pbNext#tip", "Next test step"},
+    {"pbok", "&OK"},
+    {"pbexit", "&Cancel"},
+};
 
 class Schritteditor {
   public:
