@@ -8,11 +8,11 @@ class frmÄndGerät : public Gerätemaske {
   public:
     static constexpr frm id = frm::ÄndGerät;
     frmÄndGerät()
-        : Gerätemaske({{"Gerät ändern", "Edit Unit"},
-                       "1150 - ",
-                       "1150 - ",
-                       {" Daten wurden geändert. ", " Data have been changed!"},
-                       true}) {}
+        : Gerätemaske({.titel = {"Gerät ändern", "Edit Unit"},
+                       .laden = "1150 - ",
+                       .speichern = "1150 - ",
+                       .gespeichert = {" Daten wurden geändert. ", " Data have been changed!"},
+                       .änderung = true}) {}
 
   private:
     void speichern(const Gerätedaten &gerät) override {

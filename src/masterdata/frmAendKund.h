@@ -8,11 +8,11 @@ class frmÄndKund : public Kundenmaske {
   public:
     static constexpr frm id = frm::ÄndKund;
     frmÄndKund()
-        : Kundenmaske({{"Kunde ändern", "Edit Customer"},
-                       "1140 - ",
-                       "1140 - ",
-                       {" Daten wurden geändert. ", " Data have been changed!"},
-                       true}) {}
+        : Kundenmaske({.titel = {"Kunde ändern", "Edit Customer"},
+                       .laden = "1140 - ",
+                       .speichern = "1140 - ",
+                       .gespeichert = {" Daten wurden geändert. ", " Data have been changed!"},
+                       .änderung = true}) {}
 
   private:
     void speichern(const Kundendaten &kunde) override {

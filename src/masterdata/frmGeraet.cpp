@@ -35,15 +35,15 @@ constexpr Beschriftung english[] = {
 frmGerät::frmGerät() {
     ui.setupUi(this);
     const auto choose = gefangen("1102 - ", [this] { pbok_Click(); });
-    verdrahten({ui.cmbIdent,
-                ui.lstIdent,
-                ui.cmbTyp,
-                {"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"},
-                {"Achtung!", "Attention!"},
-                "1091 - ",
-                "1092 - ",
-                "1094 - ",
-                "1093 - "},
+    verdrahten({.feld = ui.cmbIdent,
+                .liste = ui.lstIdent,
+                .filter = ui.cmbTyp,
+                .keiner = {"Wählen Sie zuerst ein Gerät aus!", "First, select a unit under test!"},
+                .achtung = {"Achtung!", "Attention!"},
+                .laden = "1091 - ",
+                .lesen = "1092 - ",
+                .text = "1094 - ",
+                .auswahl = "1093 - "},
                choose);
     enterChain({ui.cmbTyp, ui.cmbIdent});
     onClick(ui.pbNeu, [this] { neuen(frm::NeuGerät); });

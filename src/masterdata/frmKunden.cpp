@@ -37,22 +37,24 @@ const Text suchtitel{"Suchen", "Search"};
 
 frmKunden::frmKunden() {
     ui.setupUi(this);
-    verdrahten({ui.cmbKundenname,
-                ui.lstKunden,
-                ui.cmbOrt,
-                {"Wählen sie zuerst einen Kunden aus!", "Please select a customer first!"},
-                {"Achtung!", "Attention"},
-                "1070 - ",
-                "1077 - ",
-                "1071 - ",
-                "1072 - "},
-               gefangen("1074 - ", [this] { pbexit_Click(); }));
+    const auto choose = gefangen("1074 - ", [this] { pbexit_Click(); });
+    verdrahten(
+        {.feld = ui.cmbKundenname,
+         .liste = ui.lstKunden,
+         .filter = ui.cmbOrt,
+         .keiner = {"Wählen sie zuerst einen Kunden aus!", "Please select a customer first!"},
+         .achtung = {"Achtung!", "Attention"},
+         .laden = "1070 - ",
+         .lesen = "1077 - ",
+         .text = "1071 - ",
+         .auswahl = "1072 - "},
+        choose);
     enterChain({ui.cmbOrt, ui.lstKunden});
     onClick(ui.pbSearch, gefangen("1073 - ", [this] { pbSearch_Click(); }));
     onClick(ui.pbNeu, [this] { neuen(frm::NeuKunde); });
     onClick(ui.pbchange, gefangen("1075 - ", [this] { mitGezeigtem(frm::ÄndKund); }));
     onClick(ui.pbDelete, gefangen("1076 - ", [this] { mitGezeigtem(frm::LöschKunde); }));
-    onClick(ui.pbexit, gefangen("1074 - ", [this] { pbexit_Click(); }));
+    onClick(ui.pbexit, choose);
     onClick(ui.pbAbbrechen, [this] { unload(); });
 }
 

@@ -19,13 +19,13 @@ constexpr Beschriftung english[] = {
 
 frmLöschGerät::frmLöschGerät() {
     ui.setupUi(this);
-    verdrahten({Löschziel::Gerät,
-                frm::Gerät,
-                ui.lbProtocollCount,
-                ui.pbYes,
-                ui.pbNo,
-                {"Daten wurden gelöscht!", "Data have been deleted!"},
-                "31002 - "});
+    verdrahten({.ziel = Löschziel::Gerät,
+                .liste = frm::Gerät,
+                .frage = ui.lbProtocollCount,
+                .ja = ui.pbYes,
+                .nein = ui.pbNo,
+                .gelöscht = {"Daten wurden gelöscht!", "Data have been deleted!"},
+                .fragen = "31002 - "});
 }
 
 void frmLöschGerät::beschriften() {

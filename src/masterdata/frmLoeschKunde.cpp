@@ -17,13 +17,13 @@ constexpr Beschriftung english[] = {
 
 frmLöschKunde::frmLöschKunde() {
     ui.setupUi(this);
-    verdrahten({Löschziel::Kunde,
-                frm::Kunden,
-                ui.lbProtocollCount,
-                ui.pbok,
-                ui.pbCancel,
-                {"Die Daten wurden gelöscht!", "Data have been deleted!"},
-                "LK 1 - "});
+    verdrahten({.ziel = Löschziel::Kunde,
+                .liste = frm::Kunden,
+                .frage = ui.lbProtocollCount,
+                .ja = ui.pbok,
+                .nein = ui.pbCancel,
+                .gelöscht = {"Die Daten wurden gelöscht!", "Data have been deleted!"},
+                .fragen = "LK 1 - "});
 }
 
 void frmLöschKunde::beschriften() {

@@ -7,11 +7,11 @@ class frmNeuGerät : public Gerätemaske {
   public:
     static constexpr frm id = frm::NeuGerät;
     frmNeuGerät()
-        : Gerätemaske({{"Neues Gerät", "New Unit"},
-                       "1061 - ",
-                       "1060 - ",
-                       {"Daten wurden gespeichert!", "Data have been saved!"},
-                       false}) {}
+        : Gerätemaske({.titel = {"Neues Gerät", "New Unit"},
+                       .laden = "1061 - ",
+                       .speichern = "1060 - ",
+                       .gespeichert = {"Daten wurden gespeichert!", "Data have been saved!"},
+                       .änderung = false}) {}
 
     void showInfo(const QString &text) override { bemerken(text); }
 

@@ -7,11 +7,11 @@ class frmNeuKunde : public Kundenmaske {
   public:
     static constexpr frm id = frm::NeuKunde;
     frmNeuKunde()
-        : Kundenmaske({{"Neuer Kunde", "New Customer"},
-                       "1051 - ",
-                       "1050 - ",
-                       {"Daten wurden gespeichert!", "Data have been saved!"},
-                       false}) {}
+        : Kundenmaske({.titel = {"Neuer Kunde", "New Customer"},
+                       .laden = "1051 - ",
+                       .speichern = "1050 - ",
+                       .gespeichert = {"Daten wurden gespeichert!", "Data have been saved!"},
+                       .änderung = false}) {}
 
   private:
     void speichern(const Kundendaten &kunde) override { kundeEinfügen(kunde); }
