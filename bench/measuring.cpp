@@ -13,7 +13,6 @@
 #include <sys/resource.h>
 
 #include "app/start.h"
-#include "controls.h"
 #include "fastline.h"
 #include "figures.h"
 #include "largedatabase.h"

@@ -6,17 +6,7 @@ namespace {
 
 using namespace support;
 
-class LineFaults : public Measuring {
-  protected:
-    LineFaults() {
-        views["motor"] = [this] { // as far as anybody knows, what can be pressed, and in truth
-            return QString("%1%2%3 %4")
-                .arg(gMotorEin ? "on" : "off", canPress(frm::Desktop, "pbMotein") ? " Motein" : "",
-                     canPress(frm::Desktop, "pbMotaus") ? " Motaus" : "")
-                .arg(line.stand().setSpeed());
-        };
-    }
-};
+using LineFaults = Measuring;
 
 JOURNEY_P(LineFaults, MotorOnAndOff) {
     change("UPDATE System SET Einlzeit2 = NULL"); // ten minutes if nothing is stored

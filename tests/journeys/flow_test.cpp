@@ -86,7 +86,7 @@ JOURNEY(Counting, AStopWins) {
 JOURNEY(Counting, IsNotLeftToItself) {
     co_await go(R"(
         select ; direction ; run ; until log ~ 1/2 ; ? lineLost ; ? refused ; ? noPort ; line out ; @Desktop
-        motor == on ; can pbMotaus)");
+        motor ~ ^on Motaus)");
 }
 
 } // namespace

@@ -37,11 +37,11 @@ JOURNEY_P(LineGone, ForGood) {
         # Nobody could tell the motor to stop.
         measure ; step 1 60 ; ? lineLost ; line out ; pass 10000
         ? noPort ; ? emptyProtocol ; close ; @Desktop
-        motor == on ; can pbMotaus ; shaft ~ ^set=60.00 ; line in
+        motor == on Motaus 60 ; line in
         # Stored, and the next set-point cannot be sent: then it leaves by itself.
         correct ; protocol Noch einmal ; step 1 60 ; ? lineLost ; line out ; pass 10000
         ? noPort ; ? motorOn ; ? refused ; ? noPort ; pbSpeichern ; @Desktop
-        motor == on ; shaft ~ ^set=60.00 ; line in ; whole Danach
+        motor ~ ^on.* 60$ ; line in ; whole Danach
         line out ; ? end yes ; pbBeenden ; pass 100 ; process == over)"); // it stands
 }
 

@@ -28,7 +28,12 @@ class Measuring : public Workplace {
                 near += text(frm::StatMessen, shown);
             return near.join(' ');
         };
-        views["motor"] = [] { return gMotorEin ? QString("on") : QString("off"); };
+        views["motor"] = [this] { // as far as anybody knows, what can be pressed, and in truth
+            return QString("%1%2%3 %4")
+                .arg(gMotorEin ? "on" : "off", canPress(frm::Desktop, "pbMotein") ? " Motein" : "",
+                     canPress(frm::Desktop, "pbMotaus") ? " Motaus" : "")
+                .arg(line.stand().setSpeed());
+        };
         views["spec"] = [] {
             return QString::number(gToleranzID) + ' ' + text(frm::Messen, "txtToleranz");
         };

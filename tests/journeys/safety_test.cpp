@@ -6,38 +6,29 @@ namespace {
 
 using namespace support;
 
-class Shaft : public Measuring {
-  protected:
-    Shaft() {
-        views["motor"] = [] { // and what can be pressed
-            return QString("%1%2%3").arg(gMotorEin ? "on" : "off",
-                                         canPress(frm::Desktop, "pbMotein") ? " Motein" : "",
-                                         canPress(frm::Desktop, "pbMotaus") ? " Motaus" : "");
-        };
-    }
-};
+using Shaft = Measuring;
 
 JOURNEY_P(Shaft, IsStoppedByEveryOrderlyEnd) {
     co_await go(R"(
         select ; direction ; pbMotein ; pass 3000 ; stand fault silent on
         # The stop before the correction fails: nobody is told to uncouple.
-        ? notRunIn yes ; ? noController ; ? correctionAborted ; pbMessen ; @Desktop ; motor == on Motaus
+        ? notRunIn yes ; ? noController ; ? correctionAborted ; pbMessen ; @Desktop ; motor ~ ^on Motaus
         cannot pbMessen ; laInfo ~ neu wählen | choose)");
     // A start that fails, too, begins and ends nothing.
     expectKnown("noController");
     EXPECT_FALSE(fnc_BefehlSenden("E", gDrehrichtung, "60"));
     co_await go(R"(
-        motor == on Motaus
+        motor ~ ^on Motaus
         # The end says that the stop failed, and stays when told so.
         ? end yes ; ? noController ; ? motorOffAtEnd ; ? endAnyway no ; pbBeenden ; front == Desktop
-        motor == on Motaus ; stand fault none
+        motor ~ ^on Motaus ; stand fault none
         ? end yes ; pbBeenden ; front == ; wire ~ \*E-0000\+>>>$ ; shaft ~ ^set=0.00)");
 }
 
 JOURNEY(Shaft, IsStoppedBySignals) {
     co_await go(R"(
         measure ; step 1 60 ; stand fault silent on
-        ? noController ; ? motorOff ; ? noController ; ? emptyProtocol ; leave ; motor == on Motaus
+        ? noController ; ? motorOff ; ? noController ; ? emptyProtocol ; leave ; motor ~ ^on Motaus
         stand fault none ; terminated == now ; shaft ~ ^set=0.00)");
 }
 

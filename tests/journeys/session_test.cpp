@@ -83,7 +83,7 @@ JOURNEY_P(Measuring, ByHand) {
         pbMessen ; step 2 80 ; can pbPlus pbMinus pbFreieEing
         # A motor that cannot be stopped stays in reach.
         stand fault silent on ; ? noController ; pbAbbrechen ; @Desktop
-        can pbMotaus ; motor == on)");
+        motor ~ ^on Motaus)");
 }
 
 } // namespace

@@ -10,9 +10,6 @@ using namespace support;
 class Choosers : public Workplace {
   protected:
     Choosers() {
-        views["session"] = [] {
-            return QString("%1 %2 %3").arg(gKundenID).arg(gGerätID).arg(gRezeptID);
-        };
         views["found"] = [] { // what is listed, and what is shown of a customer
             QStringList shown;
             for (const char *field : {"lbName", "txtStraße", "txtPLZ", "txtOrt"})

@@ -8,14 +8,7 @@ namespace {
 
 using namespace support;
 
-class Editing : public Workplace {
-  protected:
-    Editing() {
-        views["session"] = [] {
-            return QString("%1 %2 %3").arg(gKundenID).arg(gGerätID).arg(gRezeptID);
-        };
-    }
-};
+using Editing = Workplace;
 
 JOURNEY_P(Editing, ACustomerIsEnteredAndChanged) {
     co_await logIn();

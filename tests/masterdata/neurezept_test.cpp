@@ -85,7 +85,7 @@ JOURNEY_P(NewRecipe, NameIsSavedFirst) {
 JOURNEY_P(NewRecipe, StepsAreStoredOneByOne) {
     co_await go(R"(
         login ; mnuRezepte ; @Rezepte ; new ; named
-        txtLeistung = 100 ; cmbPrArt = 1 ; look == 1 /100/L enter@cmbPrArt K [] ; cmbPrArt = x ; look == 1 /100/ enter@cmbPrArt K! []
+        txtLeistung = 100 ; cmbPrArt = 1 ; look == 1 /100/L enter@cmbPrArt K [] ; cmbPrArt = P | L ; look == 1 /100/ enter@cmbPrArt K! []
         txtDrehzahl = 60 ; cmbPrArt ^ ; key Down ; look == 1 60/100/L save@cmbPrArt SK [] ; cmbPrArt ! ; focus pbSave
         cmbPrArt = x ; look == 1 60/100/ save@cmbPrArt SK! []
         cmbPrArt = 2 ; look == 1 60/100/D save@pbSave SK []

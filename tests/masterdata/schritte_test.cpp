@@ -37,18 +37,7 @@ TEST_F(Steps, LimitsUnderBothNumberFormats) {
     }
 }
 
-TEST_F(Steps, TypesAndWhatIsMissing) {
-    const char *tables[] = {"Ll1 -> 1, Leistungsmessung | Dd2 -> 2, Drehzahlmessung | PS3 -> 0",
-                            "Pp1 -> 1, Power Measurement | Ss2 -> 2, Speed Measurement | LD3 -> 0"};
-    for (gSprache = 1; gSprache <= 2; ++gSprache) {
-        for (const Case &type : cases(tables[gSprache - 1])) {
-            for (const QChar key : type.in)
-                EXPECT_EQ(Prüfart::ausTaste(key).value_or(QString()), type.out_(1)) << type;
-            EXPECT_EQ(Prüfart::ausText(type.out_(1)), type.out_(0).toInt());
-            EXPECT_EQ(Prüfart::ausAnfang(type.out_(1)), type.out_(0).toInt());
-        }
-        EXPECT_FALSE(Prüfart::ausTaste(""));
-    }
+TEST_F(Steps, TellWhatIsMissing) {
     QStringList missing;
     for (int bits = 0; bits < 8; ++bits) {
         const Schritt step{1, bits & 1 ? "" : "60", bits & 2 ? "" : "50", bits & 4 ? 0 : 1};

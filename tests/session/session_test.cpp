@@ -26,12 +26,13 @@ TEST_F(Session, FailureBoxesShowAndKeepNumberAndText) {
     for (const std::int16_t sprache : std::initializer_list<std::int16_t>{1, 2, 0}) {
         gSprache = sprache;
         gFehlerNr = 0;
-        expectBox({"Fehler 3016 -  13 Typen unverträglich", "ERROR 3016 -  13 Type mismatch"},
-                  platform::Critical, {"!! Achtung Fehler !!", " !! Attention !!"});
+        boxes.expect(
+            inSprache({"Fehler 3016 -  13 Typen unverträglich", "ERROR 3016 -  13 Type mismatch"}),
+            inSprache({"!! Achtung Fehler !!", " !! Attention !!"}), platform::Critical);
         fehlerBox("3016 - ", fehler);
         EXPECT_EQ(QString::number(gFehlerNr) + gFehlerText, "13" + inSprache(fehler.text()));
     }
-    expectBox({"Fehler 7--5 x", "ERROR 7--5 y"}, platform::Critical, {"T", "U"});
+    boxes.expect("ERROR 7--5 y", "U", platform::Critical);
     fehlerBox({"Fehler 7-", "ERROR 7-"}, Fehler(-5, {"x", "y"}), {"T", "U"});
     fehlerMerken(fehler); // shows nothing
     EXPECT_EQ(gFehlerNr, 13);

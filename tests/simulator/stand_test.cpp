@@ -76,24 +76,6 @@ TEST(Stand, EchoAndItsFaults) {
     }
 }
 
-TEST(Stand, RequestsAndStreams) {
-    Bench bench;
-    bench.send("rN"); // the quick answer overtakes the slow one, which takes a second
-    EXPECT_EQ(bench.wait(990), "TN-1001");
-    EXPECT_EQ(bench.wait(20), "Ok1");
-    bench.send("p-*gw-+"); // arguments are no commands
-    EXPECT_EQ(bench.stand.offsetWritten(), 0x2D2A67 / 10.0);
-    EXPECT_EQ(bench.stand.factorWritten(), 0x2D2B / 10000.0);
-    EXPECT_FALSE(bench.stand.nextEvent());
-    bench.drive(10'000);
-    bench.send("6");
-    bench.stand.setFaults({.silent = true});
-    EXPECT_FALSE(bench.stand.nextEvent());
-    EXPECT_EQ(bench.wait(30'000), "");
-    bench.stand.setFaults({});
-    EXPECT_EQ(bench.wait(6050).size(), 9u) << "it went on underneath";
-}
-
 /// Whoever jumps from event to event must see the same as one who looks all the time, and must
 /// find bytes whenever one is announced.
 TEST(Stand, EventsTellExactlyWhenBytesArrive) {

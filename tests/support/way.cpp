@@ -185,6 +185,9 @@ Way::Way() {
             shown += text(frm::Desktop, box);
         return shown.join('|');
     };
+    views["session"] = [] {
+        return QString("%1 %2 %3").arg(gKundenID).arg(gGerätID).arg(gRezeptID);
+    };
     views["keyboard"] = [] { return frontScreen()->focusWidget()->objectName(); };
     views["selected"] = [] { // the row of the measured steps
         const auto *grid = control<QAbstractItemView>(frm::Messen, "DBGrid1");

@@ -28,10 +28,12 @@
 
 #include <map>
 
-#include "controls.h"
+#include "operate.h"
 #include "workshop.h"
 
 namespace support {
+
+using namespace operate;
 
 class Way : public Workshop {
   protected:

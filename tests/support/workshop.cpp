@@ -114,10 +114,6 @@ bool Workshop::english() {
     return gSprache == 2;
 }
 
-void Workshop::expectBox(const Text &text, int flags, const Text &title, int answer) {
-    boxes.expect(inSprache(text), inSprache(title), flags, answer);
-}
-
 namespace {
 
 /// The row of the key, its text filled with what stands in the brackets behind it.

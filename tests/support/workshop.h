@@ -42,7 +42,6 @@ class Workshop : public testing::Test {
     static void setLanguage(int language);
     static bool english();
     /// The box to the letter, in the language of the session.
-    void expectBox(const Text &text, int flags, const Text &title, int answer = platform::OK);
     /// The box by its key in boxtexts.h, "failure(1018)" where its text has a place for more.
     void expectKnown(const QString &key, int answer = platform::OK,
                      std::function<void()> meanwhile = {});
