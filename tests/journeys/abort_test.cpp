@@ -20,10 +20,8 @@ class Abort : public Measuring {
 JOURNEY_P(Abort, Login) {
     for (const char *way : {"pbCancel", "close"}) {
         start();
-        const QString road = QString("@Login ; ? login ; txtUserName ! ; front == Login ; %1 ; "
-                                     "pass 3000 ; front == ; wire ==")
-                                 .arg(way);
-        co_await go(road);
+        co_await go("@Login ; ? login ; txtUserName ! ; front == Login ; " + QString(way) +
+                    " ; pass 3000 ; front == ; wire ==");
         for (const frm name : {frm::Splash, frm::Login, frm::Desktop})
             EXPECT_FALSE(loaded(name));
     }

@@ -174,15 +174,4 @@ TEST_F(Schema, ReportsOutliveWhatTheyReferTo) {
     EXPECT_EQ(shown("ProtokollName FROM Bericht4"), "P");
 }
 
-TEST_F(Schema, DemoDataHangTogether) {
-    for (const Case &stray : cases(R"(
-            Protokoll JOIN Protokoll_temp USING (ProtokollID)
-            | (SELECT IdentNr FROM Ergometer GROUP BY IdentNr HAVING COUNT(*) > 1)
-            | Rezeptnamen WHERE ToleranzID NOT IN (SELECT ID FROM Toleranzen)
-            | Rezeptnamen WHERE RezeptID NOT IN (SELECT RezeptID FROM Rezepte)
-            | Messwerte WHERE ProtokollID NOT IN (SELECT ProtokollID FROM Protokoll)
-            | Messwerte_temp WHERE ProtokollID NOT IN (SELECT ProtokollID FROM Protokoll_temp))"))
-        EXPECT_EQ(grid("SELECT COUNT(*) FROM " + stray.in), "0") << stray;
-}
-
 } // namespace
