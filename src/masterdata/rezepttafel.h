@@ -4,6 +4,7 @@
 
 #include "controls/schrittgitter.h"
 #include "controls/suchmaske.h"
+#include "records/rezept.h"
 
 class QLabel;
 class QTableView;
@@ -15,6 +16,9 @@ class Rezepttafel : public Suchmaske {
         QListView *liste;
         QLabel *anzahl, *toleranz;
         QTableView *schritte;
+        std::vector<Schrittgitter::Spalte> spalten = Schrittgitter::ordentlich;
+        Rezepttabellen tabellen = ordentlicheRezepte;
+        platform::Text zähler = {"Rezeptanzahl: ", "Number Of Recipes: "};
     };
     /// Called once. The handlers as of sucheVerdrahten.
     void verdrahten(const Tafel &tafel, const Handler &geändert, const Handler &bestätigt);
