@@ -171,8 +171,7 @@ void frmNeuRezept::pbLoeschen_Click() {
         fnc_SchrittAnzeigen();
         return;
     }
-    ui.pbAddNew->setEnabled(true); // takes the keyboard before pbLoeschen loses it
-    ui.pbAddNew->setFocus();
+    ui.pbAddNew->setFocus(); // before pbLoeschen is disabled, or the keyboard goes elsewhere
     mStand = Stand::Nichts;
     mSpeicherbar = false;
     aktualisieren();
