@@ -65,9 +65,9 @@ void frmMessen::durchgang() try {
     }
     gMessenFreigabe = false;
     gefangen("3014 - ", datenstromBeenden)(); // what was asked for goes on
-    const bool nichtsLäuft = gMessStatus == Messstatus::Messen || gMessStatus == Messstatus::Ruhe;
-    if (!mAnsicht.bedient && nichtsLäuft &&
-        gDesktopAktiv) // nobody is there to go on with a shaft that turns
+    // Without a person nobody is there to go on with a shaft that turns.
+    const bool steht = gMessStatus == Messstatus::Messen || gMessStatus == Messstatus::Ruhe;
+    if (steht && !mAnsicht.bedient && gDesktopAktiv)
         gMessStatus = Messstatus::Verweigert;
     verteilen();
 } catch (const Fehler &fehler) {

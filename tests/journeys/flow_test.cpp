@@ -31,7 +31,7 @@ class Counting : public Measuring, protected Messablauf {
     Recordset messwerte() override { return protokollMesswerte(gProtokollID); }
     void vorSollwert(const Recordset &schritt) override {
         count = 0;
-        number = schritt["Anzahl"].whole();
+        number = schritt[columnOfCount].whole();
         log += schritt["Prüfschritt"].text() + ": ";
     }
     void nachRahmen(Messfenster &fenster) override {
@@ -58,7 +58,7 @@ class Counting : public Measuring, protected Messablauf {
     void abbruch() override { log += "stop "; }
     void beimVerlassen(Weggang) override { log += "left"; }
 
-    QString log;
+    QString log, columnOfCount = "Anzahl";
     int count = 0, number = 0, stopAt = 0;
 };
 
@@ -86,7 +86,9 @@ JOURNEY(Counting, AStopWins) {
 JOURNEY(Counting, IsNotLeftToItself) {
     co_await go(R"(
         select ; direction ; run ; until log ~ 1/2 ; ? lineLost ; ? refused ; ? noPort ; line out ; @Desktop
-        motor ~ ^on Motaus)");
+        motor ~ ^on Motaus ; line in)");
+    columnOfCount = "gone"; // nor when the flow fails
+    co_await go("? failed(3014, 3265) ; run ; @Desktop ; idle == yes");
 }
 
 } // namespace
