@@ -10,6 +10,7 @@
 #include <QString>
 
 #include "records/messwerte.h"
+#include "records/toleranz.h"
 
 /// Judges the power of the working standard against the set-point. Writes "0" to ist_n_ergom.
 /// Raises TypeMismatch for a text that is no number, InvalidUseOfNull for an uncertainty that is

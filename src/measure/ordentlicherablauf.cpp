@@ -54,10 +54,8 @@ Messansicht OrdentlicherAblauf::ansicht() {
 }
 
 Messkopf OrdentlicherAblauf::kopf() {
-    ToleranzZeile zeile;
-    toleranzLesen(gToleranzID, zeile);
-    mSpezifikation = zeile.spezifikation;
-    return {auswahl().rezept, zeile.bezeichnung};
+    mSpezifikation = spezifikationMitID(gToleranzID).value_or(Spezifikation{});
+    return {auswahl().rezept, mSpezifikation.bezeichnung};
 }
 
 bool OrdentlicherAblauf::speichern(SchrittTexte &schritt) {

@@ -51,18 +51,6 @@ Recordset protokollMesswerte(int protokollID) {
         {protokollID});
 }
 
-bool toleranzLesen(int toleranzID, ToleranzZeile &zeile) {
-    const Recordset row = gDatenbank.open(
-        "SELECT Bezeichnung, Prozent, Watt, GrenzAbw FROM Toleranzen WHERE Toleranzen.ID = ?",
-        {toleranzID});
-    if (row.empty())
-        return false;
-    zeile.bezeichnung = row[0].text();
-    zeile.spezifikation = {row[1].number(), row[2].number(),
-                           static_cast<std::int16_t>(Round(row[3].number()))};
-    return true;
-}
-
 Unsicherheiten unsicherheitLeistung() {
     return uncertaintyTable("MU_Leistung");
 }

@@ -10,13 +10,6 @@
 #include "session/pruefart.h"
 #include "store/recordset.h"
 
-/// The specification of the session.
-struct Spezifikation {
-    double prozent = 0;        ///< permissible deviation of power, % of the set-point
-    double watt = 0;           ///< permissible deviation of power at least, W
-    std::int16_t grenzAbw = 0; ///< permissible deviation of speed, 1/min
-};
-
 /// A row of the uncertainty tables: applies up to `grenze` (W or 1/min). What the table leaves open
 /// is nothing, not 0.
 struct Unsicherheit {
@@ -54,13 +47,6 @@ Recordset messSchritte(int rezeptID);
 
 /// The stored rows of a protocol: numbered steps in their order, then the free ones by time.
 Recordset protokollMesswerte(int protokollID);
-
-struct ToleranzZeile {
-    QString bezeichnung;
-    Spezifikation spezifikation; ///< GrenzAbw rounded to a whole number, halves to even
-};
-/// False, leaving `zeile` alone, when the specification is gone.
-bool toleranzLesen(int toleranzID, ToleranzZeile &zeile);
 
 Unsicherheiten unsicherheitLeistung();
 Unsicherheiten unsicherheitDrehzahl();

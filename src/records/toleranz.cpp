@@ -17,6 +17,10 @@ QString mitPunkt(QString text) {
     return text;
 }
 
+Recordset zeileMitID(Schlüssel id) {
+    return gDatenbank.open("SELECT * FROM Toleranzen WHERE ID = ?", {id});
+}
+
 } // namespace
 
 bool Toleranz::vollständig() const {
@@ -80,12 +84,21 @@ Recordset toleranzMitNamen(const QString &bezeichnung) {
 }
 
 std::optional<Toleranz> toleranzMitID(Schlüssel id) {
-    const Recordset row = gDatenbank.open("SELECT * FROM Toleranzen WHERE ID = ?", {id});
+    const Recordset row = zeileMitID(id);
     if (row.empty())
         return {};
     return Toleranz{row["Bezeichnung"].text(), zahlText(row["Prozent"]),
                     zahlText(row["Watt"]),     zahlText(row["GrenzAbw"]),
                     row["GKlasse"].text(),     row["Messverfahren"].text()};
+}
+
+std::optional<Spezifikation> spezifikationMitID(Schlüssel id) {
+    const Recordset row = zeileMitID(id);
+    if (row.empty())
+        return {};
+    return Spezifikation{row["Prozent"].number(), row["Watt"].number(),
+                         static_cast<std::int16_t>(Round(row["GrenzAbw"].number())),
+                         row["Bezeichnung"].text()};
 }
 
 bool bezeichnungVergeben(const QString &bezeichnung) {

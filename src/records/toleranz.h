@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 #include "platform/fehler.h"
@@ -19,6 +20,15 @@ struct Toleranz {
     QString messverfahren;
 
     bool vollständig() const;
+};
+
+/// What a measurement is judged by.
+struct Spezifikation {
+    double prozent = 0; ///< permissible deviation of power, % of the set-point
+    double watt = 0;    ///< permissible deviation of power at least, W
+    std::int16_t grenzAbw =
+        0; ///< permissible deviation of speed, 1/min; halves were rounded to even
+    QString bezeichnung = {};
 };
 
 // The classes that are offered. What is stored is the text, so a row keeps the language in which it
@@ -54,6 +64,7 @@ QStringList toleranznamen();
 Recordset toleranzMitNamen(const QString &bezeichnung);
 /// Nothing when there is no such row.
 std::optional<Toleranz> toleranzMitID(Schlüssel id);
+std::optional<Spezifikation> spezifikationMitID(Schlüssel id);
 /// Letters count without regard to case.
 bool bezeichnungVergeben(const QString &bezeichnung);
 /// Name of the first one with the same percentage and wattage; decimal comma or point.

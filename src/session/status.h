@@ -40,9 +40,13 @@ enum class Desktopfolge : std::int16_t {
 enum class Formstatus : std::int16_t {
     Keiner = 0,
     RichtungFehlt = 1,
+    Bereit = 2,
     Einlaufen = 3,
     Korrektur = 4,
     KorrekturFertig = 5,
     SchwereEingegeben = 6,
+    ErsteSeiteGemessen = 7,
+    ZweiteSeite = 8,
+    Gespeichert = 9,
     Abgebrochen = 10,
 };

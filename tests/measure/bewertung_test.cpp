@@ -180,12 +180,9 @@ TEST_F(Bewertung, UncertaintiesAndSpecificationsAreReadByPosition) {
     EXPECT_TRUE(unsicherheitDrehzahl().empty());
     change("INSERT INTO Toleranzen (ID, Bezeichnung, Prozent, Watt, GrenzAbw) "
            "VALUES (99, 'X', 2.5, 1.5, 3.5)");
-    ToleranzZeile zeile{"as before", {}};
-    EXPECT_FALSE(toleranzLesen(98, zeile));
-    EXPECT_EQ(zeile.bezeichnung, "as before");
-    ASSERT_TRUE(toleranzLesen(99, zeile));
-    const Spezifikation &is = zeile.spezifikation;
-    EXPECT_TRUE(is.prozent == 2.5 && is.watt == 1.5 && zeile.bezeichnung == "X");
+    EXPECT_FALSE(spezifikationMitID(98));
+    const Spezifikation is = *spezifikationMitID(99);
+    EXPECT_TRUE(is.prozent == 2.5 && is.watt == 1.5 && is.bezeichnung == "X");
     EXPECT_EQ(is.grenzAbw, 4) << "a whole limit of speed";
 }
 
