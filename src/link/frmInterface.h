@@ -18,5 +18,5 @@ class frmInterface : public Anschlussmaske {
     void pbSS2_Click();
 
     bool mGespeichert = false;
-    int mVorher = 1; ///< the port in force before the trial
+    int mVorher = 0; ///< the port in force before the trial
 };

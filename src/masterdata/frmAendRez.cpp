@@ -75,7 +75,8 @@ void frmÄndRez::felderVerdrahten() {
         mToleranzKürzel.vergessen(); // the key that led away
     });
     onLostFocus(ui.cmbToleranz, [this] { cmbToleranz_LostFocus(); });
-    enterChain({ui.cmbToleranz, ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.pbSpeichern});
+    enterChain({ui.cmbToleranz, ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.pbSpeichern},
+               Qt::TabFocusReason);
 
     mEditor.verbinden({ui.laPrSchritt, ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt, ui.DBGridRez},
                       [this] { mbGeändert = true; });

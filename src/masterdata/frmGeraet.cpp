@@ -70,6 +70,12 @@ void frmGerät::namenLesen(const QString &typ) {
     }
 }
 
+// The types stay as they are, also when the last unit of the one picked has gone meanwhile.
+void frmGerät::filterGewählt() {
+    namenLesen(ui.cmbTyp->currentText());
+    detailsZeigen();
+}
+
 void frmGerät::detailsZeigen() {
     zeigen({}); // nothing that could be changed or deleted when the reading fails
     const Recordset row = ident().isEmpty() ? einzigesGerät() : gerätMitIdent(gKundenID, ident());

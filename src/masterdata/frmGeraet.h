@@ -17,6 +17,7 @@ class frmGerät : public Listenmaske {
     void beschriften() override;
     QStringList filternamen() const override { return gerätetypen(gKundenID); }
     void namenLesen(const QString &typ) override;
+    void filterGewählt() override;
     void detailsZeigen() override;
     void zeigen(const Gerätedaten &gerät);
     void aktualisieren();

@@ -14,7 +14,7 @@ void frmNeuRezept::schritteVerdrahten() {
                       [this] { fnc_SpeichernFreigeben(); });
     onLostFocus(ui.txtDrehzahl, gefangen("1039 - ", [this] { mEditor.verlassen(ui.txtDrehzahl); }));
     onLostFocus(ui.txtLeistung, gefangen("1040 - ", [this] { mEditor.verlassen(ui.txtLeistung); }));
-    enterChain({ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt});
+    enterChain({ui.txtDrehzahl, ui.txtLeistung, ui.cmbPrArt}, Qt::TabFocusReason);
 
     onKey(ui.cmbPrArt, [this](QKeyEvent &key) { return mEditor.typ().taste(key); });
     on(ui.cmbPrArt->lineEdit(), &QLineEdit::textEdited, [this] { mEditor.typ().geändert(); });

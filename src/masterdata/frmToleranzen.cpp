@@ -54,7 +54,7 @@ void frmToleranzen::verdrahten() {
     on(ui.cmbBezTol, &QComboBox::activated, [this] { cmbBezTol_Click(); });
     const std::initializer_list<QWidget *> felder{ui.txtTolBez, ui.txtTolProz, ui.txtTolWatt,
                                                   ui.txtAbw,    ui.cmbGKlasse, ui.txtMessverfahren};
-    enterChain(felder);
+    enterChain(felder, Qt::TabFocusReason);
     for (QWidget *feld : felder)
         onGotFocus(feld, [this] { altWertMerken(); });
     onEnter(ui.txtMessverfahren, [this] {

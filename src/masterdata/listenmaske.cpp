@@ -18,7 +18,7 @@ void Listenmaske::verdrahten(const Aufbau &aufbau, const Handler &bestätigt) {
     sucheVerdrahten(aufbau.feld, aufbau.liste, gefangen(aufbau.text, getippt), bestätigt);
     on(aufbau.filter, &QComboBox::currentIndexChanged, gefangen(aufbau.auswahl, [this] {
            mSuche.leeren();
-           listenLesen();
+           filterGewählt();
        }));
     onEnter(this, bestätigt);
     onEscape([this] { unload(); });

@@ -37,6 +37,9 @@ class Listenmaske : public Suchmaske {
     virtual void namenLesen(const QString &filter) = 0; ///< into the list
     virtual void detailsZeigen() = 0;                   ///< of what the box names; notes gezeigt()
 
+    /// A person has picked another filter.
+    virtual void filterGewählt() { listenLesen(); }
+
     void listenLesen();
     /// The entry that hides nothing when there is no such one.
     void filterSetzen(const QString &name);

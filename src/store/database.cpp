@@ -152,6 +152,8 @@ bool fnc_DateiGeöffnet(const QString &path) {
         throw Fehler(fehlernummer::FileNotFound, {"Die Datei " + path + " wurde nicht gefunden.",
                                                   "The file " + path + " was not found."});
     }
+    if (const QFileInfo file(path); !file.isReadable() || !file.isWritable())
+        return true;
     return translated([&] {
         SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE);
         const int came = database.tryExec("BEGIN EXCLUSIVE; ROLLBACK");

@@ -226,9 +226,9 @@ void Screen::onEnter(QWidget *control, Handler handler) {
     filterOf(control).enter = std::move(handler);
 }
 
-void Screen::enterChain(std::initializer_list<QWidget *> fields) {
+void Screen::enterChain(std::initializer_list<QWidget *> fields, Qt::FocusReason reason) {
     for (const auto *field = fields.begin(); field + 1 < fields.end(); ++field)
-        onEnter(*field, [next = field[1]] { next->setFocus(Qt::TabFocusReason); });
+        onEnter(*field, [next = field[1], reason] { next->setFocus(reason); });
 }
 
 void Screen::onEscape(Handler handler) {

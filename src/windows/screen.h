@@ -69,8 +69,9 @@ class Screen : public QWidget {
     /// happens.
     void onClick(QAbstractButton *button, Handler handler);
     void onEnter(QWidget *control, Handler handler);
-    /// Enter in each but the last turns to the next.
-    void enterChain(std::initializer_list<QWidget *> fields);
+    /// Enter in each but the last turns to the next. With Qt::TabFocusReason its text is selected.
+    void enterChain(std::initializer_list<QWidget *> fields,
+                    Qt::FocusReason reason = Qt::OtherFocusReason);
     /// The Escape key, anywhere on the screen.
     void onEscape(Handler handler);
     void onGotFocus(QWidget *control, Handler handler);
