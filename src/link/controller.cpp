@@ -124,7 +124,7 @@ bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QStr
                      "Communication with the controller is not possible!"},
                     Critical, {"Fehlermeldung", "Error Message"});
         }
-        motorfenster().setMoteinEnabled(!gMotorEin);
+        hauptfenster().setMoteinEnabled(!gMotorEin);
         return false;
     }
     const bool stop = frame.mid(2) == standstillDigits;

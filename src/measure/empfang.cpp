@@ -12,6 +12,7 @@ namespace {
 
 constexpr int watchdogMilliseconds = 18'000;
 constexpr int transmissionMilliseconds = 120;
+constexpr int silentMilliseconds = 60'000; // from rest to the first six turns, and to spare
 
 /// A watchdog tells, it does not end the reception: the next data arm it again.
 void warn(Timer &timer, const Text &text) {
@@ -49,18 +50,22 @@ void SechsRundenEmpfang::stop() {
 }
 
 void SechsRundenEmpfang::fnc_SechsRundenEmpfang(const Zeigen &zeigen,
-                                                const std::function<bool()> &abgelöst) try {
+                                                const std::function<bool()> &abgelöst,
+                                                bool allein) try {
     Timer1_6R.setEnabled(false);
     Timer2_6R.setInterval(transmissionMilliseconds);
     Timer2_6R.setEnabled(false);
     Timer1_6R.setInterval(watchdogMilliseconds);
     MSComm1.discardInput();
+    Timer silence(silentMilliseconds);
+    silence.onTick = [] { gStopMessung = true; };
+    silence.setEnabled(allein);
     SechsRundenDecoder decoder;
     using Ereignis = SechsRundenDecoder::Ereignis;
     stromLesen(
-        [&abgelöst] {
+        [&] {
             return gDesktopAktiv && gMessStatus == Messstatus::Messen && !gTimeoutTimer1 &&
-                   !abgelöst();
+                   !(allein && gStopMessung) && !abgelöst();
         },
         [&](std::uint8_t byte) {
             const Ereignis was = decoder.feed(byte);
@@ -69,7 +74,11 @@ void SechsRundenEmpfang::fnc_SechsRundenEmpfang(const Zeigen &zeigen,
             if (was != Ereignis::Sync && was != Ereignis::Nichts)
                 zeigen(was, decoder.value());
         },
-        [this] { Timer1_6R.setEnabled(true); });
+        [&] {
+            Timer1_6R.setEnabled(true);
+            silence.setEnabled(false);
+            silence.setEnabled(allein);
+        });
     if (gTimeoutTimer1 && !abgelöst()) {
         gTimeoutTimer1 = false;
         Timer2_6R.setEnabled(false);

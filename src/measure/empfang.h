@@ -17,13 +17,16 @@ class SechsRundenEmpfang {
     using Zeigen = std::function<void(SechsRundenDecoder::Ereignis, double wert)>;
     /// Hands on each value: speed in 1/min, torque in N m, and power in W, which completes a frame.
     /// Returns when gMessStatus is above 0, gTimeoutTimer1 is set, the desktop is gone, or a newer
-    /// pass wants the line (`abgelöst`): then without touching anything. Pumps events, so buttons
-    /// act meanwhile. Shows its failures in a box.
-    void fnc_SechsRundenEmpfang(const Zeigen &zeigen, const std::function<bool()> &abgelöst);
+    /// pass wants the line (`abgelöst`): then without touching anything. Where nobody watches
+    /// (`allein`), a line that is silent for 18 s ends it, too. Pumps events, so buttons act
+    /// meanwhile. Shows its failures in a box.
+    void fnc_SechsRundenEmpfang(const Zeigen &zeigen, const std::function<bool()> &abgelöst,
+                                bool allein = false);
 
   private:
     void stop();
 
-    Timer Timer1_6R; ///< armed by data, disarmed by a complete frame
+    Timer
+        Timer1_6R; ///< armed by data, or at once where nobody watches; a complete frame disarms it
     Timer Timer2_6R; ///< for the length of one transmission; armed by nobody so far
 };

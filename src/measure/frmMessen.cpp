@@ -115,9 +115,8 @@ void frmMessen::ansichtZeigen() {
 
 void frmMessen::ersteAktivierung() {
     ui.laDrehR->setText(motorfenster().drehrichtung());
-    const Messkopf kopf = messablauf().kopf();
-    ui.laRezName->setText(kopf.rezept);
-    ui.txtToleranz->setText(kopf.spezifikation);
+    ui.laRezName->setText(mAnsicht.rezept);
+    ui.txtToleranz->setText(messablauf().spezifikation());
     dataRezept = messablauf().schritte();
     if (mAnsicht.bedient) {
         form(frm::ProtokollNr).showModal();
@@ -199,8 +198,9 @@ bool frmMessen::schrittAbschließen() {
     fnc_MesswertSpeichern();
     if (gMessStatus != Messstatus::Speichern)
         return true;
-    // A row that could not be written leaves the measurement running and the step current.
-    gMessStatus = Messstatus::Messen;
+    // A row that could not be written leaves the measurement running and the step current; where
+    // nobody could press again, it ends.
+    gMessStatus = mAnsicht.bedient ? Messstatus::Messen : Messstatus::Verweigert;
     return false;
 }
 
@@ -228,7 +228,6 @@ void frmMessen::fnc_MesswertSpeichern() try {
         messablauf().rezeptEnde();
         return;
     }
-    gStopMessung = false;
     gMessStatus = Messstatus::Messen;
     if (mRezeptEnde)
         return; // the stream of the same set-point goes on

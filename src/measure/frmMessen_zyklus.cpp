@@ -31,6 +31,7 @@ void frmMessen::fnc_Messzyklus() {
 }
 
 void frmMessen::durchgang() try {
+    gStopMessung = false;
     // Set-points that are still being typed are nothing to measure.
     const bool offen = freieEingabe() && mEingabe.offen();
     if (gMessStatus == Messstatus::Messen && !offen) {
@@ -58,7 +59,7 @@ void frmMessen::durchgang() try {
             if (mWerte == Werte::Angefragte) // nothing was changed meanwhile
                 mWerte = Werte::Eigene;
             mEmpfang.fnc_SechsRundenEmpfang([this](auto was, double wert) { zeige(was, wert); },
-                                            [this] { return abgelöst(); });
+                                            [this] { return abgelöst(); }, !mAnsicht.bedient);
         }
         if (abgelöst())
             return;

@@ -88,7 +88,7 @@ void frmStatMessen::Form_Unload() {
         gMessStatus = Messstatus::Messen;
     }
     if (gMessStatus == Messstatus::Verweigert)
-        motorfenster().setMessenEnabled(false);
+        messenSperren();
     if (gFormStatus == Formstatus::Korrektur)
         gFormStatus = Formstatus::Abgebrochen; // left without pbWeiter, it does not begin anew
 }

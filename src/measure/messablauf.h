@@ -20,13 +20,8 @@ struct Messansicht {
     /// saving by button. Otherwise these are not to be seen, and the first step begins by itself.
     bool bedient = true;
     QString titel;                               ///< caption; empty keeps that of the screen
+    QString rezept;                              ///< name
     std::vector<RecordsetModel::Spalte> spalten; ///< of the grid of stored rows
-};
-
-/// What stands above the steps.
-struct Messkopf {
-    QString rezept;
-    QString spezifikation;
 };
 
 /// The way back: what a flow may do with the screen.
@@ -40,8 +35,9 @@ class Messfenster {
     /// How far the step is, "2/3".
     virtual void zeigeFortschritt(const QString &stand) = 0;
     /// Judges and stores the step shown and goes on to the next one. Shows its failures in a box.
-    /// False when the step stays the current one and its measurement goes on: a failure, or at
-    /// once when something else has been asked for meanwhile, above all the end.
+    /// False when the step stays the current one: a failure, or at once when something else has
+    /// been asked for meanwhile, above all the end. After a failure its measurement goes on under
+    /// a person; without one the screen is left.
     virtual bool schrittAbschließen() = 0;
 };
 
@@ -53,8 +49,8 @@ class Messablauf {
     virtual ~Messablauf() = default;
     /// The screen is loaded: a session begins, nothing is left of the one before.
     virtual Messansicht ansicht() = 0;
-    /// The first activation.
-    virtual Messkopf kopf() = 0;
+    /// The first activation: reads what is judged by and answers its name.
+    virtual QString spezifikation() = 0;
     /// The steps: Prüfschritt, Drehzahl, Leistung, Prüfart, and what the flow needs besides.
     virtual Recordset schritte() = 0;
     /// The rows that the protocol has stored, in the order of the grid; with Prüfschritt.

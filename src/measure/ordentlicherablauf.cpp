@@ -16,7 +16,7 @@ namespace {
 class OrdentlicherAblauf final : public Messablauf {
   public:
     Messansicht ansicht() override;
-    Messkopf kopf() override;
+    QString spezifikation() override;
     Recordset schritte() override { return messSchritte(gRezeptID); }
     Recordset messwerte() override { return protokollMesswerte(gProtokollID); }
     void vorSollwert(const Recordset &) override {}
@@ -42,6 +42,7 @@ Messansicht OrdentlicherAblauf::ansicht() {
     };
     return {true,
             {},
+            auswahl().rezept,
             {{"Prüfschritt", kopf("Prüfschritt", "Test step"), mitte},
              {"Soll_n", kopf("Soll n\n1/min", "Setpoint n\nrpm"), rechts},
              {"Soll_P", kopf("Soll P\nW", "Setpoint P\nW"), rechts},
@@ -53,9 +54,9 @@ Messansicht OrdentlicherAblauf::ansicht() {
              {"MU_mit", kopf("mit Berück. MU", "with\nregard to MU"), mitte}}};
 }
 
-Messkopf OrdentlicherAblauf::kopf() {
+QString OrdentlicherAblauf::spezifikation() {
     mSpezifikation = spezifikationMitID(gToleranzID).value_or(Spezifikation{});
-    return {auswahl().rezept, mSpezifikation.bezeichnung};
+    return mSpezifikation.bezeichnung;
 }
 
 bool OrdentlicherAblauf::speichern(SchrittTexte &schritt) {

@@ -39,3 +39,8 @@ void einlaufZeigen(const QString &rest) {
     for (Motorfenster *fenster : entered)
         fenster->showEinlauf(rest);
 }
+
+void messenSperren() {
+    for (Motorfenster *fenster : entered)
+        fenster->setMessenEnabled(false);
+}

@@ -38,5 +38,6 @@ void enterMotorfenster(Motorfenster &fenster);
 void leaveMotorfenster(Motorfenster &fenster);
 
 // On all of them
+void messenSperren();
 void drehrichtungZeigen(const QString &wort);
 void einlaufZeigen(const QString &rest);

@@ -22,8 +22,8 @@ class Counting : public Measuring, protected Messablauf {
     }
     ~Counting() override { setMessablauf(nullptr); }
 
-    Messansicht ansicht() override { return {false, "Alone", {{"Prüfschritt", "Step"}}}; }
-    Messkopf kopf() override { return {"Own", "Class"}; }
+    Messansicht ansicht() override { return {false, "Alone", "Own", {{"Prüfschritt", "Step"}}}; }
+    QString spezifikation() override { return "Class"; }
     Recordset schritte() override {
         return gDatenbank.open("SELECT *, 2 AS Anzahl FROM Rezepte WHERE RezeptID = 60 "
                                "AND Prüfschritt < '2' ORDER BY Prüfschritt");
@@ -87,6 +87,9 @@ JOURNEY(Counting, IsNotLeftToItself) {
     co_await go(R"(
         select ; direction ; run ; until log ~ 1/2 ; ? lineLost ; ? refused ; ? noPort ; line out ; @Desktop
         motor ~ ^on Motaus ; line in)");
+    co_await go(R"(
+        pbMotaus ; log ~ . ; run ; until log ~ 1/2 ; pass 1500 ; stand fault silent on
+        ? refused ; ? noController ; pass 90000 ; @Desktop ; motor ~ ^on Motaus ; stand fault none ; pbMotaus)");
     columnOfCount = "gone"; // nor when the flow fails
     co_await go("? failed(3014, 3265) ; run ; @Desktop ; idle == yes");
 }
