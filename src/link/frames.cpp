@@ -60,7 +60,6 @@ bool FrequenzDecoder::feed(std::uint8_t byte) {
     case 1:
         mState = byte == 0xFB ? 2 : 0;
         mStep = 0;
-        mValue = 0;
         return false;
     default:
         break;

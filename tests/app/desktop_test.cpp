@@ -20,7 +20,7 @@ JOURNEY_ROWS(Desktop, BeginsWithWhatNeedsNoSelection, "0 hidden", "-1 shown") {
     co_await logIn();
     co_await go(givenRow.section(' ', 1) + R"( pbReset pbEndprüf
         cannot pbMotein pbMotaus pbGerät pbBlutdruck pbSecControl pbMessen mnuGerät mnuStartMessen
-        can pbKunde pbRezept pbDrehR pbBeenden mnuKunden mnuRezept mnuSSParameter mnuEinlaufen mnuBeenden
+        txtKalDat ~ ^\d\d[.]\d\d[.]20 ; can pbKunde pbRezept pbDrehR pbBeenden mnuKunden mnuRezept mnuSSParameter mnuEinlaufen mnuBeenden
         ? end yes ; pbBeenden)");
 }
 

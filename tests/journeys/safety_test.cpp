@@ -71,7 +71,7 @@ JOURNEY(Belonging, KeysInFreeInputChangeTheBoxAlone) {
         txtSoll_n = 130 ; txtSoll_n + + ; ? freeSpeedRange ; txtSoll_n !
         laKorrF == 1,0000 ; txtSoll_n == ; txtSoll_n + - ; ? freeSpeedRange ; txtSoll_n !
         # The button follows the three fields, both ways.
-        txtSoll_n = 70 ; txtSoll_n ! ; txtSoll_P = 200 ; txtSoll_P ! ; cmbMessArt = 1 ; waits pbAusführen
+        txtSoll_n = 70 ; txtSoll_n ! ; txtSoll_P = 200 ; txtSoll_P ! ; cmbMessArt > 2 ; shown txtIST_n_ergom ; cmbMessArt > 1 ; hidden txtIST_n_ergom ; waits pbAusführen
         txtSoll_n = ; cannot pbAusführen ; txtSoll_n = 70 ; txtSoll_n ! ; waits pbAusführen
         txtSoll_P = ; cannot pbAusführen ; txtSoll_P = 200 ; txtSoll_P ! ; waits pbAusführen
         txtSoll_P = 0.700 ; ? freePowerNumber ; txtSoll_P !    # not 700 here and 0.7 there

@@ -266,6 +266,10 @@ void Way::act(const QString &step) {
         const int answer = answers.value(come.captured(3), platform::OK);
         come.captured(1) == "?" ? expectKnown(come.captured(2), answer)
                                 : allowKnown(come.captured(2), answer);
+    } else if (verb == "after") {
+        clock.after(operation.toDouble(), [this, value] { act(value); });
+    } else if (questions.contains(verb) || step.contains(compares)) {
+        EXPECT_TRUE(holds(step)) << step << "\nseen: " << mSeen;
     } else if (verb == "key") {
         for (int i = 0; i < std::max(1, value.toInt()); ++i)
             pressKey(operation);
@@ -286,10 +290,6 @@ void Way::act(const QString &step) {
     } else if (verb == "line") {
         line.occupy(rest == "taken");
         rest == "out" ? line.unplug() : line.plug();
-    } else if (verb == "after") {
-        clock.after(operation.toDouble(), [this, value] { act(value); });
-    } else if (questions.contains(verb) || step.contains(compares)) {
-        EXPECT_TRUE(holds(step)) << step << "\nseen: " << mSeen;
     } else if (operation == "=" || operation == ":=" || operation == "+") {
         typeInto(verb, spoken(value), operation);
     } else if (operation == ">") {
