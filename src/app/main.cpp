@@ -10,7 +10,10 @@ int main(int argc, char *argv[]) {
     QApplication::setQuitOnLastWindowClosed(false);
     if (!platform::onEnding(beendenOhneFrage)) // which stops the motor
         return 1;
-    QTimer::singleShot(0, programmStarten); // boxes of the start can be ended from outside, too
+    QTimer start; // within the loop: boxes of the start can be ended from outside, too
+    start.setSingleShot(true);
+    QObject::connect(&start, &QTimer::timeout, programmStarten);
+    start.start(0);
     const int result = QApplication::exec();
     programmAufräumen();
     return result;

@@ -135,9 +135,9 @@ bool frmÄndRez::kopieAbschließen(bool übernehmen) {
     übernehmen = übernehmen || mKopie.einzige();
     try {
         if (übernehmen)
-            mKopie.übernehmen(gRezeptID);
+            mKopie.fnc_ÄnderungenÜbernehmen(gRezeptID);
         else
-            mKopie.verwerfen();
+            mKopie.fnc_ÄnderungenVerwerfen();
         return true;
     } catch (const Fehler &fehler) {
         fehlerBox(übernehmen ? "1123 - " : "1124 - ", fehler);
@@ -199,13 +199,13 @@ void frmÄndRez::cmbPrArt_LostFocus() {
 }
 
 void frmÄndRez::pbSpeichern_Click() {
-    if (!mEditor.schrittPrüfen())
+    if (!mEditor.fnc_SchrittPrüfen())
         return;
     const std::optional<bool> stored = mEditor.vorhanden();
     if (!stored)
         return;
     if (*stored)
-        mEditor.ändern();
+        mEditor.fnc_SchrittÄndern();
     else if (!mEditor.anlegen())
         return;
     mOhneSchritt = mNeuerSchritt = false;

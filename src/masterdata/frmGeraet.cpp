@@ -119,7 +119,7 @@ QString frmGerät::ident() const {
 Recordset frmGerät::gewähltesGerät() {
     const QString typ = ui.cmbTyp->currentText();
     if (!ident().isEmpty()) {
-        const Recordset row = gerätMitIdent(gKundenID, ident());
+        Recordset row = gerätMitIdent(gKundenID, ident());
         if (row.empty()) {
             meldung({"Kunde besitzt kein Gerät mit dieser ID-Nummer!",
                      "The customer does not have a unit with this ID number!"},
@@ -133,7 +133,7 @@ Recordset frmGerät::gewähltesGerät() {
         erstWählen();
         return {};
     }
-    const Recordset rows = geräteVomTyp(gKundenID, typ);
+    Recordset rows = geräteVomTyp(gKundenID, typ);
     if (rows.count() > 1) {
         meldung({"Es gibt mehrere Geräte diesen Typs!\r"
                  "Wählen sie zur genauen Bestimmung eine ID-Nummer aus!",

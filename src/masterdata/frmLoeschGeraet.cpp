@@ -34,7 +34,7 @@ void frmLöschGerät::beschriften() {
 
 platform::Text frmLöschGerät::frage(Schlüssel gerätID) {
     const Gerätedaten &unit = loaded<frmGerät>()->gerät();
-    const platform::Text text = gerätefrage(protokolleZählen(Löschziel::Gerät, gerätID), unit.typ);
+    platform::Text text = gerätefrage(protokolleZählen(Löschziel::Gerät, gerätID), unit.typ);
     ui.laIdent->setText(umbrechbar(unit.identNr));
     return text;
 }

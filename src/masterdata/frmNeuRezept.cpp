@@ -158,14 +158,14 @@ void frmNeuRezept::pbok_Click() {
 bool frmNeuRezept::verlassen() try {
     if (!ui.txtRezName->isHidden()) // no name saved
         return true;
-    const bool input = !mEditor.leer();
+    const bool input = !mEditor.fnc_EingabeLeer();
     if ((mEditor.gitter().leer() && !input) || fnc_FrageVerwerfen()) {
         rezeptLöschen(gRezeptID);
         return true;
     }
     if (!input)
         return true;
-    if (!mEditor.schrittPrüfen() || !mEditor.anlegen())
+    if (!mEditor.fnc_SchrittPrüfen() || !mEditor.anlegen())
         return false;
     gRezeptWahl = ui.txtRezName->text();
     fnc_RezeptlisteAktualisieren();

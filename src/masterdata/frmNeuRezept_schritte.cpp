@@ -118,10 +118,10 @@ void frmNeuRezept::fnc_SpeichernFreigeben() {
 }
 
 void frmNeuRezept::pbSave_Click() {
-    if (!mEditor.schrittPrüfen())
+    if (!mEditor.fnc_SchrittPrüfen())
         return;
     const std::optional<bool> there = mEditor.vorhanden();
-    if (!there || !(*there ? mEditor.ändern() : mEditor.anlegen()))
+    if (!there || !(*there ? mEditor.fnc_SchrittÄndern() : mEditor.anlegen()))
         return;
     if (!*there)
         fnc_NeuerSchritt();

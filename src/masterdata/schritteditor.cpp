@@ -80,7 +80,7 @@ Schritt Schritteditor::schritt() const {
     return step;
 }
 
-bool Schritteditor::leer() const {
+bool Schritteditor::fnc_EingabeLeer() const {
     return mFelder.drehzahl->text().isEmpty() && mFelder.leistung->text().isEmpty() &&
            (!mFelder.prüfart || mFelder.prüfart->currentText().isEmpty()) &&
            std::ranges::all_of(mFelder.weitere,
@@ -163,11 +163,11 @@ bool Schritteditor::wertAnnehmen(const Wertfeld &wert) {
     return false;
 }
 
-bool Schritteditor::schrittPrüfen() try {
+bool Schritteditor::fnc_SchrittPrüfen() try {
     const Fehlendes missing = fehlendeAngaben(
         mArt.angaben(schritt(), mFelder.prüfart ? mFelder.prüfart->currentText() : QString()));
     if (!missing.erste)
-        return drehmomentPrüfen();
+        return fnc_DrehmomentPrüfen();
     Text text = mArt.unvollständig;
     text.german.replace("%1", missing.text.german);
     text.english.replace("%1", missing.text.english);
@@ -178,7 +178,7 @@ bool Schritteditor::schrittPrüfen() try {
     return false;
 }
 
-bool Schritteditor::drehmomentPrüfen() const try {
+bool Schritteditor::fnc_DrehmomentPrüfen() const try {
     const Schritt step = schritt();
     if (drehmomentZulässig(step.drehzahl, step.leistung, mArt.grenzen))
         return true;
@@ -204,7 +204,7 @@ bool Schritteditor::anlegen() const {
     return gelungen(mArt.kennung.anlegen, [&] { mArt.schritte.anlegen(mArt.rezeptID, schritt()); });
 }
 
-bool Schritteditor::ändern() const {
+bool Schritteditor::fnc_SchrittÄndern() const {
     return gelungen(mArt.kennung.ändern, [&] { mArt.schritte.ändern(mArt.rezeptID, schritt()); });
 }
 

@@ -61,7 +61,7 @@ class Schritteditor {
     void nummerZeigen(int nummer);
     Schritt schritt() const;
     /// Whether no field but the number holds text.
-    bool leer() const;
+    bool fnc_EingabeLeer() const;
     void leeren();
     /// The step of the current row into the fields. False, and nothing done, without rows.
     bool zeigen();
@@ -77,10 +77,10 @@ class Schritteditor {
     void einmalUngeprüft() { mUngeprüft = true; }
 
     // The step at hand and the table. False, or nothing, after a box that told why.
-    bool schrittPrüfen(); ///< complete, and its torque permissible
+    bool fnc_SchrittPrüfen(); ///< complete, and its torque permissible
     std::optional<bool> vorhanden() const;
     bool anlegen() const;
-    bool ändern() const;
+    bool fnc_SchrittÄndern() const;
 
     // These raise what fails.
     int größteNummer() const; ///< 0 without steps
@@ -105,7 +105,7 @@ class Schritteditor {
     };
     void füllen(const Schritt &schritt);
     bool wertAnnehmen(const Wertfeld &wert);
-    bool drehmomentPrüfen() const;
+    bool fnc_DrehmomentPrüfen() const;
     Recordset liste() const;
 
     const Rezeptart &mArt;

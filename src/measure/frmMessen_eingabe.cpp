@@ -13,7 +13,7 @@ using namespace platform;
 void frmMessen::eingabenVerdrahten() {
     onClick(ui.pbAusführen, [this] { pbAusführen_Click(); });
     onClick(ui.pbÜbernehmen, [this] {
-        if (!mEingabe.drehmomentZulässig())
+        if (!mEingabe.fnc_DrehmomentPrüfen())
             return;
         korrekturErledigt();
         neuMessen();
@@ -106,7 +106,7 @@ void frmMessen::werteVerwerfen() {
 }
 
 void frmMessen::pbAusführen_Click() {
-    if (!mEingabe.drehmomentZulässig())
+    if (!mEingabe.fnc_DrehmomentPrüfen())
         return;
     ergometerFeldZeigen(!mEingabe.istLeistung());
     if (mEingabe.istDrehzahl())

@@ -58,7 +58,7 @@ double Sollwerteingabe::leistung() const {
     return ValBeider(ui.txtSoll_P->text());
 }
 
-bool Sollwerteingabe::drehmomentZulässig() const {
+bool Sollwerteingabe::fnc_DrehmomentPrüfen() const {
     if (drehmoment(drehzahl(), leistung()) <= grenzDrehmoment)
         return true;
     meldung({"Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!",

@@ -27,7 +27,7 @@ class Sollwerteingabe {
     double leistung() const; ///< W, likewise
 
     /// Tells in a box when the torque is too great, and turns to the speed.
-    bool drehmomentZulässig() const;
+    bool fnc_DrehmomentPrüfen() const;
     /// Keeps what stands in one of the two boxes that was turned to ...
     void merken(const QLineEdit *box) { alt(box) = box->text(); }
     /// ... and puts it back, with a box, when the one is left with what is no set-point.
@@ -43,11 +43,11 @@ class Sollwerteingabe {
     bool artTaste(const QKeyEvent &taste);
 
   private:
-    QString &alt(const QLineEdit *box) { return box == ui.txtSoll_n ? mAlt_n : mAlt_P; }
+    QString &alt(const QLineEdit *box) { return box == ui.txtSoll_n ? mAltSoll_n : mAltSoll_P; }
     void artZeigen(int prüfart, const QString &wort);
 
     const Ui::frmMessen &ui;
-    QString mAlt_n;
-    QString mAlt_P;
+    QString mAltSoll_n;
+    QString mAltSoll_P;
     int mPrüfart = Prüfart::Keine;
 };

@@ -35,8 +35,8 @@ frmProtokollNr::frmProtokollNr()
     for (QRadioButton *wahl : {ui.obNeu, ui.obVorhanden, ui.obLetztes})
         onEnter(wahl, [wahl] { wahl->click(); });
     onEnter(ui.txtNeu, [this] { ui.pbok->setFocus(); });
-    on(ui.cmbVorhanden, &QComboBox::activated, [this] { mWahl.eintragGewählt(); });
-    on(ui.cmbVorhanden, &QComboBox::editTextChanged, [this] { mWahl.eintragGeändert(); });
+    on(ui.cmbVorhanden, &QComboBox::activated, [this] { mWahl.cmbVorhanden_Click(); });
+    on(ui.cmbVorhanden, &QComboBox::editTextChanged, [this] { mWahl.cmbVorhanden_Change(); });
     onEnter(ui.cmbVorhanden, [this] { cmbVorhanden_KeyPress(); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { abschließen(abgebrochen); });

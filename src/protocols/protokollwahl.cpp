@@ -54,12 +54,12 @@ void Protokollwahl::vorhandenGewählt() {
     mFelder.ok->setEnabled(!mFelder.liste->currentText().isEmpty());
 }
 
-void Protokollwahl::eintragGewählt() {
+void Protokollwahl::cmbVorhanden_Click() {
     gProtokollWahl = protokollNrAus(mFelder.liste->currentText());
     mFelder.ok->setEnabled(true);
 }
 
-void Protokollwahl::eintragGeändert() {
+void Protokollwahl::cmbVorhanden_Change() {
     gProtokollWahl = protokollNrAus(mFelder.liste->currentText());
     if (mFelder.vorhanden->isChecked() && mFelder.liste->currentText().isEmpty())
         mFelder.ok->setEnabled(false);

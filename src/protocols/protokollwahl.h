@@ -36,8 +36,8 @@ class Protokollwahl {
     void vorhandenGewählt();
 
     // Events of the list's box
-    void eintragGewählt();
-    void eintragGeändert();
+    void cmbVorhanden_Click();
+    void cmbVorhanden_Change();
     /// Enter: completes the entry and goes on to the button, or says that there is none.
     void nachschlagen();
 

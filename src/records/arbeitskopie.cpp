@@ -9,14 +9,14 @@ void Arbeitskopie::füllen(Schlüssel rezeptID) const {
                        {rezeptID});
 }
 
-void Arbeitskopie::übernehmen(Schlüssel rezeptID) {
+void Arbeitskopie::fnc_ÄnderungenÜbernehmen(Schlüssel rezeptID) {
     gDatenbank.execute(QString("DELETE FROM %1 WHERE RezeptID = ?").arg(mTabelle), {rezeptID});
     mEinzige = true;
     gDatenbank.execute(QString("INSERT INTO %1 SELECT * FROM ÄndRez_temp").arg(mTabelle));
     mEinzige = false;
-    verwerfen();
+    fnc_ÄnderungenVerwerfen();
 }
 
-void Arbeitskopie::verwerfen() const {
+void Arbeitskopie::fnc_ÄnderungenVerwerfen() const {
     gDatenbank.execute("DELETE FROM ÄndRez_temp");
 }

@@ -14,8 +14,8 @@ class Arbeitskopie {
     void füllen(Schlüssel rezeptID) const;
     /// Puts all rows of the copy in the place of the recipe's steps and empties it. When it fails
     /// half-way the copy is the only one, and nothing but a second try brings the steps back.
-    void übernehmen(Schlüssel rezeptID);
-    void verwerfen() const;
+    void fnc_ÄnderungenÜbernehmen(Schlüssel rezeptID);
+    void fnc_ÄnderungenVerwerfen() const;
     /// The stored steps are gone and not replaced yet.
     bool einzige() const { return mEinzige; }
 
