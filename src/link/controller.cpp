@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "link/motorbedienung.h"
+#include "link/welle.h"
 #include "platform/fehler.h"
 #include "platform/runtime.h"
 #include "session/motorfenster.h"

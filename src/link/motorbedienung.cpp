@@ -11,26 +11,6 @@
 
 using namespace platform;
 
-namespace {
-
-void setzen(bool dreht) {
-    if (gMotorEin == dreht)
-        return;
-    gMotorEin = dreht;
-    motorfenster().setMoteinEnabled(!dreht);
-    motorfenster().setMotausEnabled(dreht);
-}
-
-} // namespace
-
-void welleLäuftAn() {
-    setzen(true);
-}
-
-void welleSteht() {
-    setzen(false);
-}
-
 bool Motorbedienung::ein() {
     einlaufzeitSetzen();
     mFenster.setMoteinEnabled(false);

@@ -1,17 +1,8 @@
 // The motor of the stand, as the buttons of a window run it.
-//
-// Whether the shaft may be turning is said in one place, and gMotorEin holds it: true from the
-// moment the confirmation of a speed above 0 begins to go out, false only when that of a stop has
-// gone out. A command that the controller did not take changes nothing of it.
 #pragma once
 
 #include "platform/text.h"
 #include "session/motorfenster.h"
-
-/// The confirmation of a speed above 0 is about to go out.
-void welleLäuftAn();
-/// The confirmation of a stop has gone out.
-void welleSteht();
 
 /// What a window says when the controller did not take its command.
 struct Motortexte {

@@ -1,0 +1,24 @@
+#include "link/welle.h"
+
+#include "session/motorfenster.h"
+#include "session/session.h"
+
+namespace {
+
+void setzen(bool dreht) {
+    if (gMotorEin == dreht)
+        return;
+    gMotorEin = dreht;
+    motorfenster().setMoteinEnabled(!dreht);
+    motorfenster().setMotausEnabled(dreht);
+}
+
+} // namespace
+
+void welleLäuftAn() {
+    setzen(true);
+}
+
+void welleSteht() {
+    setzen(false);
+}
