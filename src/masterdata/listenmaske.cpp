@@ -52,7 +52,7 @@ void Listenmaske::listenLesen() {
     detailsZeigen();
 }
 
-void Listenmaske::filterSetzen(const QString &name) {
+void Listenmaske::filterSetzen(const QString &name) const {
     const QSignalBlocker quiet(mAufbau.filter);
     mAufbau.filter->setCurrentIndex(std::max(mAufbau.filter->findText(name), 0));
 }
@@ -95,7 +95,7 @@ void Listenmaske::mitGezeigtem(frm maske) {
         erstWählen();
 }
 
-void Listenmaske::erstWählen() {
+void Listenmaske::erstWählen() const {
     meldung(mAufbau.keiner, platform::Exclamation, mAufbau.achtung);
     mAufbau.feld->setFocus();
 }

@@ -42,11 +42,11 @@ class Listenmaske : public Suchmaske {
 
     void listenLesen();
     /// The entry that hides nothing when there is no such one.
-    void filterSetzen(const QString &name);
+    void filterSetzen(const QString &name) const;
     void neuen(frm maske);
     /// Opens a screen for the record shown; without one a person is told.
     void mitGezeigtem(frm maske);
-    void erstWählen();
+    void erstWählen() const;
 
     Schlüssel mGezeigt = 0;
 

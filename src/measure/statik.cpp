@@ -14,7 +14,7 @@ constexpr std::uint8_t syncByte = 0xFF;
 constexpr double rawPerUnit = 50;
 
 /// The leading `count` bytes of the number's hex digits, padded on the left.
-QByteArray hexBytes(double number, int count) {
+QByteArray hexBytes(double number, qsizetype count) {
     const QString digits =
         QString::number(static_cast<qint64>(number), 16).rightJustified(2 * count, '0');
     return QByteArray::fromHex(digits.left(2 * count).toLatin1());
