@@ -27,52 +27,52 @@ void Protokollwahl::verbinden(const Felder &felder) {
     mFelder.liste->setCompleter(nullptr); // 1 is not to become 12 while it is typed
 }
 
-void Protokollwahl::leereZeigen() {
+void Protokollwahl::leereZeigen() const {
     const QStringList leere = leereProtokolle();
     füllen(*mFelder.liste, leere);
     mFelder.vorhanden->setEnabled(!leere.isEmpty());
 }
 
-void Protokollwahl::nummerVergeben() {
+void Protokollwahl::nummerVergeben() const {
     mFelder.neu->setEnabled(false);
     gProtokollID = nächsteProtokollNr();
     mFelder.nummer->setText(QString::number(gProtokollID) + " - ");
     mFelder.neu->setEnabled(true);
 }
 
-void Protokollwahl::neuGewählt() {
+void Protokollwahl::neuGewählt() const {
     mFelder.liste->hide();
     mFelder.name->show();
     mFelder.name->setFocus();
     mFelder.ok->setEnabled(true);
 }
 
-void Protokollwahl::vorhandenGewählt() {
+void Protokollwahl::vorhandenGewählt() const {
     mFelder.name->hide();
     mFelder.liste->show();
     mFelder.liste->setFocus();
     mFelder.ok->setEnabled(!mFelder.liste->currentText().isEmpty());
 }
 
-void Protokollwahl::cmbVorhanden_Click() {
+void Protokollwahl::cmbVorhanden_Click() const {
     gProtokollWahl = protokollNrAus(mFelder.liste->currentText());
     mFelder.ok->setEnabled(true);
 }
 
-void Protokollwahl::cmbVorhanden_Change() {
+void Protokollwahl::cmbVorhanden_Change() const {
     gProtokollWahl = protokollNrAus(mFelder.liste->currentText());
     if (mFelder.vorhanden->isChecked() && mFelder.liste->currentText().isEmpty())
         mFelder.ok->setEnabled(false);
 }
 
-void Protokollwahl::nachschlagen() {
+void Protokollwahl::nachschlagen() const {
     if (mFelder.liste->currentText().isEmpty() || !gewählterEintrag())
         return;
     mFelder.ok->setEnabled(true);
     mFelder.ok->setFocus();
 }
 
-std::optional<QString> Protokollwahl::gewählterEintrag() {
+std::optional<QString> Protokollwahl::gewählterEintrag() const {
     const QStringList gefunden = protokolleMitNummer(gProtokollWahl);
     if (gefunden.isEmpty()) {
         fehltMelden();
@@ -90,13 +90,13 @@ std::optional<QString> Protokollwahl::gewählterEintrag() {
     return gefunden[0];
 }
 
-void Protokollwahl::fehltMelden() {
+void Protokollwahl::fehltMelden() const {
     meldung({"Dieses Protokoll gibt es nicht!", "This protocol does not exist!"},
             platform::Exclamation, {"Meldung", "Message"});
     mFelder.liste->setFocus();
     mFelder.ok->setEnabled(false);
 }
 
-void Protokollwahl::einzigenZeigen(const QString &eintrag) {
+void Protokollwahl::einzigenZeigen(const QString &eintrag) const {
     füllen(*mFelder.liste, {eintrag});
 }

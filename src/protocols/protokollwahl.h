@@ -26,28 +26,28 @@ class Protokollwahl {
     void verbinden(const Felder &felder);
 
     /// Fills the list; without an entry there is no such option. Raises what the store raises.
-    void leereZeigen();
+    void leereZeigen() const;
     /// Takes the next number; without one there is no new protocol. Raises what the store raises.
-    void nummerVergeben();
+    void nummerVergeben() const;
 
     // The two options
-    void neuGewählt();
+    void neuGewählt() const;
     /// Fill the list before.
-    void vorhandenGewählt();
+    void vorhandenGewählt() const;
 
     // Events of the list's box
-    void cmbVorhanden_Click();
-    void cmbVorhanden_Change();
+    void cmbVorhanden_Click() const;
+    void cmbVorhanden_Change() const;
     /// Enter: completes the entry and goes on to the button, or says that there is none.
-    void nachschlagen();
+    void nachschlagen() const;
 
     /// The entry of the number in the box, which it then shows; says so when there is none.
-    std::optional<QString> gewählterEintrag();
+    std::optional<QString> gewählterEintrag() const;
     /// Says that the protocol does not exist and goes back to the list.
-    void fehltMelden();
+    void fehltMelden() const;
 
     /// Offers this one entry alone.
-    void einzigenZeigen(const QString &eintrag);
+    void einzigenZeigen(const QString &eintrag) const;
 
   private:
     Felder mFelder{};
