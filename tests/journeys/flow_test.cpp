@@ -90,6 +90,8 @@ JOURNEY(Counting, IsNotLeftToItself) {
     co_await go(R"(
         pbMotaus ; log ~ . ; run ; until log ~ 1/2 ; pass 1500 ; stand fault silent on
         ? refused ; ? noController ; pass 90000 ; @Desktop ; motor ~ ^on Motaus ; stand fault none ; pbMotaus)");
+    co_await go(R"(
+        run ; spoil INSERT Messwerte_temp ; ? failure(3016) ; ? refused ; @Desktop ; idle == yes ; mend)");
     columnOfCount = "gone"; // nor when the flow fails
     co_await go("? failed(3014, 3265) ; run ; @Desktop ; idle == yes");
 }
