@@ -24,7 +24,8 @@ or takes far too long: noticed. Prints the mutants that went unnoticed by file a
 --fresh    throws build and results away first
 
 tools/mutate-exempt.txt lists what need not be noticed, one a line: file, kind, text, reason
-("equivalent" or "looks", and why), parted by " | ". A row that matches nothing any more is told."""
+("equivalent" or "looks", and why), parted by " | ". It means the first such line of the file; behind
+the text " #2" means the second one, " #all" each. A row that matches nothing any more is told."""
 import argparse, collections, fnmatch, glob, hashlib, json, os, random, re, shutil, subprocess, sys, time
 
 ap = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
@@ -315,20 +316,26 @@ def results(name):
 
 
 def exempt():
-    """-> {(file, kind, text): reason}"""
+    """-> {(file, kind, text, which): reason}, which from 0, None for all"""
     path = os.path.join(ROOT, "tools", "mutate-exempt.txt"); rows = {}
     for l in open(path, encoding="utf-8") if os.path.exists(path) else []:
         if l.strip() and not l.startswith("#"):
-            file, kind, rest = l.strip().split(" | ", 2); text, reason = rest.rsplit(" | ", 1); rows[file, kind, text] = reason
+            file, kind, rest = l.strip().split(" | ", 2); text, reason = rest.rsplit(" | ", 1)
+            named = re.fullmatch(r"(.*) #(\d+|all)", text); which = 0
+            if named: text, which = named.group(1), None if named.group(2) == "all" else int(named.group(2)) - 1
+            rows[file, kind, text, which] = reason
     return rows
 
 
-def show(m): return f"{m['file']}:{m['line']}: {m['kind']}{'' if m['reached'] else ' (no test gets here)'}: {m['text']}"
+def is_exempt(k, free): return k in free or (*k[:3], None) in free
+
+
+def show(m): return f"{m['file']}:{m['line']}: {m['kind']}{'' if m['reached'] else ' (no test gets here)'}: {m['text']}{' #%d' % (m['nth'] + 1) if m.get('nth') else ''}"
 
 
 def compare(before, after):
     (_, old), (_, new) = results(before), results(after); free = exempt()
-    lost = [new[k] for k in old if k in new and old[k]["killers"] and not new[k]["killers"] and k[:3] not in free]
+    lost = [new[k] for k in old if k in new and old[k]["killers"] and not new[k]["killers"] and not is_exempt(k, free)]
     won = [new[k] for k in old if k in new and not old[k]["killers"] and new[k]["killers"]]
     untried = [old[k] for k in old if k not in new and old[k]["killers"]]
     for title, rows in (("noticed before, not now", lost), ("noticed now", won), ("noticed before, not tried or not there now", untried)):
@@ -393,14 +400,14 @@ def main():
             if r["killers"]: break
         done[key(m)] = r; log.write(json.dumps(r, ensure_ascii=False) + "\n"); log.flush()
     tried = [done[key(m)] for m in mine if key(m) in done]; free = exempt()
-    alive = [r for r in tried if not r["killers"]]; due = [r for r in alive if key(r)[:3] not in free]
+    alive = [r for r in tried if not r["killers"]]; due = [r for r in alive if not is_exempt(key(r), free)]
     counted = len(tried) - len(alive) + len(due)
     print(f"\n{len(mine)} mutants, {len(tried)} tried, {len(tried) - len(alive)} noticed, {len(alive) - len(due)} exempt, {len(due)} not noticed"
           f" ({sum(1 for r in due if not r['reached'])} reached by no test): {100 * (len(tried) - len(alive)) / max(1, counted):.0f} % of those that count\n")
     for r in sorted(due, key=lambda r: (r["file"], r["line"])): print(show(r))
-    there = {key(m)[:3] for m in mutants}
+    there = {key(m) for m in mutants}; some = {k[:3] for k in there}
     for k in free:
-        if k not in there: print("exempt, but not there:", " | ".join(k))
+        if k not in there and not (k[3] is None and k[:3] in some): print("exempt, but not there:", *k)
     if A.matrix: matrix(tried, tests, by)
 
 
