@@ -1,17 +1,45 @@
-// Renders every screen with demo data in both languages to PNG: gallery [DIR] (default gallery/).
+// Renders every screen with demo data in both languages to PNG, light and dark, at 100 % and 200 %:
+// gallery [DIR] [light|dark]. Fails when a screen does not fit or a caption is cut.
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPushButton>
 #include <QTest>
+#include <QTimer>
+#include <QVBoxLayout>
 
 #include <cstdio>
 
+#include "lookcheck.h"
 #include "session/session.h"
+#include "session/sprache.h"
+#include "windows/stil.h"
+#include "windows/waiting.h"
 #include "workplace.h"
 
 namespace {
 
 using namespace support;
+
+int faultCount = 0;
+
+/// As the window stands, at 100 % and drawn anew at 200 %.
+void save(QWidget &window, const QDir &target, const QString &name) {
+    QApplication::processEvents();
+    window.grab().save(target.filePath(name + ".png"));
+    QPixmap twice(window.size() * 2);
+    twice.setDevicePixelRatio(2);
+    window.render(&twice);
+    twice.save(target.filePath(name + "@2x.png"));
+    for (const QString &fault : lookcheck::faults(window)) {
+        std::printf("%s: %s\n", qPrintable(name), qPrintable(fault));
+        ++faultCount;
+    }
+}
 
 class Gallery : public Workplace {
   public:
@@ -28,11 +56,44 @@ class Gallery : public Workplace {
     void TestBody() override {}
 
     void picture(const char *name) {
-        Screen *screen = platform::frontScreen();
-        QApplication::processEvents();
-        const QString file = QString("%1-%2.png").arg(name, mLanguage == 1 ? "de" : "en");
-        screen->grab().save(mTarget.filePath(file));
-        std::printf("%s\n", qPrintable(file));
+        save(*platform::frontScreen(), mTarget,
+             QString("%1-%2").arg(name, mLanguage == 1 ? "de" : "en"));
+    }
+
+    /// A real box, answered once its picture is taken.
+    void box(int number, const Text &text, int flags, const Text &title) {
+        QTimer::singleShot(0, [this, number] {
+            auto *window = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            save(*window, mTarget,
+                 QString("box%1-%2").arg(number).arg(mLanguage == 1 ? "de" : "en"));
+            window->buttons().at(0)->click();
+        });
+        meldung(text, flags, title);
+    }
+
+    void messageBoxes() {
+        using namespace platform;
+        setBoxAnswerer({});
+        box(1,
+            {"Das Gerät ist noch nicht eingelaufen!\nWollen sie trotzdem die Messung beginnen ?",
+             "The unit was not run in yet!\nDo you want to start the measurement nevertheless?"},
+            YesNo + Exclamation + SecondButtonDefault, {"Messen starten", "Start Measuring"});
+        box(2,
+            {"Das Rezept ist abgearbeitet!\nBeenden Sie das Messen oder fahren Sie mit freier "
+             "Eingabe fort!",
+             "The recipe is finished!\nTerminate measuring or go on with free input!"},
+            Information, {"Meldung!", "Message!"});
+        box(3, {"Fehler", "Error"}, Critical, {"Motor aus", "Motor Off"});
+        box(4,
+            {"Wollen Sie das Programm wirklich beenden?",
+             "Do you really want to terminate the program?"},
+            YesNo + Question, {"Programmende", "End Of Program"});
+        box(5,
+            {"Der Motor konnte nicht ausgeschaltet werden und dreht sich vielleicht noch.\r"
+             "Soll das Programm trotzdem beendet werden?",
+             "The motor could not be switched off and may still be turning.\r"
+             "Shall the program be terminated all the same?"},
+            AbortRetryIgnore + Critical, {"Programmende", "End Of Program"});
     }
 
     Journey opened(frm name, const char *pictureName) {
@@ -193,10 +254,71 @@ class Gallery : public Workplace {
         type(frm::Messen, "txtSoll_P", "150");
         co_await pass(50);
         picture("messen-frei");
+        messageBoxes();
     }
 
     QDir mTarget;
     std::int16_t mLanguage;
+};
+
+/// Each state of a button and of a field, under its name.
+class States {
+  public:
+    void save(const QDir &target) {
+        button("normal", [](QPushButton &) {});
+        button("default", [](QPushButton &b) { b.setDefault(true); });
+        button("keyboard", [](QPushButton &b) { b.setFocus(); });
+        button("waiting", [](QPushButton &b) { platform::setWaiting(&b, true); });
+        button("waiting, keyboard", [](QPushButton &b) {
+            platform::setWaiting(&b, true);
+            b.setFocus();
+        });
+        button("disabled", [](QPushButton &b) { b.setEnabled(false); });
+        field("to type into", [](QLineEdit &) {});
+        field("keyboard", [](QLineEdit &f) { f.setFocus(); });
+        field("shown", [](QLineEdit &f) { f.setReadOnly(true); });
+        field("free input", [](QLineEdit &f) { platform::setFreeInput(&f, true); });
+        field("empty", [](QLineEdit &f) {
+            f.clear();
+            f.setPlaceholderText("60,0");
+        });
+        field("disabled", [](QLineEdit &f) { f.setEnabled(false); });
+        QPixmap sheet(6 * cell.width(), 2 * cell.height());
+        sheet.fill(platform::farben().fenster);
+        QPainter painter(&sheet);
+        for (int i = 0; i < int(mCells.size()); ++i)
+            painter.drawPixmap(i % 6 * cell.width(), i / 6 * cell.height(), mCells[size_t(i)]);
+        painter.end();
+        sheet.save(target.filePath("states.png"));
+    }
+
+  private:
+    static constexpr QSize cell{168, 84};
+
+    // One window each: only one control at a time has the keyboard.
+    template <class Control, class Shape>
+    void add(const char *name, Control *control, Shape shape) {
+        QWidget window;
+        window.setFixedSize(cell);
+        auto *column = new QVBoxLayout(&window);
+        column->addWidget(control);
+        column->addWidget(new QLabel(name));
+        window.show();
+        window.setFocusPolicy(Qt::StrongFocus);
+        window.activateWindow();
+        window.setFocus();
+        shape(*control);
+        QApplication::processEvents();
+        mCells.push_back(window.grab());
+    }
+    void button(const char *name, const std::function<void(QPushButton &)> &shape) {
+        add(name, new QPushButton("&Speichern"), shape);
+    }
+    void field(const char *name, const std::function<void(QLineEdit &)> &shape) {
+        add(name, new QLineEdit("60,0"), shape);
+    }
+
+    std::vector<QPixmap> mCells;
 };
 
 } // namespace
@@ -209,9 +331,17 @@ int main(int argc, char *argv[]) {
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    const QDir target(QDir::current().absoluteFilePath(argc > 1 ? argv[1] : "gallery"));
-    QDir().mkpath(target.path());
-    for (const auto language : {std::int16_t{1}, std::int16_t{2}})
-        Gallery(target, language).show();
-    return 0;
+    const QDir all(QDir::current().absoluteFilePath(argc > 1 ? argv[1] : "gallery"));
+    for (const char *look : {"light", "dark"}) {
+        if (argc > 2 && std::string_view(argv[2]) != look)
+            continue;
+        const QDir target(all.filePath(look));
+        QDir().mkpath(target.path());
+        platform::stilAnwenden(std::string_view(look) == "dark");
+        States().save(target);
+        for (const auto language : {std::int16_t{1}, std::int16_t{2}})
+            Gallery(target, language).show();
+    }
+    std::printf("%s: %d faults\n", qPrintable(all.path()), faultCount);
+    return faultCount == 0 ? 0 : 1;
 }

@@ -16,6 +16,7 @@
 #include "session/session.h"
 #include "store/database.h"
 #include "windows/msgbox.h"
+#include "windows/stil.h"
 
 namespace {
 
@@ -173,6 +174,7 @@ class Tour {
 int main(int argc, char *argv[]) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    platform::stilAnwenden(application);
     int result = 0;
     {
         programmStarten();

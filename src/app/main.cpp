@@ -3,11 +3,13 @@
 
 #include "app/start.h"
 #include "platform/ending.h"
+#include "windows/stil.h"
 
 int main(int argc, char *argv[]) {
     QApplication application(argc, argv);
     QApplication::setApplicationName("torvena");
     QApplication::setQuitOnLastWindowClosed(false);
+    platform::stilAnwenden(application);
     if (!platform::onEnding(beendenOhneFrage)) // which stops the motor
         return 1;
     QTimer start; // within the loop: boxes of the start can be ended from outside, too

@@ -1,13 +1,18 @@
 #include "windows/msgbox.h"
 
 #include <QApplication>
+#include <QGridLayout>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 #include <optional>
 #include <vector>
 
 #include "windows/screen.h"
+#include "windows/stil.h"
 
 namespace platform {
 
@@ -67,6 +72,39 @@ QMessageBox::ButtonRole roleOf(BoxAnswer answer) {
     }
 }
 
+/// The title again as a head, a text that is read at the stand, and a bar at what is critical.
+class BoxWindow : public QMessageBox {
+  public:
+    BoxWindow(Icon icon, const QString &title, const QString &text, QWidget *parent)
+        : QMessageBox(icon, title, text, NoButton, parent) {
+        setTextFormat(Qt::PlainText);
+        auto *label = findChild<QLabel *>("qt_msgbox_label");
+        setSchrift(label, 12);
+        auto *head = new QLabel(title, this);
+        head->setTextFormat(Qt::PlainText);
+        head->setMinimumWidth(420);
+        setSchrift(head, 14, true);
+
+        auto *grid = qobject_cast<QGridLayout *>(layout());
+        int row = 0, column = 0, rows = 0, columns = 0;
+        grid->getItemPosition(grid->indexOf(label), &row, &column, &rows, &columns);
+        grid->removeWidget(label);
+        auto *words = new QVBoxLayout; // a layout, not a widget: the box measures through it
+        words->setContentsMargins(0, 0, 0, 16);
+        words->setSpacing(8);
+        words->addWidget(head);
+        words->addWidget(label, 1);
+        grid->addLayout(words, row, column, rows, columns);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent *event) override {
+        QMessageBox::paintEvent(event);
+        if (icon() == Critical)
+            QPainter(this).fillRect(0, 0, 4, height(), farben().schlecht);
+    }
+};
+
 } // namespace
 
 int msgBox(const QString &text, int flags, const QString &title) {
@@ -81,13 +119,14 @@ int msgBox(const QString &text, int flags, const QString &title) {
     std::optional<Running> parentStays;
     if (parent)
         parentStays.emplace(parent);
-    QMessageBox box(iconOf(flags), title, lines, QMessageBox::NoButton, parent);
-    box.setTextFormat(Qt::PlainText);
+    BoxWindow box(iconOf(flags), title, lines, parent);
     const std::vector<BoxAnswer> answers = buttonsOf(flags);
     std::vector<QPushButton *> buttons;
     buttons.reserve(answers.size());
-    for (const BoxAnswer answer : answers)
+    for (const BoxAnswer answer : answers) {
         buttons.push_back(box.addButton(captionOf(answer), roleOf(answer)));
+        buttons.back()->setMinimumSize(104, 36);
+    }
     const size_t wanted = (flags & ThirdButtonDefault) ? 2 : (flags & SecondButtonDefault) ? 1 : 0;
     box.setDefaultButton(buttons[std::min(wanted, buttons.size() - 1)]);
     // Escape and the close box answer with the harmless button; Yes/No must be answered.

@@ -2,27 +2,19 @@
 
 #include <QVariant>
 
+#include "windows/stil.h"
+
 namespace platform {
 
 namespace {
-constexpr auto waitingProperty = "waiting";
-const QColor waitingColor(192, 192, 255);
-const QColor freeInputColor(255, 224, 192);
+constexpr auto waitingProperty = "waiting"; // the style paints it
 } // namespace
 
 void setWaiting(QAbstractButton *button, bool waiting) {
     if (isWaiting(button) == waiting)
         return;
     button->setProperty(waitingProperty, waiting);
-    QPalette palette;
-    if (waiting) {
-        palette.setColor(QPalette::Button, waitingColor);
-        palette.setColor(QPalette::ButtonText, Qt::black);
-    }
-    button->setPalette(palette);
-    QFont font = button->font();
-    font.setBold(waiting);
-    button->setFont(font);
+    button->update();
 }
 
 bool isWaiting(const QAbstractButton *button) {
@@ -30,12 +22,7 @@ bool isWaiting(const QAbstractButton *button) {
 }
 
 void setFreeInput(QLineEdit *box, bool open) {
-    QPalette palette;
-    if (open) {
-        palette.setColor(QPalette::Base, freeInputColor);
-        palette.setColor(QPalette::Text, Qt::black);
-    }
-    box->setPalette(palette);
+    setFreiGetönt(box, open);
     box->setReadOnly(!open);
 }
 

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "windows/stil.h"
+
 int main(int argc, char *argv[]) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -11,5 +13,6 @@ int main(int argc, char *argv[]) {
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    platform::stilAnwenden(application);
     return RUN_ALL_TESTS();
 }

@@ -1,0 +1,46 @@
+// What is told by a picture: the signs of a verdict, which differ in outline and need no colour,
+// the arrow of a direction, and the widget that shows one of them beside the words.
+#pragma once
+
+#include <QWidget>
+
+#include <functional>
+
+class QPainter;
+
+namespace platform {
+
+enum class Zeichen {
+    Kein,     ///< nothing to judge yet: a dashed ring
+    Gut,      ///< a disc with a tick
+    Schlecht, ///< a square with a cross
+    Offen,    ///< a triangle with a question mark: undecided
+    Achtung,  ///< the same triangle with an exclamation mark
+};
+/// Within `rect`, as a square in its middle. Readable from 16 px on.
+void zeichenMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen);
+QColor zeichenFarbe(Zeichen zeichen);
+
+/// An arc of 280 degrees with a head: clockwise, or the other way.
+void drehpfeilMalen(QPainter &painter, const QRectF &rect, bool rechtsherum, const QColor &farbe);
+
+/// A painted picture on a screen, named anz…: takes no keyboard, has its words for who cannot see
+/// it.
+class Bild : public QWidget {
+  public:
+    using Maler = std::function<void(QPainter &painter, const QRectF &rect)>;
+
+    explicit Bild(QWidget *parent = nullptr) : QWidget(parent) {}
+
+    /// Painted anew from now on by this, with antialiasing.
+    void zeige(Maler maler, const QString &worte);
+    void zeige(Zeichen zeichen, const QString &worte);
+
+  protected:
+    void paintEvent(QPaintEvent *event) override;
+
+  private:
+    Maler mMaler;
+};
+
+} // namespace platform
