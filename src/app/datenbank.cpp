@@ -3,15 +3,38 @@
 #include <utility>
 
 #include "platform/runtime.h"
+#include "records/system.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
+#include "store/scripts.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
 
+namespace {
+
+/// The directory of an older build: brought up to date, and told once.
+void aufStandBringen() {
+    systemLesen(); // whose language the box speaks
+    gDatenbank.close();
+    const QString kopie = sichereUndBringeAufStand(datenbankName);
+    gDatenbank.openFile(datenbankName);
+    meldung({"Die Datenbank wurde auf den Stand dieses Programms gebracht.\r"
+             "Wie sie vorher war, liegt als " +
+                 kopie + " daneben.",
+             "The database was brought up to date for this program.\r"
+             "As it was before, it lies beside it as " +
+                 kopie + '.'},
+            Information, {"Meldung", "Message"});
+}
+
+} // namespace
+
 std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) try {
     gDatenbank.openFile(datenbankName);
+    if (datenbankVeraltet(gDatenbank))
+        aufStandBringen();
     return 0;
 } catch (const Fehler &fehler) {
     static int gemeldet = 0;

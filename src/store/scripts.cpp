@@ -34,6 +34,7 @@ std::vector<QString> databaseScripts(bool demo) {
     scripts.push_back(sqlScript("delivered.sql"));
     if (demo)
         scripts.push_back(sqlScript("demo.sql"));
+    scripts.push_back(QString("PRAGMA user_version = %1").arg(datenbankStand));
     return scripts;
 }
 

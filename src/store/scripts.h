@@ -5,6 +5,12 @@
 
 #include <vector>
 
+class Datenbank;
+
+/// Counts the states of the schema; raised by one with each change that a directory in use must
+/// get.
+inline constexpr int datenbankStand = 1;
+
 /// What a new database is made of, in this order; with `demo` also customers, units, recipes and
 /// protocols to try the program with.
 std::vector<QString> databaseScripts(bool demo);
@@ -19,3 +25,9 @@ void legeDatenbankAn(const QString &path, bool demo);
 /// that is none of the program's, and where a new column would stand in another place than rows
 /// are moved or read by.
 void bringeDatenbankAufStand(const QString &path);
+
+/// Whether an open database is of an older build than this one.
+bool datenbankVeraltet(Datenbank &datenbank);
+/// The same after a copy of the file was put beside it; returns the name of the copy. A copy for
+/// nothing is taken away again.
+QString sichereUndBringeAufStand(const QString &path);

@@ -1,9 +1,14 @@
 // Brings a database of an older build up to date, by comparison with a new one.
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <algorithm>
 
+#include "platform/clock.h"
 #include "store/database.h"
 #include "store/scripts.h"
 
@@ -53,6 +58,8 @@ class Update {
                     mStore.execute(sql);
             });
         }
+        fillIn();
+        mStore.execute(QString("PRAGMA main.user_version = %1").arg(datenbankStand));
     }
 
   private:
@@ -109,6 +116,18 @@ class Update {
             throw outOfOrder(name);
     }
 
+    /// What protocols of older builds lack of what is kept with them: the triggers know it.
+    void fillIn() {
+        for (const char *temp : {"_temp", ""}) {
+            mStore.execute(QString("UPDATE Protokoll%1 SET PrüfungsArt = PrüfungsArt "
+                                   "WHERE Spezifikation IS NULL")
+                               .arg(temp));
+            mStore.execute(
+                QString("UPDATE Messwerte%1 SET Soll_P = Soll_P WHERE ZulAbw IS NULL").arg(temp));
+        }
+        mStore.execute("UPDATE Protokoll SET KundenID = KundenID WHERE Kunde IS NULL");
+    }
+
     static Fehler outOfOrder(const QString &name) {
         return {fehlernummer::StatementFailed,
                 {"Die Spalten der Tabelle " + name + " stehen in einer anderen Reihenfolge.",
@@ -134,4 +153,27 @@ void bringeDatenbankAufStand(const QString &path) {
     store.open("SELECT Version FROM System"); // the mark of a current database
     Update update(store, model);
     store.together([&] { update.run(); });
+}
+
+bool datenbankVeraltet(Datenbank &datenbank) {
+    return datenbank.open("PRAGMA user_version")[0].whole() < datenbankStand;
+}
+
+QString sichereUndBringeAufStand(const QString &path) {
+    const QFileInfo file(path);
+    const QString copy = file.completeBaseName() + "_vor_" + now().toString("yyyy-MM-dd_HH-mm-ss") +
+                         '.' + file.suffix();
+    const QString target = file.dir().filePath(copy);
+    if (!QFile::copy(path, target)) {
+        throw Fehler(fehlernummer::PermissionDenied,
+                     {"Die Sicherungskopie " + copy + " kann nicht angelegt werden.",
+                      "The safety copy " + copy + " cannot be written."});
+    }
+    try {
+        bringeDatenbankAufStand(path);
+    } catch (...) {
+        QFile::remove(target);
+        throw;
+    }
+    return copy;
 }

@@ -28,8 +28,9 @@ class ProtokollTest : public support::Way {
 
     /// A head as this session writes it, of the connected standard.
     static void kopf(int nummer, const QString &name = "Name", int kunde = 3, int gerät = 4) {
-        gDatenbank.execute("INSERT INTO Protokoll_temp VALUES (?, ?, 'P', ?, ?, 2, 5, 6, "
-                           "'Verfahren', ?)",
+        gDatenbank.execute("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, Prüfername, "
+                           "GerätID, KundenID, Drehrichtung, PrüfungsArt, NK_ID, Messverfahren, "
+                           "ErstellDatum) VALUES (?, ?, 'P', ?, ?, 2, 5, 6, 'Verfahren', ?)",
                            {nummer, name, gerät, kunde, platform::now().date()});
     }
     static void messwert(int nummer, const QString &schritt = "1") {

@@ -16,7 +16,22 @@ CREATE TABLE Protokoll{temp} (
     PrüfungsArt     INTEGER,                -- Toleranzen.ID
     NK_ID           INTEGER,
     Messverfahren   TEXT COLLATE NOCASE,
-    ErstellDatum    TEXT DEFAULT (date('now', 'localtime'))
+    ErstellDatum    TEXT DEFAULT (date('now', 'localtime')),
+    -- What the protocol meant, whatever becomes of the rows that it refers to: the specification as
+    -- it was when it was chosen, customer and unit as they were when the head entered the archive.
+    Spezifikation   TEXT COLLATE NOCASE,
+    Prozent         NUMERIC,                -- %
+    Watt            NUMERIC,                -- W
+    GrenzAbw        NUMERIC,                -- 1/min
+    GKlasse         TEXT COLLATE NOCASE,
+    Kunde           TEXT COLLATE NOCASE,
+    Straße          TEXT COLLATE NOCASE,
+    PLZ             TEXT COLLATE NOCASE,
+    Ort             TEXT COLLATE NOCASE,
+    Gerätetyp       TEXT COLLATE NOCASE,
+    Hersteller      TEXT COLLATE NOCASE,
+    SerienNr        TEXT COLLATE NOCASE,
+    IdentNr         TEXT COLLATE NOCASE
 );
 CREATE INDEX Protokoll{temp}KundenID ON Protokoll{temp} (KundenID);
 CREATE INDEX Protokoll{temp}GerätID ON Protokoll{temp} (GerätID);
@@ -35,7 +50,8 @@ CREATE TABLE Messwerte{temp} (
     MU_ohne         TEXT COLLATE NOCASE,    -- ja, nein; yes, no
     MU_mit          TEXT COLLATE NOCASE,    -- ja, nein; yes, no; ?
     MU_Proz         NUMERIC,                -- %
-    MDat            TEXT DEFAULT (strftime('%Y-%m-%d %H:%M:%f', 'now', 'localtime'))
+    MDat            TEXT DEFAULT (strftime('%Y-%m-%d %H:%M:%f', 'now', 'localtime')),
+    ZulAbw          REAL                    -- W or 1/min, permissible when the values were written
 );
 CREATE INDEX Messwerte{temp}Schritt ON Messwerte{temp} (ProtokollID, Prüfschritt);
 
@@ -75,19 +91,98 @@ CREATE TABLE SecControl{temp} (
 );
 
 
+-- What is kept with a protocol ----------------------------------------------------------------
+
+-- A measured value as numbers. Texts have a comma or a point.
+--
+-- Gruppe       1 power, 2 speed. A power measurement leaves the text 0 as reading of the
+--              ergometer, so a reading of exactly 0 (or none) means power. A speed measurement on
+--              an ergometer that shows nothing counts as power, too, unless the zero was entered
+--              with a decimal.
+
+CREATE VIEW Messwert{form} AS
+SELECT rowid AS Zeile,
+       ProtokollID,
+       CASE WHEN TRIM(IFNULL(Ist_n_ergom, '')) IN ('', '0') THEN 1 ELSE 2 END AS Gruppe,
+       CASE WHEN Prüfschritt <> '' AND Prüfschritt NOT GLOB '*[^0-9]*'
+            THEN CAST(Prüfschritt AS INTEGER) ELSE Prüfschritt END AS Prüfschritt,
+       CAST(REPLACE(Soll_n, ',', '.') AS REAL) AS Soll_n,
+       CAST(REPLACE(Soll_P, ',', '.') AS REAL) AS Soll_P,
+       CAST(REPLACE(Ist_n_torvena, ',', '.') AS REAL) AS Ist_n_torvena,
+       CAST(REPLACE(Ist_D_torvena, ',', '.') AS REAL) AS Ist_D_torvena,
+       CAST(REPLACE(Ist_P_torvena, ',', '.') AS REAL) AS Ist_P_torvena,
+       CAST(REPLACE(Ist_n_ergom, ',', '.') AS REAL) AS Ist_n_ergom,
+       MU_ohne, MU_mit, MU_Proz, MDat, ZulAbw
+FROM Messwerte{temp};
+
+-- The permissible deviation of a measured value by the specification of today, W or 1/min. Power:
+-- the greater of Prozent % of the setpoint and Watt. Speed: GrenzAbw as a whole number, halves to
+-- the even neighbour. Null without a specification.
+
+CREATE VIEW Grenze{form} AS
+SELECT W.Zeile,
+       CASE W.Gruppe
+           WHEN 1 THEN MAX(W.Soll_P * T.Prozent / 100.0, T.Watt * 1.0)
+           ELSE ROUND(T.GrenzAbw) - (T.GrenzAbw - CAST(T.GrenzAbw AS INTEGER) = 0.5
+                                     AND CAST(T.GrenzAbw AS INTEGER) % 2 = 0)
+       END AS ZulAbw
+FROM Messwert{form} W
+JOIN Protokoll{temp} P ON P.ProtokollID = W.ProtokollID
+LEFT JOIN Toleranzen T ON T.ID = P.PrüfungsArt;
+
+-- A row that brings its own, as into the archive, keeps them.
+CREATE TRIGGER Messwerte{temp}Neu AFTER INSERT ON Messwerte{temp} WHEN NEW.ZulAbw IS NULL
+BEGIN
+    UPDATE Messwerte{temp} SET ZulAbw = (SELECT ZulAbw FROM Grenze{form} WHERE Zeile = NEW.rowid)
+    WHERE rowid = NEW.rowid;
+END;
+CREATE TRIGGER Messwerte{temp}Anders
+AFTER UPDATE OF Soll_P, Ist_n_torvena, Ist_P_torvena, Ist_n_ergom ON Messwerte{temp}
+BEGIN
+    UPDATE Messwerte{temp} SET ZulAbw = (SELECT ZulAbw FROM Grenze{form} WHERE Zeile = NEW.rowid)
+    WHERE rowid = NEW.rowid;
+END;
+
+CREATE TRIGGER Protokoll{temp}Neu AFTER INSERT ON Protokoll{temp} WHEN NEW.Spezifikation IS NULL
+BEGIN
+    UPDATE Protokoll{temp}
+    SET (Spezifikation, Prozent, Watt, GrenzAbw, GKlasse) =
+        (SELECT Bezeichnung, Prozent, Watt, GrenzAbw, GKlasse FROM Toleranzen
+         WHERE ID = NEW.PrüfungsArt)
+    WHERE ProtokollID = NEW.ProtokollID;
+END;
+CREATE TRIGGER Protokoll{temp}Anders AFTER UPDATE OF PrüfungsArt ON Protokoll{temp}
+BEGIN
+    UPDATE Protokoll{temp}
+    SET (Spezifikation, Prozent, Watt, GrenzAbw, GKlasse) =
+        (SELECT Bezeichnung, Prozent, Watt, GrenzAbw, GKlasse FROM Toleranzen
+         WHERE ID = NEW.PrüfungsArt)
+    WHERE ProtokollID = NEW.ProtokollID;
+END;
+
+
 -- Views ----------------------------------------------------------------------------------------
 
--- What all pages tell of a protocol. A customer or unit deleted since leaves its columns Null.
+-- What all pages tell of a protocol. In the archive customer and unit as they were then; otherwise
+-- as they are, and Null once they are deleted.
 
 CREATE VIEW BerichtKopf{form} AS
 SELECT P.ProtokollID,
        P.Protokollname AS ProtokollName,
        P.ErstellDatum,
        P.Prüfername,
-       (SELECT Firmenname FROM System) AS Firmenname,
-       K.Name AS Kunde, K.Straße, K.PLZ, K.Ort,
-       E.Gerätetyp, E.Hersteller, E.SerienNr, E.IdentNr
+       System.Firmenname, System.Straße AS FirmaStraße, System.PLZ AS FirmaPLZ,
+       System.Ort AS FirmaOrt, System.Telefon AS FirmaTelefon, System.EMail AS FirmaEMail,
+       IFNULL(P.Kunde, K.Name) AS Kunde,
+       CASE WHEN P.Kunde IS NULL THEN K.Straße ELSE P.Straße END AS Straße,
+       CASE WHEN P.Kunde IS NULL THEN K.PLZ ELSE P.PLZ END AS PLZ,
+       CASE WHEN P.Kunde IS NULL THEN K.Ort ELSE P.Ort END AS Ort,
+       CASE WHEN P.IdentNr IS NULL THEN E.Gerätetyp ELSE P.Gerätetyp END AS Gerätetyp,
+       CASE WHEN P.IdentNr IS NULL THEN E.Hersteller ELSE P.Hersteller END AS Hersteller,
+       CASE WHEN P.IdentNr IS NULL THEN E.SerienNr ELSE P.SerienNr END AS SerienNr,
+       IFNULL(P.IdentNr, E.IdentNr) AS IdentNr
 FROM Protokoll{temp} P
+LEFT JOIN System
 LEFT JOIN Kunden K ON K.KundenID = P.KundenID
 LEFT JOIN Ergometer E ON E.GerätID = P.GerätID;
 
@@ -96,36 +191,35 @@ LEFT JOIN Ergometer E ON E.GerätID = P.GerätID;
 --
 -- NächsteKalibrierung  mm/yyyy, two years on. Put together from the parts of the date, since
 --                      SQLite moves 29 February plus two years into March.
--- Messverfahren        as it was when the protocol was made, not that of the specification now
+-- Messverfahren, Spezifikation, Prozent, Watt, GrenzAbw, GKlasse
+--                      as they were when the protocol was made
 -- Prozent, Watt        %, W: limits of the specification for power
 -- GrenzAbw             1/min: limit for speed
+-- gemessenVon, gemessenBis
+--                      date and time of the first and of the last measured value; Null without
 
 CREATE VIEW Bericht1{form} AS
 SELECT B.*,
        strftime('%m/', B.ErstellDatum) || (strftime('%Y', B.ErstellDatum) + 2)
            AS NächsteKalibrierung,
        P.Drehrichtung, P.Messverfahren,
-       T.Bezeichnung AS Spezifikation, T.Prozent, T.Watt, T.GrenzAbw, T.GKlasse,
+       P.Spezifikation, P.Prozent, P.Watt, P.GrenzAbw, P.GKlasse,
        N.Normal, N.SerienNr AS NormalSerienNr, N.kalibriertVon, N.kalibriertBis, N.KalScheinNr,
-       N.HebelarmNr
+       N.HebelarmNr,
+       (SELECT MIN(MDat) FROM Messwerte{temp} M WHERE M.ProtokollID = B.ProtokollID) AS gemessenVon,
+       (SELECT MAX(MDat) FROM Messwerte{temp} M WHERE M.ProtokollID = B.ProtokollID) AS gemessenBis
 FROM BerichtKopf{form} B
 JOIN Protokoll{temp} P ON P.ProtokollID = B.ProtokollID
-LEFT JOIN Toleranzen T ON T.ID = P.PrüfungsArt
 LEFT JOIN Normalkalibrierdaten N ON N.NK_ID = P.NK_ID;
 
 
 -- Measuring results, one row a measured value.
 --
--- Gruppe       1 power, 2 speed. A power measurement leaves the text 0 as reading of the
---              ergometer, so a reading of exactly 0 (or none) means power. A speed measurement on
---              an ergometer that shows nothing counts as power, too, unless the zero was entered
---              with a decimal.
+-- Gruppe       1 power, 2 speed
 -- Prüfschritt  numbers as numbers, other texts after them: 2, 10, FR
 -- ErgometerMW  power: W, the setpoint at the ergometer; speed: 1/min, as read off the ergometer
 -- TorvenaMW    the same quantity, measured by the working standard
--- ZulAbw       permissible deviation, W or 1/min. Power: the greater of Prozent % of the setpoint
---              and Watt. Speed: GrenzAbw as a whole number, halves to the even neighbour.
---              Null without a specification.
+-- ZulAbw       permissible deviation, W or 1/min, as it was when the value was written
 -- RelAbw       %, deviation relative to ErgometerMW; positive when the ergometer says more than the
 --              standard measures. Null when ErgometerMW is 0.
 -- TolAusN      %, share of the permissible deviation that is used up; above 100 is out of it.
@@ -133,37 +227,22 @@ LEFT JOIN Normalkalibrierdaten N ON N.NK_ID = P.NK_ID;
 -- TorvenaMW2   the other quantity of the working standard: speed in a power row, power in a
 --              speed row
 -- MU_Proz      %, measurement uncertainty
+-- Soll_n, Soll_P, TorvenaM
+--              1/min, W: setpoints; N m: torque of the working standard
 --
 -- RelAbw and TolAusN are rounded to two decimals, which drops binary noise and still shows the
 -- first hundredth of a watt or of a revolution beyond the limit as more than 100 % in TolAusN.
 
 CREATE VIEW Bericht2{form} AS
-WITH Wert AS (
-    SELECT ProtokollID,
-           CASE WHEN TRIM(IFNULL(Ist_n_ergom, '')) IN ('', '0') THEN 1 ELSE 2 END AS Gruppe,
-           CASE WHEN Prüfschritt <> '' AND Prüfschritt NOT GLOB '*[^0-9]*'
-                THEN CAST(Prüfschritt AS INTEGER) ELSE Prüfschritt END AS Prüfschritt,
-           CAST(REPLACE(Soll_P, ',', '.') AS REAL) AS Soll_P,
-           CAST(REPLACE(Ist_n_torvena, ',', '.') AS REAL) AS Ist_n_torvena,
-           CAST(REPLACE(Ist_P_torvena, ',', '.') AS REAL) AS Ist_P_torvena,
-           CAST(REPLACE(Ist_n_ergom, ',', '.') AS REAL) AS Ist_n_ergom,
-           MU_ohne, MU_mit, MU_Proz
-    FROM Messwerte{temp}
-),
-Zeile AS (
+WITH Zeile AS (
     SELECT P.ProtokollID, P.Protokollname, P.Drehrichtung, W.Gruppe, W.Prüfschritt,
            CASE W.Gruppe WHEN 1 THEN W.Soll_P ELSE W.Ist_n_ergom END AS ErgometerMW,
            CASE W.Gruppe WHEN 1 THEN W.Ist_P_torvena ELSE W.Ist_n_torvena END AS TorvenaMW,
            CASE W.Gruppe WHEN 1 THEN W.Ist_n_torvena ELSE W.Ist_P_torvena END AS TorvenaMW2,
-           CASE W.Gruppe
-               WHEN 1 THEN MAX(W.Soll_P * T.Prozent / 100.0, T.Watt * 1.0)
-               ELSE ROUND(T.GrenzAbw) - (T.GrenzAbw - CAST(T.GrenzAbw AS INTEGER) = 0.5
-                                         AND CAST(T.GrenzAbw AS INTEGER) % 2 = 0)
-           END AS ZulAbw,
-           W.MU_ohne, W.MU_mit, W.MU_Proz
-    FROM Wert W
+           W.ZulAbw, W.MU_ohne, W.MU_mit, W.MU_Proz,
+           W.Soll_n, W.Soll_P, W.Ist_D_torvena AS TorvenaM
+    FROM Messwert{form} W
     JOIN Protokoll{temp} P ON P.ProtokollID = W.ProtokollID
-    LEFT JOIN Toleranzen T ON T.ID = P.PrüfungsArt
 )
 SELECT ProtokollID,
        Protokollname AS ProtokollName,
@@ -178,7 +257,10 @@ SELECT ProtokollID,
        TorvenaMW2,
        MU_ohne,
        MU_mit,
-       MU_Proz
+       MU_Proz,
+       Soll_n,
+       Soll_P,
+       TorvenaM
 FROM Zeile;
 
 

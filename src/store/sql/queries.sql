@@ -44,3 +44,25 @@ BEGIN
     DELETE FROM SecControl WHERE ProtokollID = OLD.ProtokollID;
     DELETE FROM Blutdruck WHERE ProtokollID = OLD.ProtokollID;
 END;
+
+-- Customer and unit stay with an archived head as they were.
+CREATE TRIGGER ProtokollArchiviert AFTER INSERT ON Protokoll WHEN NEW.Kunde IS NULL
+BEGIN
+    UPDATE Protokoll
+    SET (Kunde, Straße, PLZ, Ort) =
+            (SELECT Name, Straße, PLZ, Ort FROM Kunden WHERE KundenID = NEW.KundenID),
+        (Gerätetyp, Hersteller, SerienNr, IdentNr) =
+            (SELECT Gerätetyp, Hersteller, SerienNr, IdentNr FROM Ergometer
+             WHERE GerätID = NEW.GerätID)
+    WHERE ProtokollID = NEW.ProtokollID;
+END;
+CREATE TRIGGER ProtokollUmgehängt AFTER UPDATE OF KundenID, GerätID ON Protokoll
+BEGIN
+    UPDATE Protokoll
+    SET (Kunde, Straße, PLZ, Ort) =
+            (SELECT Name, Straße, PLZ, Ort FROM Kunden WHERE KundenID = NEW.KundenID),
+        (Gerätetyp, Hersteller, SerienNr, IdentNr) =
+            (SELECT Gerätetyp, Hersteller, SerienNr, IdentNr FROM Ergometer
+             WHERE GerätID = NEW.GerätID)
+    WHERE ProtokollID = NEW.ProtokollID;
+END;

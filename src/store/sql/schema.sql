@@ -131,7 +131,12 @@ CREATE TABLE System (
     DruckerPDF      TEXT COLLATE NOCASE,
     PDFOrdner       TEXT,
     Version         TEXT COLLATE NOCASE,    -- its existence marks a current database
-    Endprüfung      INTEGER DEFAULT 0       -- -1 shows the buttons of the final test
+    Endprüfung      INTEGER DEFAULT 0,      -- -1 shows the buttons of the final test
+    Straße          TEXT COLLATE NOCASE,    -- of the laboratory, as all that follow; empty is left
+    PLZ             TEXT COLLATE NOCASE,    -- out of the reports
+    Ort             TEXT COLLATE NOCASE,
+    Telefon         TEXT COLLATE NOCASE,
+    EMail           TEXT COLLATE NOCASE
 );
 
 -- One row each: port number; baud, parity letter, data bits, stop bits.
@@ -188,7 +193,7 @@ CREATE INDEX EP_MesswerteSchritt ON EP_Messwerte (ProtokollID, Prüfschritt);
 -- Staging of the reports -----------------------------------------------------------------------
 --
 -- Each holds the rows of the one protocol that is being printed, and is filled from the views of
--- the same number with SELECT *. What the columns mean is told at the views.
+-- the same number. What the columns mean is told at the views.
 
 CREATE TABLE Bericht1 (
     ProtokollID         INTEGER,
@@ -196,6 +201,11 @@ CREATE TABLE Bericht1 (
     ErstellDatum        TEXT,
     Prüfername          TEXT COLLATE NOCASE,
     Firmenname          TEXT COLLATE NOCASE,
+    FirmaStraße         TEXT COLLATE NOCASE,
+    FirmaPLZ            TEXT COLLATE NOCASE,
+    FirmaOrt            TEXT COLLATE NOCASE,
+    FirmaTelefon        TEXT COLLATE NOCASE,
+    FirmaEMail          TEXT COLLATE NOCASE,
     Kunde               TEXT COLLATE NOCASE,
     Straße              TEXT COLLATE NOCASE,
     PLZ                 TEXT COLLATE NOCASE,
@@ -217,7 +227,9 @@ CREATE TABLE Bericht1 (
     kalibriertVon       TEXT,
     kalibriertBis       TEXT,
     KalScheinNr         TEXT COLLATE NOCASE,
-    HebelarmNr          TEXT COLLATE NOCASE
+    HebelarmNr          TEXT COLLATE NOCASE,
+    gemessenVon         TEXT,
+    gemessenBis         TEXT
 );
 
 CREATE TABLE Bericht2 (
@@ -235,7 +247,10 @@ CREATE TABLE Bericht2 (
     MU_ohne         TEXT COLLATE NOCASE,
     MU_mit          TEXT COLLATE NOCASE,
     MU_Proz         NUMERIC,
-    Konform         TEXT COLLATE NOCASE     -- page with or without conformity statement
+    Konform         TEXT COLLATE NOCASE,    -- page with or without conformity statement
+    Soll_n          REAL,
+    Soll_P          REAL,
+    TorvenaM        REAL
 );
 
 CREATE TABLE Bericht3 (
@@ -244,6 +259,11 @@ CREATE TABLE Bericht3 (
     ErstellDatum        TEXT,
     Prüfername          TEXT COLLATE NOCASE,
     Firmenname          TEXT COLLATE NOCASE,
+    FirmaStraße         TEXT COLLATE NOCASE,
+    FirmaPLZ            TEXT COLLATE NOCASE,
+    FirmaOrt            TEXT COLLATE NOCASE,
+    FirmaTelefon        TEXT COLLATE NOCASE,
+    FirmaEMail          TEXT COLLATE NOCASE,
     Kunde               TEXT COLLATE NOCASE,
     Straße              TEXT COLLATE NOCASE,
     PLZ                 TEXT COLLATE NOCASE,
@@ -275,6 +295,11 @@ CREATE TABLE Bericht4 (
     ErstellDatum        TEXT,
     Prüfername          TEXT COLLATE NOCASE,
     Firmenname          TEXT COLLATE NOCASE,
+    FirmaStraße         TEXT COLLATE NOCASE,
+    FirmaPLZ            TEXT COLLATE NOCASE,
+    FirmaOrt            TEXT COLLATE NOCASE,
+    FirmaTelefon        TEXT COLLATE NOCASE,
+    FirmaEMail          TEXT COLLATE NOCASE,
     Kunde               TEXT COLLATE NOCASE,
     Straße              TEXT COLLATE NOCASE,
     PLZ                 TEXT COLLATE NOCASE,
