@@ -3,7 +3,8 @@ say() { printf '== %s\n' "$*"; }
 fail() { printf '!! %s\n' "$*" >&2; exit 1; }
 
 packages=(g++ cmake ninja-build qt6-base-dev qt6-serialport-dev
-          libgl-dev libsqlitecpp-dev libsqlite3-dev fonts-dejavu-core
+          libgl-dev libsqlitecpp-dev libsqlite3-dev libkainjow-mustache-dev
+          fonts-dejavu-core
           libgtest-dev libbenchmark-dev)
 
 # Installs what is missing on a Debian 12; elsewhere says what it is.

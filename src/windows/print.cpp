@@ -1,0 +1,187 @@
+#include "windows/print.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QImage>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTextDocument>
+
+#include "platform/clock.h"
+#include "platform/fehler.h"
+
+namespace platform {
+
+namespace {
+
+// Laid out in dots of this resolution, whatever it is painted on; lower ones spoil the spacing of
+// letters.
+constexpr int resolution = 600; // dots per inch
+constexpr double dots(double millimetres) {
+    return millimetres / 25.4 * resolution;
+}
+constexpr double margin = 15;                                                             // mm
+constexpr double pageWidth = dots(210 - 2 * margin), pageHeight = dots(297 - 2 * margin); // of A4
+constexpr double gap = dots(3); // between head, body and foot
+
+constexpr auto styleSheet = "td, th { padding: 2px 4px; }"
+                            "th { font-weight: bold; text-align: left; }"
+                            "h1 { font-size: 16pt; margin: 0 0 4px 0; }"
+                            "h2 { font-size: 11pt; margin: 10px 0 4px 0; }"
+                            "p { margin: 0 0 4px 0; }"
+                            ".lines td, .lines th { border: 1px solid #808080; }"
+                            ".small { font-size: 7.5pt; }"
+                            ".big { font-size: 12pt; font-weight: bold; }";
+
+QFont typeface() {
+    QFont font("DejaVu Sans");
+    font.setPointSizeF(9);
+    // Ligatures would stand in the text of a PDF as letters that nobody searches for.
+    font.setLetterSpacing(QFont::PercentageSpacing, 100.01);
+    return font;
+}
+
+QPaintDevice *measure() {
+    static QImage sheet = [] {
+        QImage image(1, 1, QImage::Format_RGB32);
+        image.setDotsPerMeterX(qRound(resolution / 0.0254));
+        image.setDotsPerMeterY(qRound(resolution / 0.0254));
+        return image;
+    }();
+    return &sheet;
+}
+
+std::unique_ptr<QTextDocument> document(const QString &html, double height = -1) {
+    auto result = std::make_unique<QTextDocument>();
+    result->documentLayout()->setPaintDevice(measure());
+    result->setDocumentMargin(0);
+    result->setDefaultFont(typeface());
+    result->setDefaultStyleSheet(styleSheet);
+    result->setHtml(html);
+    result->setPageSize({pageWidth, height});
+    return result;
+}
+
+/// Takes what stands between the tags out of the text.
+QString takeOut(QString &html, const QString &tag) {
+    const QRegularExpression part('<' + tag + ">(.*?)</" + tag + '>',
+                                  QRegularExpression::DotMatchesEverythingOption);
+    const auto found = part.match(html);
+    html.remove(found.capturedStart(), found.capturedLength());
+    return found.captured(1);
+}
+
+[[noreturn]] void cannotPrint() {
+    throw Fehler(fehlernummer::PrinterError,
+                 {"Der Drucker nimmt nichts an. Bitte prüfen Sie, ob er eingeschaltet ist.",
+                  "The printer takes nothing. Please check whether it is switched on."});
+}
+
+} // namespace
+
+Report::Report(const QString &html, const QString &title) : mTitle(title) {
+    QString body = html;
+    mHead = takeOut(body, "header");
+    mFoot = takeOut(body, "footer");
+    mHeadHeight = mHead.isEmpty() ? 0 : document(mHead)->size().height() + gap;
+    mFootHeight = mFoot.isEmpty() ? 0 : document(mFoot)->size().height() + gap;
+    mBody = document(body, pageHeight - mHeadHeight - mFootHeight);
+}
+Report::~Report() = default;
+Report::Report(Report &&) noexcept = default;
+
+QString Report::text() const {
+    return mBody->toPlainText();
+}
+
+int Report::pages() const {
+    return mBody->pageCount();
+}
+
+void Report::paintPage(QPainter &painter, int page) const {
+    const auto part = [&](const QTextDocument &text, double top, const QRectF &clip) {
+        painter.save();
+        painter.translate(0, top);
+        QAbstractTextDocumentLayout::PaintContext context;
+        context.clip = clip;
+        context.palette.setColor(QPalette::Text, Qt::black);
+        painter.setClipRect(clip);
+        text.documentLayout()->draw(&painter, context);
+        painter.restore();
+    };
+    const auto numbered = [&](QString html) {
+        html.replace("@pages@", QString::number(pages()));
+        return document(html.replace("@page@", QString::number(page + 1)));
+    };
+    const double height = mBody->pageSize().height();
+    if (!mHead.isEmpty())
+        part(*numbered(mHead), 0, {0, 0, pageWidth, mHeadHeight});
+    part(*mBody, mHeadHeight - page * height, {0, page * height, pageWidth, height});
+    if (!mFoot.isEmpty())
+        part(*numbered(mFoot), pageHeight - mFootHeight + gap, {0, 0, pageWidth, mFootHeight});
+}
+
+void Report::paint(QPagedPaintDevice &device) const {
+    device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
+                                     QMarginsF(margin, margin, margin, margin),
+                                     QPageLayout::Millimeter));
+    QPainter painter;
+    if (!painter.begin(&device))
+        cannotPrint();
+    painter.scale(double(painter.device()->logicalDpiX()) / resolution,
+                  double(painter.device()->logicalDpiY()) / resolution);
+    for (int page = 0; page < pages(); ++page) {
+        if (page > 0 && !device.newPage())
+            cannotPrint();
+        paintPage(painter, page);
+    }
+    if (!painter.end())
+        cannotPrint();
+}
+
+QByteArray Report::pdf() const {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&buffer);
+        writer.setPdfVersion(QPagedPaintDevice::PdfVersion_A1b);
+        writer.setResolution(resolution);
+        writer.setTitle(mTitle);
+        writer.setCreator("torvena");
+        paint(writer);
+    }
+    return buffer.data();
+}
+
+void saveReport(const QByteArray &pdf, const QString &path) {
+    const QFileInfo file(path);
+    const auto refused = [](const QString &what) {
+        throw Fehler(
+            fehlernummer::PermissionDenied,
+            {what + " kann nicht geschrieben werden. Bitte prüfen Sie Ordner, Rechte und "
+                    "freien Platz.",
+             what + " cannot be written. Please check folder, permissions and free space."});
+    };
+    if (!QDir().mkpath(file.path()))
+        refused(file.path());
+    QSaveFile target(path);
+    target.setDirectWriteFallback(false);
+    if (!target.open(QIODevice::WriteOnly) || target.write(pdf) != pdf.size() || !target.flush())
+        refused(path);
+    if (file.exists()) {
+        const QDir kept(file.dir().filePath("ersetzt"));
+        const QString name = kept.filePath(
+            file.completeBaseName() + now().toString("_yyyy-MM-dd_HH-mm-ss-zzz.") + file.suffix());
+        if (!kept.mkpath(".") || !QFile::copy(path, name))
+            refused(name);
+    }
+    if (!target.commit())
+        refused(path);
+}
+
+} // namespace platform
