@@ -1,0 +1,32 @@
+// The pages of a printed protocol: which a protocol has, and how each is staged into a table of its
+// own, which holds one protocol at a time.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include "records/protokollinhalt.h"
+
+/// Their numbers are those of the PDF pages.
+enum class Berichtsseite { Deckblatt = 1, Messergebnisse = 2, Blutdruck = 3, SecControl = 4 };
+
+/// The stage table of a page.
+QString stufentabelle(Berichtsseite seite);
+
+/// Empties the stage table and fills it with the rows of the protocol, both or neither. `konform`:
+/// of the results page, whether it carries the statement of conformity. Raises what the store
+/// raises.
+void stufen(Berichtsseite seite, Bestand bestand, Schlüssel protokollID, bool konform = false);
+
+/// 1 medical, 2 stationary devices; nothing where head or specification are missing, or for any
+/// other text.
+std::int16_t geräteklasse(Bestand bestand, Schlüssel protokollID);
+
+// What the lists of the two report screens offer
+/// Date, three blanks, number, " - " and name; the newest first.
+QStringList arbeitsprotokolle();
+/// Number, " - " and name, of one customer.
+QStringList archivprotokolle(Schlüssel kundenID);
+/// Names of the customers with archived protocols.
+QStringList archivkunden();
+Schlüssel kundeMitNamen(const QString &name);
