@@ -116,6 +116,15 @@ class Gallery : public Workplace {
 
     Journey masterData() {
         const DemoNames names;
+        for (int number = 1; number <= 30; ++number)
+            gDatenbank.execute("INSERT INTO Kunden (Name) VALUES (?)",
+                               {QString("Praxis Nr. %1").arg(number, 2, 10, QChar('0'))});
+        press(frm::Desktop, "pbKunde");
+        co_await arrive(frm::Kunden);
+        picture("kunden-viele");
+        press(frm::Kunden, "pbAbbrechen");
+        co_await arrive(frm::Desktop);
+        gDatenbank.execute("DELETE FROM Kunden WHERE Name LIKE 'Praxis Nr.%'");
         press(frm::Desktop, "pbKunde");
         co_await arrive(frm::Kunden);
         co_await visited(frm::Kunden, "pbNeu", frm::NeuKunde, "neukunde", "pbexit");

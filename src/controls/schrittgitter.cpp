@@ -20,14 +20,13 @@ void Schrittgitter::verbinden(QTableView *gitter, std::vector<Spalte> spalten) {
 
 void Schrittgitter::beschriften() {
     std::vector<RecordsetModel::Spalte> columns;
-    for (const auto &[name, head, number] : mSpalten)
-        columns.push_back(
-            {name, inSprache(head), (number ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter});
+    for (const auto &[name, head, alignment] : mSpalten)
+        columns.push_back({name, inSprache(head), alignment});
     mModell->setSpalten(std::move(columns));
     QHeaderView *head = mGitter->horizontalHeader();
     head->setSectionResizeMode(QHeaderView::ResizeToContents);
     head->setStretchLastSection(true);
-    head->setHighlightSections(false); // bold heads would not fit their columns
+    head->setHighlightSections(false); // regular, whatever is chosen
 }
 
 void Schrittgitter::zeigen(const Recordset &schritte) {

@@ -2,6 +2,8 @@
 // either end stays on the last or first row.
 #pragma once
 
+#include <Qt>
+
 #include <vector>
 
 #include "platform/text.h"
@@ -15,14 +17,14 @@ class Schrittgitter {
     struct Spalte {
         const char *name; ///< column of the recordset
         platform::Text kopf;
-        bool zahl; ///< to the right
+        Qt::Alignment ausrichtung;
     };
     /// Number, speed, power, type.
     static inline const std::vector<Spalte> ordentlich{
-        {"Prüfschritt", {"Prüfschritt", "Test step"}, true},
-        {"Drehzahl", {"Drehzahl (1/min)", "Speed (1/min)"}, true},
-        {"Leistung", {"Leistung (W)", "Power (W)"}, true},
-        {"Messart", {"Messart", "Type"}, false},
+        {"Prüfschritt", {"Prüfschritt", "Test Step"}, Qt::AlignCenter},
+        {"Drehzahl", {"Drehzahl\n1/min", "Speed\nrpm"}, Qt::AlignRight | Qt::AlignVCenter},
+        {"Leistung", {"Leistung\nW", "Power\nW"}, Qt::AlignRight | Qt::AlignVCenter},
+        {"Messart", {"Messart", "Type"}, Qt::AlignLeft | Qt::AlignVCenter},
     };
 
     /// Called once, before everything else.

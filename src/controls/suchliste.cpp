@@ -56,10 +56,7 @@ QString Suchliste::text() const {
 void Suchliste::übernehmen(const QString &name) {
     const QScopedValueRollback own(mSelbst, true);
     mFeld->setEditText(name);
-    // Selected, so that typing starts another search; backwards, so that a long name shows its
-    // start.
-    const int letters = static_cast<int>(name.size());
-    mFeld->lineEdit()->setSelection(letters, -letters);
+    zumErsetzenMarkieren(mFeld->lineEdit()); // typing starts another search
     markieren(mModell->stringList().indexOf(name));
 }
 

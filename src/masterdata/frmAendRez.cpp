@@ -118,6 +118,7 @@ void frmÄndRez::zeigen() {
     mNeuerSchritt = false;
     fnc_SchrittAnzeigen();
     ui.cmbToleranz->setFocus();
+    zumErsetzenMarkieren(ui.cmbToleranz->lineEdit());
     msAltToleranz = ui.cmbToleranz->currentText();
     mGezeigt = true;
 }

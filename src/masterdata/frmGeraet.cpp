@@ -25,7 +25,7 @@ constexpr Beschriftung english[] = {
     {"lbIdentNr", "ID number:"},
     {"pbNeu", "&New ..."},
     {"pbchange", "&Edit ..."},
-    {"pbDelete", "&Delete ..."},
+    {"pbDelete", "&Delete"},
     {"pbok", "&OK"},
     {"pbexit", "&Cancel"},
 };

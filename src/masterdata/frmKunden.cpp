@@ -26,7 +26,7 @@ constexpr Beschriftung english[] = {
     {"lbOrt", "Town:"},
     {"pbNeu", "&New ..."},
     {"pbchange", "&Edit ..."},
-    {"pbDelete", "&Delete ..."},
+    {"pbDelete", "&Delete"},
     {"pbexit", "&OK"},
     {"pbAbbrechen", "&Cancel"},
 };

@@ -21,6 +21,7 @@ frmLöschGerät::frmLöschGerät() {
     ui.setupUi(this);
     verdrahten({.ziel = Löschziel::Gerät,
                 .liste = frm::Gerät,
+                .achtung = ui.anzAchtung,
                 .frage = ui.lbProtocollCount,
                 .ja = ui.pbYes,
                 .nein = ui.pbNo,

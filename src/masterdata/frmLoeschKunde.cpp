@@ -19,6 +19,7 @@ frmLöschKunde::frmLöschKunde() {
     ui.setupUi(this);
     verdrahten({.ziel = Löschziel::Kunde,
                 .liste = frm::Kunden,
+                .achtung = ui.anzAchtung,
                 .frage = ui.lbProtocollCount,
                 .ja = ui.pbok,
                 .nein = ui.pbCancel,

@@ -19,6 +19,7 @@ namespace {
 constexpr Beschriftung english[] = {
     {"", "Spezifikation KE"},
     {"lbBezTol", "Description"},
+    {"anzHinweis", "Select a specification or enter one with New"},
     {"lbName", "Name"},
     {"Label1", "MPE"},
     {"frLMess", "Power Measurement"},
@@ -111,6 +112,7 @@ void frmToleranzen::speicherbar(bool möglich) {
 
 void frmToleranzen::blockZeigen(bool sichtbar) {
     ui.details->setVisible(sichtbar);
+    ui.anzHinweis->setVisible(!sichtbar); // in its place
 }
 
 /// The picker stands on the row of mnToleranzID, or on none.
@@ -155,8 +157,6 @@ void frmToleranzen::fnc_Fill_CmbBezTol() try {
     for (int row = 0; row < mrsToleranzen.count(); ++row)
         ui.cmbBezTol->addItem(mrsToleranzen.at(row, 1).toString());
     ui.cmbBezTol->setCurrentIndex(-1);
-    ui.cmbBezTol->setPlaceholderText(
-        inSprache({"Auswählen, oder mit Neu anlegen", "Select one, or enter a new one with New"}));
 } catch (const Fehler &fehler) {
     fehlerBox("Tol01 - ", fehler);
 }
@@ -265,6 +265,7 @@ void frmToleranzen::pbEdit_Click() try {
     aktualisieren();
     mbNeu = false;
     felderZeigen();
+    zumErsetzenMarkieren(ui.txtTolBez);
 } catch (const Fehler &fehler) {
     fehlerBox("Tol07 - ", fehler);
 }

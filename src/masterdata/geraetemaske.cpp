@@ -1,5 +1,6 @@
 #include "masterdata/geraetemaske.h"
 
+#include "controls/eintrag.h"
 #include "controls/umbruch.h"
 #include "masterdata/frmGeraet.h"
 #include "session/auswahl.h"
@@ -56,7 +57,7 @@ void Gerätemaske::eintragen(const Gerätedaten &gerät) {
     ui.txtIdentNr->setText(gerät.identNr);
     mGerätID = gerät.gerätID;
     mVorher = eingabe();
-    ui.txtTyp->setCursorPosition(0); // a long name shows its start
+    zumErsetzenMarkieren(ui.txtTyp);
 }
 
 Gerätedaten Gerätemaske::eingabe() const {

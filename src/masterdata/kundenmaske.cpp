@@ -58,7 +58,7 @@ void Kundenmaske::eintragen(const Kundendaten &kunde) {
     ui.cmbOrt->setEditText(kunde.ort);
     mVorher.kundenID = kunde.kundenID;
     mVorher = eingabe();
-    ui.txtName->setCursorPosition(0); // a long name shows its start
+    zumErsetzenMarkieren(ui.txtName);
 }
 
 Kundendaten Kundenmaske::eingabe() const {

@@ -66,6 +66,7 @@ void Löschabfrage::verdrahten(const Aufbau &aufbau) {
 
 void Löschabfrage::Form_Load() {
     beschriften();
+    mAufbau.achtung->zeige(platform::Zeichen::Achtung, inSprache({"Achtung!", "Attention!"}));
     mAufbau.nein->setFocus();
     gefangen(mAufbau.fragen, [this] { fnc_FrageZeigen(); })();
 }

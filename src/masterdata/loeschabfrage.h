@@ -4,6 +4,7 @@
 #include "platform/text.h"
 #include "records/loeschung.h"
 #include "session/screens.h"
+#include "windows/zeichen.h"
 
 class QLabel;
 class QPushButton;
@@ -19,6 +20,7 @@ class Löschabfrage : public Screen {
     struct Aufbau {
         Löschziel ziel;
         frm liste; ///< a Listenmaske
+        platform::Bild *achtung;
         QLabel *frage;
         QPushButton *ja, *nein;
         platform::Text gelöscht; ///< told at the end

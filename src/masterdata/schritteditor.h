@@ -28,6 +28,7 @@ inline constexpr Beschriftung schrittEnglisch[] = {
     {"FrSchritt", "Test Step"},
     {"lbSchritt", "Test step:"},
     {"lbDrehzahl", "Spee&d:"},
+    {"lbDrehzahlEinheit", "rpm"},
     {"lbLeistung", "Po&wer:"},
     {"lbPrArt", "&Type:"},
     {"pbEinfuegen", "&Insert"},

@@ -299,6 +299,13 @@ class Stil : public QProxyStyle {
                 frame(painter, option->rect, schildGrund, schildGrund, 1, 6);
                 return;
             }
+            if (const auto *line = qstyleoption_cast<const QStyleOptionFrame *>(option);
+                line && line->frameShape == QFrame::HLine) {
+                painter->fillRect(
+                    QRect(line->rect.left(), line->rect.center().y(), line->rect.width(), 1),
+                    f.linie);
+                return;
+            }
             break;
         case CE_HeaderSection:
         case CE_HeaderEmptyArea: {

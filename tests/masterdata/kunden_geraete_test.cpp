@@ -33,7 +33,7 @@ JOURNEY_P(Editing, ACustomerIsEnteredAndChanged) {
         sql SELECT Name, Straße, PLZ, Ort FROM Kunden WHERE Name = 'Klinikum*' == KLINIKUM*||01|Großlohe
         lbName == KLINIKUM*
         # The session's customer: the desktop follows, the unit stays.
-        cmbKundenname = Herzzentrum Talbrück ; pbchange ; @ÄndKund ; txtName := Herzhaus
+        cmbKundenname = Herzzentrum Talbrück ; pbchange ; @ÄndKund ; txtName + Herzhaus    # in place of the name
         spoil UPDATE Kunden ; ? failure(1140) ; pbSave ; front == ÄndKund ; mend
         change UPDATE Kunden SET KundenID = 500 WHERE KundenID = 2    # gone meanwhile
         ? failed(1140, 3021) ; pbSave ; change UPDATE Kunden SET KundenID = 2 WHERE KundenID = 500
@@ -73,7 +73,7 @@ JOURNEY_P(Editing, AUnitIsEnteredAndChanged) {
         sql SELECT KundenID, Gerätetyp, Hersteller, SerienNr, IdentNr FROM Ergometer WHERE IdentNr = 'Ü''1' == 1|Velo|Radolin|S/1|Ü'1
         ? recipeNow no ; key Return ; @Desktop ; desktop == Klinikum Ährenfeld|Velo|Ü'1||
         # The session's unit: the desktop follows.
-        pbGerät ; @Gerät ; cmbIdent = ü'1 ; pbchange ; @ÄndGerät ; txtSerienNr == S/1 ; txtTyp := Velo 2
+        pbGerät ; @Gerät ; cmbIdent = ü'1 ; pbchange ; @ÄndGerät ; txtSerienNr == S/1 ; txtTyp + Velo 2
         txtIdentNr := AEH-001 ; ? identTaken ; pbSave ; focus txtIdentNr ; txtIdentNr := ü'1    # its own
         spoil UPDATE Ergometer ; ? failure(1150) ; pbSave ; front == ÄndGerät ; mend
         ? changed ; pbSave ; @Gerät ; txtTyp == Velo 2 ; desktop == Klinikum Ährenfeld|Velo 2|ü'1||

@@ -23,7 +23,7 @@ JOURNEY_P(Recipes, AreShownAndChosen) {
                   ->model()
                   ->headerData(1, Qt::Horizontal)
                   .toString(),
-              english() ? "Speed (1/min)" : "Drehzahl (1/min)");
+              english() ? "Speed\nrpm" : "Drehzahl\n1/min");
     co_await go(R"(
         DBGridRez rows~ ^1\|.*\+2\|.*\+10.70.400.Leistungsmessung  \+11.50.50.Drehzahlmessung  \+ | ^1\|.*\+2\|.*\+10.70.400.Power Measurement\+11.50.50.Speed Measurement\+
         cmbRezeptname := ; DBGridRez rows ; lbRezTol == ; cannot pbok

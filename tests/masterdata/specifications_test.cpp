@@ -92,7 +92,7 @@ JOURNEY_P(Specifications, FollowTheirStates) {
         pbNew ; txtTolProz = 5 ; txtMessverfahren ^ ; cannot pbSave ; key Return ; ? incomplete ; pbSave -> ---S [ 5//]  @pbSave
         pbNew ; txtMessverfahren ^ ; key Return ; ? new? no ; cmbBezTol ^ ; key Down -> N-DS [Alpha 5/3/2] Alpha @txtTolBez
         # saving and leaving in edit mode
-        pick 2 ; txtTolBez = Anders ; key Tab ; ? updated ; pbSave -> NED- [] Anders @cmbBezTol -> changed
+        pick 2 ; txtTolBez + Anders ; key Tab ; ? updated ; pbSave -> NED- [] Anders @cmbBezTol -> changed
         pick 2 ; txtTolBez = Anders ; key Tab ; ? updated ; pbSave ; ? delete? yes ; pbDelete -> N--- []  @cmbBezTol -> deleted
         pick 2 ; txtTolBez = Anders ; key Tab ; ? updated ; pbSave ; pick 1 -> N-D- [Alpha 5/3/2] Alpha @txtTolBez -> changed
         pick 2 ; ? leaveEdit? no ; pbok -> closed
