@@ -134,6 +134,13 @@ class Gallery : public Workplace {
         press(frm::Kunden, "pbexit");
         co_await arrive(frm::Gerät);
         co_await visited(frm::Gerät, "pbNeu", frm::NeuGerät, "neugerät", "pbexit");
+        press(frm::Gerät, "pbNeu");
+        co_await arrive(frm::NeuGerät);
+        form(frm::NeuGerät)
+            .showInfo(inSprache({"Noch kein Gerät vorhanden!", "No Units existent yet!"}));
+        picture("neugerät-erstes");
+        press(frm::NeuGerät, "pbexit");
+        co_await arrive(frm::Gerät);
         type(frm::Gerät, "cmbIdent", names.ident);
         co_await visited(frm::Gerät, "pbchange", frm::ÄndGerät, "ändgerät", "pbexit");
         co_await visited(frm::Gerät, "pbDelete", frm::LöschGerät, "löschgerät", "pbNo");

@@ -2,20 +2,16 @@
 
 #include <QPainter>
 #include <QRegularExpression>
-#include <QTextLayout>
 #include <QtMath>
 
-namespace {
-
-/// What is counted, behind the name of the record: that may hold numbers, too.
-QList<QTextLayout::FormatRange> mengen(const QString &text) {
+QList<QTextLayout::FormatRange> mengen(const QString &frage) {
     static const QRegularExpression menge(
         R"(\b(ein|a|one|\d+) (Geräte?|Protokolle?|units?|protocols?)\b)",
         QRegularExpression::UseUnicodePropertiesOption);
     QTextLayout::FormatRange fett;
     fett.format.setFontWeight(QFont::Bold);
     QList<QTextLayout::FormatRange> ranges;
-    auto found = menge.globalMatch(text, text.lastIndexOf('\'') + 1);
+    auto found = menge.globalMatch(frage, frage.lastIndexOf('\'') + 1);
     while (found.hasNext()) {
         const QRegularExpressionMatch match = found.next();
         fett.start = static_cast<int>(match.capturedStart());
@@ -24,8 +20,6 @@ QList<QTextLayout::FormatRange> mengen(const QString &text) {
     }
     return ranges;
 }
-
-} // namespace
 
 /// Lays the text out; answers its height.
 double Fragetext::setzen(QTextLayout &satz, int breite) const {

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <QLabel>
+#include <QTextLayout>
 
-class QTextLayout;
+/// Where in a question it is told what hangs on the record: each number with what it counts. The
+/// name of the record may hold numbers, too.
+QList<QTextLayout::FormatRange> mengen(const QString &frage);
 
 class Fragetext : public QLabel {
   public:

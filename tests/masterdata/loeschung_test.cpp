@@ -1,4 +1,5 @@
 // Deleting a customer or a unit: what is counted, what is asked, and what is left in every table.
+#include "masterdata/fragetext.h"
 #include "masterdata/loeschabfrage.h"
 #include "workshop.h"
 
@@ -126,6 +127,8 @@ TEST(DeletionQuestion, TellsWhatIsThere) {
         EXPECT_EQ(asked.german, full(c.out_(0), "/Wollen Sie alle zu diesem Kunden gehörenden "
                                                 "Daten jetzt löschen?"));
         EXPECT_EQ(asked.english, full(c.out_(1), "/Shall data of the customer be deleted now?"));
+        for (const QString &text : {asked.german, asked.english}) // both numbers stand out
+            EXPECT_EQ(mengen(text).size(), c.in == "0, 0" ? 0 : c.in_(1) == "0" ? 1 : 2) << c;
     }
     // Of a unit: protocols
     for (const Case &c : cases(R"(
@@ -135,7 +138,9 @@ TEST(DeletionQuestion, TellsWhatIsThere) {
         const Text asked = gerätefrage(c.in.toInt(), "O'Neill %1");
         EXPECT_EQ(asked.german, full(c.out_(0), "/Sollen diese Daten jetzt gelöscht werden?"));
         EXPECT_EQ(asked.english, full(c.out_(1), ""));
+        EXPECT_EQ(mengen(asked.english).size(), c.in == "0" ? 0 : 1) << c;
     }
+    EXPECT_TRUE(mengen(kundenfrage(0, 0, "Haus der 2 Geräte").german).empty());
 }
 
 } // namespace
