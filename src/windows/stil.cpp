@@ -182,12 +182,14 @@ void drawField(const QStyleOption &option, QPainter *painter, const QWidget *wid
     frame(painter, option.rect, ground, edge, focused(&option) || open ? 2 : 1, 3);
 }
 
-void drawArrow(const QRectF &rect, QPainter *painter, const QColor &color) {
+/// Points down, turned clockwise by so many degrees.
+void drawArrow(const QRectF &rect, QPainter *painter, const QColor &color, double turned = 0) {
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(color, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    const QPointF at = rect.center();
-    painter->drawPolyline(QPolygonF{at + QPointF(-4, -2), at + QPointF(0, 2), at + QPointF(4, -2)});
+    painter->translate(rect.center());
+    painter->rotate(turned);
+    painter->drawPolyline(QPolygonF{{-4, -2}, {0, 2}, {4, -2}});
     painter->restore();
 }
 
@@ -341,6 +343,21 @@ class Stil : public QProxyStyle {
             painter->setFont(bold(painter->font()));
             QProxyStyle::drawComplexControl(control, option, painter, widget);
             painter->restore();
+            return;
+        }
+        if (control == CC_ScrollBar) {
+            const auto part = [&](SubControl name) {
+                return subControlRect(CC_ScrollBar, option, name, widget);
+            };
+            const bool level = option->state & State_Horizontal;
+            const QColor color = enabled(option) ? inKraft->kante : inKraft->linie;
+            painter->fillRect(option->rect, inKraft->fenster);
+            drawArrow(part(SC_ScrollBarSubLine), painter, color, level ? 90 : 180);
+            drawArrow(part(SC_ScrollBarAddLine), painter, color, level ? -90 : 0);
+            frame(painter, QRectF(part(SC_ScrollBarSlider)).adjusted(3, 3, -3, -3), color, color, 1,
+                  3);
+            if (focused(option))
+                ring(painter, option->rect, inKraft->akzent);
             return;
         }
         const auto *box = qstyleoption_cast<const QStyleOptionComboBox *>(option);
