@@ -26,6 +26,10 @@
 #include "measure/frmNachStatNPK.h"
 #include "measure/frmStatMessen.h"
 #include "measure/frmVorStatNPK.h"
+#include "protocols/frmBericht.h"
+#include "protocols/frmBericht1.h"
+#include "protocols/frmBerichtSichern.h"
+#include "protocols/frmPrinterPDF.h"
 #include "protocols/frmProtokollNr.h"
 #include "protocols/frmProtokollNr_1.h"
 
@@ -57,4 +61,8 @@ void bindScreens() {
     bindScreen<frmMeldung>();
     bindScreen<frmProtokollNr>();
     bindScreen<frmProtokollNr_1>();
+    bindScreen<frmBericht>();
+    bindScreen<frmBericht1>();
+    bindScreen<frmBerichtSichern>();
+    bindScreen<frmPrinterPDF>();
 }

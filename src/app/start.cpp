@@ -13,6 +13,7 @@
 #include "session/sprache.h"
 #include "store/database.h"
 #include "windows/msgbox.h"
+#include "windows/preview.h"
 
 using namespace platform;
 
@@ -38,6 +39,19 @@ QString boxCaption(BoxAnswer answer) {
     return {};
 }
 
+PreviewTexts previewTexts() {
+    return {.print = inSprache({"&Drucken", "&Print"}),
+            .save = inSprache({"&Speichern ...", "&Save ..."}),
+            .close = inSprache({"S&chließen", "&Close"}),
+            .pages = inSprache({"&Alle Seiten", "&All Pages"}),
+            .width = inSprache({"&Breite", "&Width"}),
+            .larger = inSprache({"&Größer", "&Larger"}),
+            .smaller = inSprache({"&Kleiner", "S&maller"}),
+            .pdfFiles = inSprache({"PDF-Dateien", "PDF files"}),
+            .failed = inSprache({"Fehler", "Error"}),
+            .said = [](const Fehler &fehler) { return inSprache(fehler.text()); }};
+}
+
 /// What no handler took: told, and the program goes on.
 void reportUncaught(const std::exception &problem) {
     if (const auto *fehler = dynamic_cast<const Fehler *>(&problem))
@@ -58,6 +72,7 @@ void messungStillVerlassen() try {
 void programmStarten() {
     setUncaughtReporter(reportUncaught);
     setBoxCaptions(boxCaption);
+    setPreviewTexts(previewTexts);
     controllerVorbereiten();
     einlaufVorbereiten();
     bindScreens();
@@ -85,6 +100,7 @@ void programmAufräumen() {
     gDesktopAktiv = false;
     for (Timer *timer : {&Timer1, &tiDrehzahl, &tiEinlauf})
         timer->setEnabled(false);
+    closePreviews();
     closeAllScreens();
     MSComm1.setPortOpen(false);
     gDatenbank.close();

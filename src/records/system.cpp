@@ -26,6 +26,16 @@ void einlaufleistungSpeichern(double watt) {
     gDatenbank.execute("UPDATE System SET EinlW = ?", {watt});
 }
 
+Druckereinstellung druckereinstellung() {
+    const Recordset system = gDatenbank.open("SELECT DruckerPDF, PDFOrdner FROM System");
+    return {system[0].text(), system[1].text()};
+}
+
+void druckereinstellungSpeichern(const Druckereinstellung &einstellung) {
+    gDatenbank.execute("UPDATE System SET DruckerPDF = ?", {einstellung.drucker});
+    gDatenbank.execute("UPDATE System SET PDFOrdner = ?", {einstellung.ordner});
+}
+
 bool endprüfungFreigegeben() {
     try {
         const Recordset system = gDatenbank.open("SELECT Endprüfung FROM System");

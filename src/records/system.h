@@ -16,5 +16,13 @@ void systemLesen(SystemTitel *titel = nullptr);
 void einlaufzeitSpeichern(double zeit);
 void einlaufleistungSpeichern(double watt);
 
+/// Both empty where nothing was chosen.
+struct Druckereinstellung {
+    QString drucker; ///< that writes PDF files
+    QString ordner;  ///< below which they lie
+};
+Druckereinstellung druckereinstellung();
+void druckereinstellungSpeichern(const Druckereinstellung &einstellung);
+
 /// True when this installation shows reset and final test; false when the setting cannot be read.
 bool endprüfungFreigegeben();

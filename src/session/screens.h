@@ -52,6 +52,7 @@ enum class frm {
     Bericht,
     Bericht1,
     PrinterPDF,
+    BerichtSichern,
     Sort,
     DeleteExtended,
     // final test

@@ -55,7 +55,11 @@ inline bool gMessungLäuft = false;
 inline bool gStopMessung = false;
 inline bool gMessenAktiv = false;
 inline std::int16_t gBerichtAntwort = 0;
-inline Schlüssel gBerichtProtokoll = 0;
+inline Schlüssel gBerichtProtokoll = 0; ///< that is being printed; 0 outside
+inline QString gBerichtWahl;            ///< its name
+inline QString gDruckerPDF;             ///< the printer that writes PDF files
+inline QString gDruckerStandard;        ///< the one to return to
+inline QString gPDFOrdner;
 
 // The working standard: the last row of its calibration data
 inline QString gSeriennummer;

@@ -3,7 +3,7 @@
 INSERT INTO System
     (Firmenname, Produktname, Einlzeit, Einlzeit2, Sprache, EinlW, DruckerPDF, PDFOrdner, Version)
 VALUES
-    ('Prüfzentrum Torvena', 'torvena', 10, 10, 1, 60, '', '', '470');
+    ('Prüfzentrum Torvena', 'torvena', 10, 10, 1, 60, 'torvena PDF', '.', '470');
 
 INSERT INTO Interface (PortNr, Parameter) VALUES (1, '19200,N,8,1');
 INSERT INTO SecondInterface (PortNr, Parameter) VALUES (4, '4800,N,8,1');

@@ -1,0 +1,67 @@
+#include "protocols/frmBericht1.h"
+
+#include "platform/fehler.h"
+#include "session/session.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
+
+using namespace platform;
+
+frmBericht1::frmBericht1()
+    : Berichtsmaske({.bestand = Bestand::Archiv,
+                     .titel = {"Protokollverwaltung", "Protocol Administration"},
+                     .nummerAb = 0,
+                     .seitenNummerAb = 0,
+                     .stufenTag = {"1112 - ", "1113 - ", "1087 - ", "1086 - "},
+                     .klasseTag = "1114 - ",
+                     .druckTag = "1115 - "}) {
+    on(ui.cmbKunde, &QComboBox::activated, [this] { kundeGewählt(); });
+    onClick(ui.pbDelete, [this] { pbDelete_Click(); });
+    onClick(ui.pbDeleteExt, [] { form(frm::DeleteExtended).showModal(); });
+}
+
+void frmBericht1::Form_Load() {
+    Berichtsmaske::Form_Load();
+    ui.pbDelete->setEnabled(false);
+    ui.pbDeleteExt->setEnabled(exists(frm::DeleteExtended));
+}
+
+void frmBericht1::fnc_ProtokollListe() try {
+    const QStringList kunden = archivkunden();
+    mbKeineProtokolle = kunden.isEmpty();
+    ui.cmbKunde->addItems(kunden);
+    ui.cmbKunde->setCurrentIndex(kunden.size() == 1 ? 0 : -1);
+    if (kunden.size() == 1)
+        kundeGewählt();
+} catch (const Fehler &fehler) {
+    fehlerBox("1110 - ", fehler);
+}
+
+void frmBericht1::kundeGewählt() try {
+    const QStringList protokolle = archivprotokolle(kundeMitNamen(ui.cmbKunde->currentText()));
+    eintragen(protokolle, protokolle.size() == 1);
+} catch (const Fehler &fehler) {
+    fehlerBox("1111 - ", fehler);
+}
+
+void frmBericht1::auswahlGeändert() {
+    ui.pbDelete->setEnabled(ui.OKButton->isEnabled());
+}
+
+void frmBericht1::pbDelete_Click() try {
+    const QString eintrag = ui.cmbBericht->currentText();
+    if (meldung({"Wollen Sie dieses Protokoll wirklich löschen?",
+                 "Do you really want to delete the protocol?"},
+                YesNo, {"Protokoll " + eintrag + " löschen", "Delete Protocol " + eintrag}) != Yes)
+        return;
+    const Schlüssel protokoll = nummer(0);
+    kopfLöschen(Bestand::Archiv, protokoll);
+    for (const Inhalt inhalt : alleInhalte)
+        inhaltLöschen(Bestand::Archiv, inhalt, protokoll);
+    gBerichtProtokoll = 0;
+    kundeGewählt();
+    if (ui.cmbBericht->count() == 0)
+        seitenSperren();
+} catch (const Fehler &fehler) {
+    fehlerBox("1116 - ", fehler);
+}

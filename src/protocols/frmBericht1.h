@@ -1,0 +1,19 @@
+// Prints and deletes archived protocols.
+#pragma once
+
+#include "protocols/berichtsmaske.h"
+
+class frmBericht1 : public Berichtsmaske {
+  public:
+    static constexpr frm id = frm::Bericht1;
+    frmBericht1();
+
+  protected:
+    void Form_Load() override;
+    void fnc_ProtokollListe() override;
+    void auswahlGeändert() override;
+
+  private:
+    void kundeGewählt();
+    void pbDelete_Click();
+};

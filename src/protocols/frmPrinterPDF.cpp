@@ -1,0 +1,79 @@
+#include "protocols/frmPrinterPDF.h"
+
+#include <QDir>
+#include <QHeaderView>
+
+#include "platform/fehler.h"
+#include "records/system.h"
+#include "session/sprache.h"
+#include "windows/msgbox.h"
+#include "windows/printers.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr Beschriftung english[] = {
+    {"", "PDF Printer"},
+    {"lbDrucker", "&Printer:"},
+    {"lbOrdner", "&Folder:"},
+    {"pbexit", "&Cancel"},
+};
+
+} // namespace
+
+frmPrinterPDF::frmPrinterPDF() {
+    ui.setupUi(this);
+    mOrdner.setFilter(QDir::Dirs | QDir::NoDotAndDotDot);
+    mOrdner.setOption(QFileSystemModel::DontUseCustomDirectoryIcons);
+    ui.Dir1->setModel(&mOrdner);
+    ui.Dir1->header()->hide();
+    for (const int spalte : {1, 2, 3})
+        ui.Dir1->hideColumn(spalte);
+    on(ui.Dir1->selectionModel(), &QItemSelectionModel::currentChanged, [this] {
+        ui.laOrdner->setText(QDir::toNativeSeparators(mOrdner.filePath(ui.Dir1->currentIndex())));
+    });
+    on(ui.Combo1, &QComboBox::activated, [this] { druckerZeigen(ui.Combo1->currentText()); });
+    onClick(ui.pbok, [this] { pbok_Click(); });
+    onClick(ui.pbexit, [this] { unload(); });
+    onEscape([this] { unload(); });
+}
+
+void frmPrinterPDF::Form_Load() try {
+    beschriftungenSetzen(ui, *this, english);
+    const Druckereinstellung einstellung = druckereinstellung();
+    mOrdner.setRootPath(QDir::rootPath());
+    ordnerWählen(einstellung.drucker.isEmpty() ? QString() : einstellung.ordner);
+    ui.Combo1->addItems(printers());
+    ui.Combo1->setCurrentIndex(ui.Combo1->findText(einstellung.drucker, Qt::MatchExactly));
+    druckerZeigen(ui.Combo1->currentText());
+    if (!einstellung.drucker.isEmpty() && ui.Combo1->currentIndex() < 0) {
+        meldung({"Bisheriger PDF-Drucker wurde entfernt! - Gibt es nicht mehr.",
+                 "PDF printer has been removed or is not available anymore."},
+                Critical, {"Meldung", "PDF printer"});
+    }
+} catch (const Fehler &fehler) {
+    fehlerBox("frmPDF01 - ", fehler);
+}
+
+void frmPrinterPDF::druckerZeigen(const QString &name) {
+    ui.laCurrentPrinter->setText(
+        name.isEmpty()
+            ? inSprache({"Kein PDF-Drucker ausgewählt!", "No PDF printer selected! "})
+            : inSprache({"Aktueller PDF-Drucker:   ", "Current PDF printer:   "}) + name);
+}
+
+void frmPrinterPDF::ordnerWählen(const QString &ordner) {
+    const QModelIndex stelle = mOrdner.index(QDir(ordner.isEmpty() ? "." : ordner).absolutePath());
+    ui.Dir1->setCurrentIndex(stelle);
+    ui.Dir1->scrollTo(stelle, QAbstractItemView::PositionAtCenter);
+}
+
+void frmPrinterPDF::pbok_Click() try {
+    const QString ordner = mOrdner.filePath(ui.Dir1->currentIndex());
+    druckereinstellungSpeichern({ui.Combo1->currentText(), ordner});
+    druckerZeigen(ui.Combo1->currentText());
+    unload();
+} catch (const Fehler &fehler) {
+    fehlerBox("frmPDF01 - ", fehler);
+}
