@@ -78,6 +78,7 @@ QString layoutname(Berichtsseite seite, std::int16_t klasse) {
 
 Berichtsmaske::Berichtsmaske(const Art &art) : mArt(art) {
     ui.setupUi(this);
+    ui.cmbBericht->setCompleter(nullptr); // what is typed is what counts
     on(ui.cmbBericht, &QComboBox::currentTextChanged, [this] {
         fnc_SeitenFreigeben();
         ui.OKButton->setEnabled(!ui.cmbBericht->currentText().isEmpty());

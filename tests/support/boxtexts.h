@@ -17,6 +17,17 @@ namespace boxflags {
 using namespace platform;
 // clang-format off
 inline constexpr KnownBox boxTexts[] = {
+    // reports
+    {"noProtocols", Exclamation, "Meldung", "Message", "Es existieren keine Protokolle!", "There are no protocols!"},
+    {"noSuchReport", Exclamation, "Eingabefehler", "Input Error", "Dieses Protokoll existiert nicht!", "This protocol does not exist!"},
+    {"archive?", YesNo + Question, "Druck des Protokolls", "Printing The Protocol", "Kann das Protokoll archiviert werden?", "Is the protocol o.k.?"},
+    {"deleteReport?", YesNo, "Protokoll %1 löschen", "Delete Protocol %1", "Wollen Sie dieses Protokoll wirklich löschen?", "Do you really want to delete the protocol?"},
+    {"noFolder", Exclamation, "Achtung", "Attention", "Kein PDF-Ordner angegeben!\nBitte ändern Sie die Einstellungen!", "No folder selected!"},
+    {"page1", Information, "Sichern", "Save", "Berichtsseite Deckblatt wird erstellt!", "'Cover Sheet' created!"},
+    {"page2", Information, "Sichern", "Save", "Berichtsseite Messergebnisse wird erstellt!", "'Measuring Results' created!"},
+    {"page3", Information, "Sichern", "Save", "Berichtsseite Blutdruck wird erstellt!", "'Blood Pressure' created!"},
+    {"page4", Information, "Sichern", "Save", "Berichtsseite STK wird erstellt!", "'EST' created!"},
+    {"printerGone", Critical, "Meldung", "PDF printer", "Bisheriger PDF-Drucker wurde entfernt! - Gibt es nicht mehr.", "PDF printer has been removed or is not available anymore."},
     // failures
     {"failure", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 - …", "ERROR %1 - …"},
     {"failureAt", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1- …", "ERROR %1- …"},

@@ -51,6 +51,8 @@ void Workshop::forgetSession() {
     gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
     gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
     gEinlaufzeit = gEinlaufLeistung = 0;
+    gBerichtProtokoll = 0;
+    gBerichtAntwort = 0;
     gPrüfer.clear();
     gProduktTitel.clear();
     gSeriennummer.clear();
@@ -135,8 +137,10 @@ std::pair<KnownBox, QString> known(const QString &written) {
 
 void Workshop::expectKnown(const QString &key, int answer, std::function<void()> meanwhile) {
     const auto [box, text] = known(key);
-    boxes.expect(text, inSprache({box.title, box.titleEnglish}), box.flags, answer,
-                 std::move(meanwhile));
+    QString title = inSprache({box.title, box.titleEnglish});
+    if (key.contains('('))
+        title.replace("%1", key.section('(', 1).chopped(1));
+    boxes.expect(text, title, box.flags, answer, std::move(meanwhile));
 }
 
 void Workshop::allowKnown(const QString &key, int answer) {
