@@ -204,6 +204,16 @@ class Gallery : public Workplace {
         co_await opened(frm::Einlaufen, "einlaufen");
         co_await opened(frm::Meldung1, "meldung1");
         co_await opened(frm::ProtokollNr_1, "protokollnr_1");
+        co_await opened(frm::Bericht, "bericht");
+        form(frm::Bericht1).show();
+        co_await arrive(frm::Bericht1);
+        control<QComboBox>(frm::Bericht1, "cmbKunde")->setCurrentIndex(0);
+        Q_EMIT control<QComboBox>(frm::Bericht1, "cmbKunde")->activated(0);
+        control<QComboBox>(frm::Bericht1, "cmbBericht")->setCurrentIndex(0);
+        picture("bericht1");
+        form(frm::Bericht1).unload();
+        co_await opened(frm::PrinterPDF, "printerpdf");
+        co_await opened(frm::BerichtSichern, "berichtsichern");
         gMessStatus = Messstatus::Ruhe; // that dialog was left without a protocol
         gDesktopFolge = {};
 

@@ -33,6 +33,9 @@ frmPrinterPDF::frmPrinterPDF() {
     on(ui.Dir1->selectionModel(), &QItemSelectionModel::currentChanged, [this] {
         ui.laOrdner->setText(QDir::toNativeSeparators(mOrdner.filePath(ui.Dir1->currentIndex())));
     });
+    on(&mOrdner, &QFileSystemModel::directoryLoaded, [this] { // the way to the folder, step by step
+        ui.Dir1->scrollTo(ui.Dir1->currentIndex(), QAbstractItemView::PositionAtCenter);
+    });
     on(ui.Combo1, &QComboBox::activated, [this] { druckerZeigen(ui.Combo1->currentText()); });
     onClick(ui.pbok, [this] { pbok_Click(); });
     onClick(ui.pbexit, [this] { unload(); });
@@ -66,7 +69,6 @@ void frmPrinterPDF::druckerZeigen(const QString &name) {
 void frmPrinterPDF::ordnerWählen(const QString &ordner) {
     const QModelIndex stelle = mOrdner.index(QDir(ordner.isEmpty() ? "." : ordner).absolutePath());
     ui.Dir1->setCurrentIndex(stelle);
-    ui.Dir1->scrollTo(stelle, QAbstractItemView::PositionAtCenter);
 }
 
 void frmPrinterPDF::pbok_Click() try {
