@@ -23,6 +23,8 @@
 #include "store/database.h"
 #include "store/sqltext.h"
 #include "windows/msgbox.h"
+#include "windows/waiting.h"
+#include "windows/zeichen.h"
 
 using namespace platform;
 
@@ -44,6 +46,10 @@ frmDesktop::frmDesktop()
                         normalUndHebelarmZeigen();
                     }) {
     ui.setupUi(this);
+    ui.pbMotaus->setIcon(haltIcon());
+    mWeg = {{Station::Kunde, ui.pbKunde},     {Station::Gerät, ui.pbGerät},
+            {Station::Rezept, ui.pbRezept},   {Station::Drehrichtung, ui.pbDrehR},
+            {Station::MotorEin, ui.pbMotein}, {Station::Messen, ui.pbMessen}};
     verdrahten();
     enterMotorfenster(*this);
     setAuswahlListener([this] { auswahlZeigen(); }, [this] { DesktopButton_Freigeben(); });
@@ -163,16 +169,24 @@ void frmDesktop::DesktopButton_Freigeben() {
         mKorrekturFehlt = false;
         infoZeigen();
     }
+    wegZeigen();
 }
 
 void frmDesktop::setMoteinEnabled(bool enabled) {
     ui.pbMotein->setEnabled(enabled && !gMotorEin);
+    wegZeigen();
+}
+
+void frmDesktop::setDrehREnabled(bool enabled) {
+    ui.pbDrehR->setEnabled(enabled);
+    wegZeigen();
 }
 
 void frmDesktop::setMessenEnabled(bool enabled) {
     messenFreigeben(enabled);
     mKorrekturFehlt = !enabled;
     infoZeigen();
+    wegZeigen();
 }
 
 void frmDesktop::messenFreigeben(bool frei) {
@@ -186,10 +200,47 @@ void frmDesktop::spracheSetzen(std::int16_t sprache) {
     infoZeigen();
 }
 
+Wegstand frmDesktop::wegstand() const {
+    const Auswahl &wahl = auswahl();
+    return {.kunde = !wahl.kunde.isEmpty(),
+            .gerät = !wahl.gerätID.isEmpty(),
+            .rezept = !wahl.rezept.isEmpty(),
+            .drehrichtung = gDrehrichtung != 0,
+            .dreht = gMotorEin,
+            .eingelaufen = gEingelaufen};
+}
+
+// The one button that the work goes on with waits for the operator.
+void frmDesktop::wegZeigen() {
+    std::set<Station> bedienbar;
+    for (const auto &[station, knopf] : mWeg) {
+        if (knopf->isEnabled())
+            bedienbar.insert(station);
+    }
+    const auto nächste = nächsterSchritt(wegstand(), bedienbar);
+    for (const auto &[station, knopf] : mWeg)
+        setWaiting(knopf, station == nächste);
+}
+
+// Left where nothing is to be done any more, the keyboard goes on with the work.
+void frmDesktop::tastaturFühren() {
+    QPushButton *wartet = nullptr;
+    bool weiter = false;
+    for (const auto &[station, knopf] : mWeg) {
+        weiter = weiter || (knopf == focusWidget() && erledigt(station, wegstand()));
+        if (isWaiting(knopf))
+            wartet = knopf;
+    }
+    if (wartet && weiter)
+        wartet->setFocus();
+}
+
 void frmDesktop::Form_Activate() {
     datumZeigen(datumText(now().date()));
     if (gMessStatus == Messstatus::Ende || gMessStatus == Messstatus::Verweigert)
         ui.pbDrehR->setEnabled(false);
+    wegZeigen();
+    tastaturFühren();
     switch (std::exchange(gDesktopFolge, Desktopfolge::Nichts)) {
     case Desktopfolge::Gerät:
         mnuGerät_Click();

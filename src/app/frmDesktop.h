@@ -2,6 +2,9 @@
 // else. Screens report back through session variables, which the activation here reads.
 #pragma once
 
+#include <map>
+
+#include "app/arbeitsweg.h"
 #include "app/seriennummer.h"
 #include "link/motorbedienung.h"
 #include "session/motorfenster.h"
@@ -22,14 +25,16 @@ class frmDesktop : public Screen, public Motorfenster {
     // Motorfenster
     void setMoteinEnabled(bool enabled) override;
     void setMotausEnabled(bool enabled) override { ui.pbMotaus->setEnabled(enabled); }
-    void setDrehREnabled(bool enabled) override { ui.pbDrehR->setEnabled(enabled); }
+    void setDrehREnabled(bool enabled) override;
     void focusMotein() override { ui.pbMotein->setFocus(); }
     void focusMotaus() override { ui.pbMotaus->setFocus(); }
     void setMessenEnabled(bool enabled) override;
-    void showDrehrichtung(const QString &wort) override { ui.lbDrehrichtung->setText(wort); }
-    void showEinlauf(const QString &rest) override { ui.lbEinlauf->setText(rest); }
+    void showDrehrichtung(const QString &wort) override;
+    void showEinlauf(const QString &rest) override;
     QString drehrichtung() const override { return ui.lbDrehrichtung->text(); }
     void showMotorInfo(const QString &text) override;
+    void showMotorEin(const QString &text) override;
+    void showWelle() override;
     void enableFront() override { enable(); }
     void disableFront() override { disable(); }
     void focusBeenden() override { ui.pbBeenden->setFocus(); }
@@ -48,6 +53,10 @@ class frmDesktop : public Screen, public Motorfenster {
     void systemNachlesen();
     void messenFreigeben(bool frei);
     void infoZeigen();
+    void motorbilderZeigen();
+    Wegstand wegstand() const;
+    void wegZeigen();
+    void tastaturFühren();
     void normalUndHebelarmZeigen();
     void auswahlZeigen();
     void spracheSetzen(std::int16_t sprache);
@@ -68,6 +77,8 @@ class frmDesktop : public Screen, public Motorfenster {
     Motorbedienung mMotor;
     Seriennummer mSeriennummer;
     int mAntwort = 0; ///< to the question whether the program shall end
+    std::map<Station, QPushButton *> mWeg;
     QString mMotorInfo;
+    bool mMeldetEin = false;      ///< the line tells that the motor is switched on
     bool mKorrekturFehlt = false; ///< the zero-point correction failed: measuring is locked
 };

@@ -1,12 +1,14 @@
 // What the main window shows: selection, standard, lever arm, motor, in either language.
 #include "app/frmDesktop.h"
 
+#include "link/motorlampe.h"
 #include "platform/clock.h"
 #include "records/normal.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/sqltext.h"
+#include "windows/stil.h"
 
 using namespace platform;
 
@@ -56,7 +58,7 @@ constexpr Beschriftung english[] = {
     {"pbDrehR", "&Direction"},
     {"pbMotein", "Motor O&N"},
     {"pbMotaus", "Motor O&FF"},
-    {"FrMessen", "Measuring and Protocols"},
+    {"FrMessen", "Measuring And Protocols"},
     {"pbMessen", "&Start Measuring"},
     {"pbProtokoll", "Pr&otocol"},
     {"pbBlutdruck", "&Blood Pressure"},
@@ -73,15 +75,17 @@ void frmDesktop::normalUndHebelarmZeigen() {
     const QDate heute = now().date();
     ui.ProgressBar1->setValue(hebelarmRest(gHebelarmDatum, gHebelarmFällig, heute));
     beschriften();
-    QPalette palette;
-    if (heute > gHebelarmFällig)
-        palette.setColor(QPalette::WindowText, QColor(255, 0, 0));
-    ui.FrHebelarm->setPalette(palette);
+    const bool überfällig = heute > gHebelarmFällig;
+    setTon(ui.FrHebelarm, überfällig ? Ton::Alarm : Ton::Keiner);
+    setTon(ui.ProgressBar1, überfällig ? Ton::Alarm : Ton::Keiner);
+    ui.anzHebelarm->setVisible(überfällig);
 }
 
 void frmDesktop::beschriften() {
     beschriftungenSetzen(ui, *this, english);
     setCaption(gProduktTitel);
+    ui.anzHebelarm->zeige(Zeichen::Achtung, inSprache({"überfällig", "overdue"}));
+    motorbilderZeigen();
     if (!spracheGewählt())
         return;
     normalZeigen(gNKGerätetyp + " SerienNr. " + gSeriennummer);
@@ -103,7 +107,36 @@ void frmDesktop::auswahlZeigen() {
 
 void frmDesktop::showMotorInfo(const QString &text) {
     mMotorInfo = text;
+    mMeldetEin = false;
     infoZeigen();
+}
+
+void frmDesktop::showMotorEin(const QString &text) {
+    showMotorInfo(text);
+    mMeldetEin = true;
+}
+
+void frmDesktop::showWelle() {
+    if (!gMotorEin && mMeldetEin)
+        showMotorInfo({});
+    motorbilderZeigen();
+    wegZeigen();
+}
+
+void frmDesktop::showDrehrichtung(const QString &wort) {
+    ui.lbDrehrichtung->setText(wort);
+    motorbilderZeigen();
+    wegZeigen();
+}
+
+void frmDesktop::showEinlauf(const QString &rest) {
+    ui.lbEinlauf->setText(rest);
+    wegZeigen();
+}
+
+void frmDesktop::motorbilderZeigen() {
+    motorZeigen(*ui.anzMotor);
+    richtungZeigen(*ui.anzDrehrichtung);
 }
 
 void frmDesktop::infoZeigen() {

@@ -1,9 +1,15 @@
 #include "app/frmMotorDrehR.h"
 
+#include <QMouseEvent>
+
 #include "session/motorfenster.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
+#include "windows/stil.h"
+#include "windows/zeichen.h"
+
+using namespace platform;
 
 namespace {
 
@@ -41,6 +47,8 @@ void frmMotorDrehR::Form_Load() {
     ui.obLinks->setAutoExclusive(true);
     ui.laLinks->setEnabled(false);
     ui.laRechts->setEnabled(false);
+    bildZeigen(*ui.laLinks, *ui.obLinks, *ui.obRechts);
+    bildZeigen(*ui.laRechts, *ui.obRechts, *ui.obLinks);
     ui.obLinks->setFocus();
 }
 
@@ -55,6 +63,25 @@ void frmMotorDrehR::Form_Unload() {
         gDrehrichtung = mVorher;
     }
     motorfenster().enableFront();
+}
+
+// In full colour until the other one is chosen.
+void frmMotorDrehR::bildZeigen(Bild &bild, const QRadioButton &eigene, const QRadioButton &andere) {
+    bild.zeige(
+        [&andere, rechts = &eigene == ui.obRechts](QPainter &painter, const QRectF &rect) {
+            drehpfeilMalen(painter, rect, rechts,
+                           andere.isChecked() ? farben().gesperrt : farben().text);
+        },
+        eigene.text().remove('&'));
+}
+
+// On a picture it chooses what the picture stands for.
+void frmMotorDrehR::mousePressEvent(QMouseEvent *event) {
+    const QWidget *bild = childAt(event->position().toPoint());
+    if (usable() && bild && (bild == ui.laLinks || bild == ui.laRechts))
+        (bild == ui.laLinks ? ui.obLinks : ui.obRechts)->click();
+    else
+        Screen::mousePressEvent(event);
 }
 
 void frmMotorDrehR::wählen(std::int16_t richtung) {
@@ -89,7 +116,7 @@ void frmMotorDrehR::pbAbbrechen_Click() {
     meldung({"Sie haben keine Drehrichtung gewählt!\r\nDer Motor kann nicht eingeschaltet werden.",
              "Please select a direction of rotation for the motor!\r\n"
              "It is not possible to switch the motor on."},
-            platform::Exclamation, {"Meldung", "Message"});
+            Exclamation, {"Meldung", "Message"});
     gMessenFreigabe = false;
     unload();
 }

@@ -13,9 +13,11 @@ class frmMotorDrehR : public Screen {
     void Form_Load() override;
     void Form_Activate() override;
     void Form_Unload() override;
+    void mousePressEvent(QMouseEvent *event) override;
 
   private:
     void wählen(std::int16_t richtung);
+    void bildZeigen(platform::Bild &bild, const QRadioButton &eigene, const QRadioButton &andere);
     void pbok_Click();
     void pbAbbrechen_Click();
 

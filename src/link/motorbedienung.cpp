@@ -17,7 +17,7 @@ bool Motorbedienung::ein() {
     mFenster.setDrehREnabled(false);
     mFenster.disableFront();
     const auto wieder = qScopeGuard([this] { mFenster.enableFront(); });
-    mFenster.showMotorInfo(inSprache({"Motor wird eingeschaltet", "Motor is switched on"}));
+    mFenster.showMotorEin(inSprache({"Motor wird eingeschaltet", "Motor is switched on"}));
     if (fnc_BefehlSenden("E", gDrehrichtung, "60")) {
         mFenster.focusMotaus(); // left alone it would fall on the button that ends the program
         einlaufStarten();

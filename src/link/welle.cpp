@@ -6,11 +6,12 @@
 namespace {
 
 void setzen(bool dreht) {
-    if (gMotorEin == dreht)
-        return;
-    gMotorEin = dreht;
-    motorfenster().setMoteinEnabled(!dreht);
-    motorfenster().setMotausEnabled(dreht);
+    if (gMotorEin != dreht) {
+        gMotorEin = dreht;
+        motorfenster().setMoteinEnabled(!dreht);
+        motorfenster().setMotausEnabled(dreht);
+    }
+    welleZeigen();
 }
 
 } // namespace

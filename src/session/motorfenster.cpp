@@ -44,3 +44,8 @@ void messenSperren() {
     for (Motorfenster *fenster : entered)
         fenster->setMessenEnabled(false);
 }
+
+void welleZeigen() {
+    for (Motorfenster *fenster : entered)
+        fenster->showWelle();
+}

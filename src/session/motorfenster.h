@@ -23,6 +23,10 @@ class Motorfenster {
     virtual QString drehrichtung() const { return {}; }
     /// The line that says what the motor does.
     virtual void showMotorInfo(const QString &) {}
+    /// The same line, telling that the motor is switched on: the next confirmed stop empties it.
+    virtual void showMotorEin(const QString &) {}
+    /// A speed or a stop was confirmed: gMotorEin says whether the shaft may be turning.
+    virtual void showWelle() {}
     virtual void enableFront() {}
     virtual void disableFront() {}
     /// Takes the keyboard after a measurement, on the button that leaves.
@@ -41,3 +45,4 @@ void leaveMotorfenster(Motorfenster &fenster);
 void messenSperren();
 void drehrichtungZeigen(const QString &wort);
 void einlaufZeigen(const QString &rest);
+void welleZeigen();

@@ -57,7 +57,7 @@ const Farben dunkel{.fenster = "#232629",
 const Farben *inKraft = &hell;
 
 constexpr auto tonName = "ton";
-constexpr const char *tonWords[] = {"", "blass", "alarm", "da", "fehlt"}; // of Ton
+constexpr const char *tonWords[] = {"", "blass", "alarm", "da", "fehlt", "tafel"}; // of Ton
 constexpr auto freiName = "freeInput";
 
 QPalette palette(const Farben &f) {
@@ -110,6 +110,7 @@ void colour(QWidget *widget) {
     case Ton::Da:
         text(bereitGrün);
         break;
+    case Ton::Tafel:
     case Ton::Keiner:
         break;
     }
@@ -300,6 +301,9 @@ class Stil : public QProxyStyle {
             if (const Ton ton = tonOf(widget); ton == Ton::Da || ton == Ton::Fehlt) {
                 frame(painter, option->rect, schildGrund, schildGrund, 1, 6);
                 return;
+            } else if (ton == Ton::Tafel) {
+                frame(painter, option->rect, f.feld, f.akzent, 2, 0);
+                return;
             }
             if (const auto *line = qstyleoption_cast<const QStyleOptionFrame *>(option);
                 line && line->frameShape == QFrame::HLine) {
@@ -319,7 +323,9 @@ class Stil : public QProxyStyle {
             return;
         }
         case CE_ProgressBarGroove:
-            frame(painter, option->rect, f.feld, f.kante, 1, 2);
+            tonOf(widget) == Ton::Alarm
+                ? frame(painter, option->rect, f.schlechtGrund, f.schlecht, 2, 2)
+                : frame(painter, option->rect, f.feld, f.kante, 1, 2);
             return;
         case CE_ProgressBarContents:
             if (const auto *bar = qstyleoption_cast<const QStyleOptionProgressBar *>(option)) {

@@ -26,8 +26,8 @@ const Farben &farben();
 inline constexpr QRgb wartetGrund = qRgb(192, 192, 255), wartetKante = qRgb(0x3a, 0x3a, 0xb8);
 inline constexpr QRgb freiGrund = qRgb(255, 224, 192), freiKante = qRgb(0xa8, 0x5a, 0);
 inline constexpr QRgb alarmRot = qRgb(255, 0, 0), bereitGrün = qRgb(0, 255, 0);
-/// The ground on which the bright red and the bright green are read.
-inline constexpr QRgb schildGrund = qRgb(32, 32, 32);
+/// The ground on which the bright red and the bright green are read, and a sign beside them.
+inline constexpr QRgb schildGrund = qRgb(0, 0, 0), schildZeichen = qRgb(255, 255, 255);
 
 /// Takes the style and its palette for all windows: light or dark as the system's windows are.
 /// Before the first window.
@@ -47,6 +47,7 @@ enum class Ton {
     Alarm, ///< overdue: the title of a frame in red and bold, a bar in the colour of failure
     Da,    ///< a badge on dark ground, in green
     Fehlt, ///< a badge on dark ground, in red
+    Tafel, ///< a frame that is a whole window: ground of a field, with an edge of its own
 };
 void setTon(QWidget *widget, Ton ton);
 

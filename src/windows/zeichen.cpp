@@ -2,6 +2,7 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 
 #include <cmath>
 #include <numbers>
@@ -37,6 +38,25 @@ void mark(QPainter &painter, bool question) {
         painter.drawLine(QPointF(50, 38), QPointF(50, 66));
     }
     painter.drawPoint(QPointF(50, 82));
+}
+
+void stroke(QPainter &painter, Zeichen zeichen) {
+    if (zeichen == Zeichen::Gut) {
+        painter.drawPolyline(QPolygonF{{27, 52}, {44, 69}, {74, 34}});
+        return;
+    }
+    painter.drawLine(QPointF(30, 30), QPointF(70, 70));
+    painter.drawLine(QPointF(70, 30), QPointF(30, 70));
+}
+
+QPixmap haltBild(const QColor &farbe, double dichte) {
+    constexpr int side = 16;
+    QPixmap pixmap(QSize(side, side) * dichte);
+    pixmap.setDevicePixelRatio(dichte);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    haltMalen(painter, QRectF(1, 1, side - 2, side - 2), farbe);
+    return pixmap;
 }
 
 } // namespace
@@ -79,13 +99,12 @@ void zeichenMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen) {
         painter.drawEllipse(QRectF(2, 2, 96, 96));
         painter.setPen(line);
         painter.setBrush(Qt::NoBrush);
-        painter.drawPolyline(QPolygonF{{27, 52}, {44, 69}, {74, 34}});
+        stroke(painter, zeichen);
         break;
     case Zeichen::Schlecht:
         painter.drawRoundedRect(QRectF(4, 4, 92, 92), 6, 6);
         painter.setPen(line);
-        painter.drawLine(QPointF(30, 30), QPointF(70, 70));
-        painter.drawLine(QPointF(70, 30), QPointF(30, 70));
+        stroke(painter, zeichen);
         break;
     case Zeichen::Offen:
     case Zeichen::Achtung:
@@ -97,6 +116,18 @@ void zeichenMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen) {
         mark(painter, zeichen == Zeichen::Offen);
         break;
     }
+    painter.restore();
+}
+
+void strichMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen, const QColor &farbe) {
+    const QRectF square = squareIn(rect);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(square.topLeft());
+    painter.scale(square.width() / 60, square.height() / 60); // the middle of the sheet
+    painter.translate(-20, -21);
+    painter.setPen(QPen(farbe, 11, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    stroke(painter, zeichen);
     painter.restore();
 }
 
@@ -120,6 +151,43 @@ void drehpfeilMalen(QPainter &painter, const QRectF &rect, bool rechtsherum, con
     painter.setBrush(farbe);
     painter.drawPolygon(QPolygonF{{-2, -18}, {-2, 18}, {24, 0}});
     painter.restore();
+}
+
+void weiterMalen(QPainter &painter, const QRectF &rect, const QString &wort) {
+    const QRectF square = squareIn(rect);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        QPen(farben().akzent, square.width() / 20, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(farben().akzent);
+    const double edge = square.width() / 30;
+    painter.drawPolygon(QPolygonF{square.topLeft() + QPointF(edge, edge),
+                                  QPointF(square.right() - edge, square.center().y()),
+                                  square.bottomLeft() + QPointF(edge, -edge)});
+    painter.setPen(farben().feld);
+    QFont font = schrift(20, true);
+    font.setPixelSize(std::max(1, int(square.height() * (wort.size() < 2 ? 0.45 : 0.34))));
+    painter.setFont(font);
+    painter.drawText(square.adjusted(edge, 0, -square.width() * 0.32, 0), Qt::AlignCenter, wort);
+    painter.restore();
+}
+
+void haltMalen(QPainter &painter, const QRectF &rect, const QColor &farbe) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(farbe);
+    painter.drawRoundedRect(squareIn(rect), 1, 1);
+    painter.restore();
+}
+
+QIcon haltIcon() {
+    QIcon icon;
+    for (const double dichte : {1.0, 2.0}) {
+        icon.addPixmap(haltBild(farben().text, dichte));
+        icon.addPixmap(haltBild(farben().gesperrt, dichte), QIcon::Disabled);
+    }
+    return icon;
 }
 
 void Bild::zeige(Maler maler, const QString &worte) {

@@ -2,6 +2,7 @@
 // the arrow of a direction, and the widget that shows one of them beside the words.
 #pragma once
 
+#include <QIcon>
 #include <QWidget>
 
 #include <functional>
@@ -20,9 +21,18 @@ enum class Zeichen {
 /// Within `rect`, as a square in its middle. Readable from 16 px on.
 void zeichenMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen);
 QColor zeichenFarbe(Zeichen zeichen);
+/// The tick of Gut or the cross of Schlecht alone, without its ground.
+void strichMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen, const QColor &farbe);
 
 /// An arc of 280 degrees with a head: clockwise, or the other way.
 void drehpfeilMalen(QPainter &painter, const QRectF &rect, bool rechtsherum, const QColor &farbe);
+
+/// What goes on: a triangle that points to the right, with a word of three letters at most in it.
+void weiterMalen(QPainter &painter, const QRectF &rect, const QString &wort);
+/// What stands or is to stand: a filled square.
+void haltMalen(QPainter &painter, const QRectF &rect, const QColor &farbe);
+/// The same before the caption of a button, in the colours in force.
+QIcon haltIcon();
 
 /// A painted picture on a screen, named anz…: takes no keyboard, has its words for who cannot see
 /// it.

@@ -1,7 +1,12 @@
-// The desktop: what a selection allows, and the choice of the motor's direction.
+// The desktop: what a selection allows, the road that it shows, the choice of the motor's
+// direction.
+#include <QTest>
+
+#include "app/arbeitsweg.h"
 #include "session/auswahl.h"
 #include "session/motorfenster.h"
 #include "session/session.h"
+#include "windows/waiting.h"
 #include "workplace.h"
 
 namespace {
@@ -12,6 +17,15 @@ class Desktop : public Workplace {
   protected:
     Desktop() {
         views["chosen"] = [] { return QString::number(gDrehrichtung); };
+        views["road"] = [] { // the buttons that wait to be pressed
+            QStringList names;
+            for (const auto *button : loaded(frm::Desktop)->findChildren<QAbstractButton *>()) {
+                if (platform::isWaiting(button))
+                    names += button->objectName();
+            }
+            return names.join(' ');
+        };
+        views["lamp"] = [] { return control(frm::Desktop, "anzMotor")->accessibleName(); };
     }
 };
 
@@ -41,6 +55,37 @@ JOURNEY_P(Desktop, AllowsWhatTheSelectionAllows) {
     co_await go("can pbMessen mnuStartMessen");
 }
 
+// Chosen: kunde, gerät, rezept, direction; motor turning, run in. Then the buttons that can be
+// pressed; none is named for nothing.
+TEST(Road, OneStationWaits) {
+    for (const Case &c : cases(R"(
+            -, KRD -> K | R, KRD -> K | K, KGRD -> G | KG, KGRD -> R | KR, KGRD -> G
+            | KGR, KGRDS -> D | KGRD, KGRDES -> E | KGRDm, KGRS -> - | KGRDmi, KGRS -> S
+            | KGRi, KGRDS -> S | KGRDi, KGRDES -> S | KGRDi, KGRDE -> - | KGRD, KGR -> -
+            | Kdi, KR -> - | KGDmi, KGR -> R)")) {
+        const auto is = [&c](char letter) { return c.in_(0).contains(letter); };
+        const Wegstand stand{is('K'), is('G'), is('R'), is('D'), is('m'), is('i')};
+        const QString letters = "KGRDES";
+        std::set<Station> usable;
+        for (const QChar letter : c.in_(1))
+            usable.insert(Station(letters.indexOf(letter)));
+        const auto next = nächsterSchritt(stand, usable);
+        EXPECT_EQ(next ? letters[int(*next)] : QChar('-'), c.out) << c;
+    }
+}
+
+JOURNEY_P(Desktop, LeadsTheOperator) {
+    // The keyboard goes on with the road; the line that the motor is on ends with any stop.
+    co_await go(R"(
+        login ; road == pbKunde ; pbRezept ; @Rezepte ; cmbRezeptname = Kurzprüfung ; pbok ; @Desktop
+        road == pbKunde ; focus pbKunde ; choose AEH-001, Kurzprüfung ; road == pbDrehR ; focus pbDrehR
+        lamp == Motor aus | Motor off ; direction ; road == pbMotein ; focus pbMotein
+        pbMotein ; road == ; lamp == Motor ein | Motor on ; pass 3000
+        ? notRunIn yes ; pbMessen ; @VorStatNPK ; lamp == Motor aus | Motor off
+        Desktop.laInfo == ; pbok ; until can StatMessen.pbWeiter ; close ; @Desktop ; road == pbMessen
+        pbMotein ; pbMotaus ; begin ; Desktop.laInfo == Motor ist ausgeschaltet | Motor is switched off)");
+}
+
 JOURNEY_P(Desktop, DirectionOfRotation) {
     co_await logIn();
     co_await go(R"(
@@ -49,6 +94,9 @@ JOURNEY_P(Desktop, DirectionOfRotation) {
         obRechts ; chosen == 1 ; can laRechts ; cannot laLinks ; obLinks ; can laLinks
         cannot laRechts ; Desktop.lbDrehrichtung ==
         key Return ; @Desktop ; lbDrehrichtung == Linkslauf | Left ; can pbMotein)");
+    co_await go("pbDrehR ; @MotorDrehR");
+    QTest::mouseClick(control(frm::MotorDrehR, "laRechts"), Qt::LeftButton);
+    co_await go("checked obRechts ; chosen == 1 ; obLinks ; pbok ; @Desktop");
     // Shown again as it is; a calibration goes on where it waits.
     motorfenster().setMoteinEnabled(false);
     co_await go(
