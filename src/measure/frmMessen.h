@@ -21,6 +21,13 @@ class frmMessen : public Screen, private Messfenster {
     /// What the notice does when it closes: the box for the ergometer's speed gets the keyboard in
     /// a speed measurement and goes away in a power measurement.
     void meldungGeschlossen();
+    /// What is measured next, as the notice shows it.
+    QString nächsterPrüfschritt() const {
+        if (freieEingabe())
+            return freierSchritt;
+        return dataRezept.empty() || dataRezept.atEnd() ? QString()
+                                                        : dataRezept["Prüfschritt"].text();
+    }
 
   protected:
     void Form_Load() override;

@@ -23,6 +23,7 @@ frmNachStatNPK::frmNachStatNPK() {
 void frmNachStatNPK::Form_Load() {
     beschriftungenSetzen(ui, *this, english);
     ui.laText->setText(inSprache(ankoppeln));
+    anweisungZeigen(*ui.anzBild, Anweisung::Ankoppeln);
     if (gFormStatus == Formstatus::KorrekturFertig) {
         anzeigen(
             {"Vorbereitung der Hebelarmkalibrierung", "Preparations For The Lever Arm Calibration"},
@@ -30,11 +31,13 @@ void frmNachStatNPK::Form_Load() {
              "Bedienungsanleitung beschrieben.\r"
              "Bitte achten Sie auf eine waagerechte Ausrichtung des Hebelarms!",
              "Mount the lever arm for left-handed calibration as described in the Operating "
-             "Instructions.\rMake sure the lever arm is in horizontal position!"});
+             "Instructions.\rMake sure the lever arm is in horizontal position!"},
+            Anweisung::Hebelarm);
     }
 }
 
-void frmNachStatNPK::anzeigen(const Text &titel, const Text &text) {
+void frmNachStatNPK::anzeigen(const Text &titel, const Text &text, Anweisung bild) {
+    anweisungZeigen(*ui.anzBild, bild);
     setCaption(inSprache(titel));
     ui.laText->setText(QString(inSprache(text)).replace('\r', '\n'));
 }

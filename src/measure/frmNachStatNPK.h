@@ -1,6 +1,7 @@
 // Instruction behind the zero-point correction, and in the lever-arm sequence.
 #pragma once
 
+#include "measure/anweisungsbild.h"
 #include "platform/fehler.h"
 #include "session/screens.h"
 #include "ui_frmNachStatNPK.h"
@@ -10,8 +11,8 @@ class frmNachStatNPK : public Screen {
     static constexpr frm id = frm::NachStatNPK;
     frmNachStatNPK();
 
-    /// Another caption and text than the ones that the stage of the sequence gives.
-    void anzeigen(const Text &titel, const Text &text);
+    /// Another caption, text and picture than the ones that the stage of the sequence gives.
+    void anzeigen(const Text &titel, const Text &text, Anweisung bild);
 
   protected:
     void Form_Load() override;

@@ -10,6 +10,8 @@
 #include "session/session.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
+#include "windows/waiting.h"
+#include "windows/zeichen.h"
 
 using namespace platform;
 
@@ -30,6 +32,17 @@ constexpr Beschriftung english[] = {
 
 constexpr long weiterVerzögerung = 1'000'000; // counted rounds
 
+void urteilZeigen(Bild &bild, Drift drift) {
+    switch (drift) {
+    case Drift::Gut:
+        return bild.zeige(Zeichen::Gut, inSprache({"eingehalten", "kept"}));
+    case Drift::Warnung:
+        return bild.zeige(Zeichen::Offen, inSprache({"Warnung", "warning"}));
+    case Drift::Verweigert:
+        return bild.zeige(Zeichen::Schlecht, inSprache({"nicht eingehalten", "not kept"}));
+    }
+}
+
 } // namespace
 
 frmStatMessen::frmStatMessen() {
@@ -45,6 +58,9 @@ void frmStatMessen::Form_Load() try {
     setFocus();
     beschriftungenSetzen(ui, *this, english);
     ui.txtOffset1->setText(Format(0, "0.000"));
+    for (Bild *zeichen : {ui.anzOffset, ui.anzGain})
+        zeichen->zeige(Zeichen::Kein, inSprache({"noch nicht gemessen", "not measured yet"}));
+    ui.anzProben->setAccessibleName(inSprache({"Messwerte", "Measuring values"}));
     const StatikSoll soll = statikSollLesen(gDrehrichtung == 1);
     gOffsetSoll = soll.offset;
     gGainSoll = soll.gain;
@@ -118,7 +134,8 @@ void frmStatMessen::fnc_StatMessen() {
                       "Bei erneuter Toleranzüberschreitung Hotline anrufen.",
                       "Switch the unit under test off, then switch it on again!\r"
                       "Await the end of running-in time and repeat the static correction.\r\r"
-                      "In case of deviations, please call the service!"});
+                      "In case of deviations, please call the service!"},
+                     Anweisung::Halt);
     hinweis.showModal();
     gMessStatus = Messstatus::Verweigert;
 }
@@ -127,10 +144,14 @@ bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
     const bool offset = code == codeOffset;
     showInfo(inSprache(offset ? Text{"Offset messen", "Measure Offset"}
                               : Text{"Gain messen", "Measure Gain"}));
+    const Statikstrom strom{code};
     const auto werte = statikEmpfangen(
-        {code},
-        [this](int anzahl) {
-            showInfo(QString::number(anzahl) + inSprache({" Messwerte", " Measuring Values"}));
+        strom,
+        [&](int proben) {
+            ui.anzProben->setValue(proben + (offset ? 0 : strom.verworfen + strom.anzahl));
+            if (proben > strom.verworfen)
+                showInfo(QString::number(proben - strom.verworfen) +
+                         inSprache({" Messwerte", " Measuring Values"}));
         },
         [this] { return unloaded(); });
     if (!werte)
@@ -146,6 +167,7 @@ bool frmStatMessen::fnc_Messung(std::uint8_t code) try {
     double &drift = offset ? gOffsetDiff : gGainDiff;
     drift = ergebnis.drift * 1000;
     (offset ? ui.AnzWert_O : ui.AnzWert_G)->setBalken(driftBalken(drift));
+    urteilZeigen(*(offset ? ui.anzOffset : ui.anzGain), driftUrteil(drift));
     return true;
 } catch (const Fehler &fehler) {
     fehlerBox("4002 - ", fehler);
@@ -161,6 +183,7 @@ void frmStatMessen::fnc_StatAbschluss() {
         ui.laMeldung->show();
         showInfo({});
         ui.pbWeiter->setEnabled(true);
+        setWaiting(ui.pbWeiter, true);
         ui.pbWeiter->setFocus();
         return;
     }

@@ -1,5 +1,6 @@
 #include "measure/frmVorStatNPK.h"
 
+#include "measure/anweisungsbild.h"
 #include "session/session.h"
 #include "session/sprache.h"
 
@@ -37,5 +38,8 @@ frmVorStatNPK::frmVorStatNPK() {
 
 void frmVorStatNPK::Form_Load() {
     beschriftungenSetzen(ui, *this, english);
-    ui.laText->setText(inSprache(gFormStatus != Formstatus::Keiner ? hebelarm : abkoppeln));
+    const bool kalibrierung = gFormStatus != Formstatus::Keiner;
+    ui.laText->setText(inSprache(kalibrierung ? hebelarm : abkoppeln));
+    ui.laText->setWordWrap(!kalibrierung); // its lines are numbered
+    anweisungZeigen(*ui.anzBild, kalibrierung ? Anweisung::Hebelarm : Anweisung::Abkoppeln);
 }

@@ -72,10 +72,17 @@ StatikErgebnis gainErgebnis(double gainRoh, double offsetRoh, const StatikSoll &
     return {reference, measured, measured - reference};
 }
 
+Drift driftUrteil(double drift) {
+    // Judged to a nanonewton metre, so that 0.300 N m is not above its limit by noise.
+    const double betrag = std::fabs(Round(drift, 6));
+    return betrag > statikGrenze     ? Drift::Verweigert
+           : betrag >= statikWarnung ? Drift::Warnung
+                                     : Drift::Gut;
+}
+
 bool statikZulässig(double offsetDrift, double gainDrift) {
-    // Drifts are judged to a nanonewton metre, so that 0.300 N m is not above its limit by noise.
-    const auto within = [](double drift) { return std::fabs(Round(drift, 6)) <= statikGrenze; };
-    return within(offsetDrift) && within(gainDrift);
+    return driftUrteil(offsetDrift) != Drift::Verweigert &&
+           driftUrteil(gainDrift) != Drift::Verweigert;
 }
 
 DriftBalken driftBalken(double drift, double rotAb, bool ganz) {

@@ -41,6 +41,8 @@ StatikErgebnis gainErgebnis(double gainRoh, double offsetRoh, const StatikSoll &
 
 inline constexpr double statikWarnung = 150; ///< mN m from which the bar is red
 inline constexpr double statikGrenze = 300;  ///< mN m above which the correction is refused
+enum class Drift { Gut, Warnung, Verweigert };
+Drift driftUrteil(double drift);                           // mN m
 bool statikZulässig(double offsetDrift, double gainDrift); // mN m
 
 /// The bar of a drift on the scale from -300 to 300 mN m: 12 units a mN m around 3720.

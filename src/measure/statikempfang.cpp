@@ -36,14 +36,15 @@ std::optional<std::vector<double>> statikEmpfangen(const Statikstrom &strom,
 
     StatikDecoder decoder(strom.code);
     std::vector<double> werte;
-    int verworfen = 0;
+    int proben = 0;
     const auto fertig = [&] { return static_cast<int>(werte.size()) >= strom.anzahl; };
     stromLesen([&] { return !fertig() && !gTimeoutTimer1 && gDesktopAktiv && !abbruch(); },
                [&](std::uint8_t byte) {
-                   if (!decoder.feed(byte) || ++verworfen <= strom.verworfen)
+                   if (!decoder.feed(byte))
                        return;
-                   werte.push_back(decoder.value());
-                   fortschritt(static_cast<int>(werte.size()));
+                   if (++proben > strom.verworfen)
+                       werte.push_back(decoder.value());
+                   fortschritt(proben);
                });
     Timer1.setEnabled(false);
     if (std::exchange(gTimeoutTimer1, false) && !fertig() && !abbruch()) {

@@ -14,8 +14,8 @@ struct Statikstrom {
 
 /// Asks for the stream and answers the raw values wanted, or nothing when 15 s have passed, the
 /// program ends or `abbruch` says so. Ends the stream in any case. `fortschritt` is told the number
-/// of values so far, from 1. Pumps events, tells a time-out in a box unless `abbruch`; raises what
-/// the line raises.
+/// of samples so far, the dropped ones among them, from 1. Pumps events, tells a time-out in a box
+/// unless `abbruch`; raises what the line raises.
 std::optional<std::vector<double>> statikEmpfangen(const Statikstrom &strom,
                                                    const std::function<void(int)> &fortschritt,
                                                    const std::function<bool()> &abbruch);

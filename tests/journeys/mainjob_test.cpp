@@ -32,8 +32,8 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
         @VorStatNPK ; shaft ~ speed=[12]?\d\..*motor=off ; stand coupled off
         laText == Vor Durchführung der statischen Nullpunktkorrektur ist die Kreuzgelenkwelle am Normal abzukoppeln. | Before carrying out the static zero-point correction, the universal joint shaft has to be uncoupled from the normal.
         pbok ; until StatMessen.laInfo == Offset messen | Measure Offset ; hidden laMeldung
-        until laInfo == 3 Messwerte | 3 Measuring Values ; until laInfo == Gain messen | Measure Gain
-        until can StatMessen.pbWeiter ; focus pbWeiter ; laInfo == ; shown laMeldung ; txtGain1 == 250,000 | 250.000
+        until laInfo == 3 Messwerte | 3 Measuring Values ; samples == 153 ; until laInfo == Gain messen | Measure Gain
+        until can StatMessen.pbWeiter ; focus pbWeiter ; waits pbWeiter ; samples == 350 ; laInfo == ; shown laMeldung ; txtGain1 == 250,000 | 250.000
         txtOffset1 == 0,000 | 0.000 ; wire ~ . ; beeps ~ .
         laMeldung == Statische Nullpunkt-Korrektur beendet | Static zero-point correction is terminated.
         shaft ~ offset=(9999|1000[01])\.\d+.factor=1\.0000
@@ -55,6 +55,8 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
         co_await go(R"(
             pbSpeichern ; @Meldung
             notice == Meldung: Achtung! Nächster Prüfschritt! | Message: Attention! Next Test Step!)");
+        EXPECT_EQ(control(frm::Meldung, "anzZeichen")->accessibleName().toInt(),
+                  step % 3 ? step + 1 : 10);
     }
     co_await go(R"(
         # Speed waits for the reading of the ergometer.

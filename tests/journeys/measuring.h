@@ -28,6 +28,9 @@ class Measuring : public Workplace {
                 near += text(frm::StatMessen, shown);
             return near.join(' ');
         };
+        views["samples"] = [] { // of the zero point
+            return control(frm::StatMessen, "anzProben")->property("value").toString();
+        };
         views["motor"] = [this] { // as far as anybody knows, what can be pressed, and in truth
             return QString("%1%2%3 %4")
                 .arg(gMotorEin ? "on" : "off", canPress(frm::Desktop, "pbMotein") ? " Motein" : "",

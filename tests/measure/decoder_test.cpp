@@ -94,6 +94,7 @@ TEST(Static, DriftsAndTheirLimits) {
         for (const double drift : {rest.drift, gain.drift}) {
             EXPECT_NEAR(drift, c.out_(0).toDouble(), 1e-9);
             EXPECT_EQ(driftBalken(drift * 1000).rot, c.out_(1) != "good") << c;
+            EXPECT_EQ(driftUrteil(drift * 1000) == Drift::Gut, c.out_(1) == "good") << c;
             EXPECT_EQ(statikZulässig(drift * 1000, 0), c.out_(1) != "refused") << c;
             EXPECT_EQ(statikZulässig(0, drift * 1000), c.out_(1) != "refused") << c;
         }
