@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -51,6 +52,11 @@ class Gallery : public Workplace {
     }
 
     void show() { run(rounds()); }
+    void showRefusals() {
+        change("UPDATE System SET Endprüfung = -1");
+        change("UPDATE Hebelarmkalibrierung SET Prüfdatum = '2020-01-15 16:30:00'");
+        run(refusals());
+    }
 
   private:
     void TestBody() override {}
@@ -112,6 +118,16 @@ class Gallery : public Workplace {
         picture(pictureName);
         press(name, leave);
         co_await arrive(from);
+    }
+
+    Journey port(int number, const char *pictureName) {
+        form(frm::Interface).show();
+        co_await arrive(frm::Interface);
+        control<QScrollBar>(frm::Interface, "SbCOM")->setValue(number == 1 ? 2 : 1);
+        control<QScrollBar>(frm::Interface, "SbCOM")->setValue(number);
+        co_await pass(50);
+        picture(pictureName);
+        form(frm::Interface).unload();
     }
 
     Journey masterData() {
@@ -201,6 +217,12 @@ class Gallery : public Workplace {
         co_await arrive(frm::Desktop);
         picture("desktop-start");
         co_await opened(frm::Interface, "interface");
+        co_await port(1, "interface-da");
+        co_await port(9, "interface-fehlt");
+        gFormStatus = Formstatus::RichtungFehlt;
+        co_await opened(frm::VorStatNPK, "vorstatnpk-hebelarm");
+        gFormStatus = Formstatus::Keiner;
+        gEinlaufStatus = Einlaufstatus::NichtBegonnen;
         co_await opened(frm::Einlaufen, "einlaufen");
         co_await opened(frm::Meldung1, "meldung1");
         co_await opened(frm::ProtokollNr_1, "protokollnr_1");
@@ -237,8 +259,10 @@ class Gallery : public Workplace {
         press(frm::Rezepte, "pbok");
         co_await arrive(frm::Desktop);
 
+        picture("desktop-gewählt");
         press(frm::Desktop, "pbDrehR");
         co_await arrive(frm::MotorDrehR);
+        picture("motordrehr-offen");
         press(frm::MotorDrehR, "obRechts");
         picture("motordrehr");
         press(frm::MotorDrehR, "pbok");
@@ -280,7 +304,29 @@ class Gallery : public Workplace {
         type(frm::Messen, "txtSoll_P", "150");
         co_await pass(50);
         picture("messen-frei");
+        press(frm::Messen, "pbAbbrechen");
+        co_await arrive(frm::Meldung);
+        picture("meldung-ende");
         messageBoxes();
+    }
+
+    // The lever arm is overdue, and the correction drifts: first so far that it warns, then
+    // further.
+    Journey refusals() {
+        start();
+        co_await arrive(frm::Login);
+        type(frm::Login, "txtUserName", "M. Prüfer");
+        press(frm::Login, "pbok");
+        co_await arrive(frm::Desktop);
+        picture("desktop-endprüf");
+        co_await go("choose AEH-001, Kurzprüfung ; direction");
+        co_await go("stand offsetdrift 10 ; begin ; pbok ; until can StatMessen.pbWeiter");
+        picture("statmessen-warnung");
+        co_await go("close ; @Desktop ; stand offsetdrift 19 ; begin ; pbok ; @NachStatNPK");
+        picture("nachstatnpk-halt");
+        press(frm::NachStatNPK, "pbok");
+        co_await arrive(frm::Desktop);
+        picture("desktop-gesperrt");
     }
 
     QDir mTarget;
@@ -367,6 +413,8 @@ int main(int argc, char *argv[]) {
         States().save(target);
         for (const auto language : {std::int16_t{1}, std::int16_t{2}})
             Gallery(target, language).show();
+        for (const auto language : {std::int16_t{1}, std::int16_t{2}})
+            Gallery(target, language).showRefusals();
     }
     std::printf("%s: %d faults\n", qPrintable(all.path()), faultCount);
     return faultCount == 0 ? 0 : 1;

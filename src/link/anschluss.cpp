@@ -9,7 +9,8 @@
 using namespace platform;
 
 const Anschluss steuerleitung{
-    MSComm1, "Interface", gSS1Vorhanden, {"Fehler mI 2 - ", "ERROR mSI 2 - "}, leitungFreiPrüfen};
+    MSComm1,          "Interface", gSS1Vorhanden, gSS1Geprüft, {"Fehler mI 2 - ", "ERROR mSI 2 - "},
+    leitungFreiPrüfen};
 
 namespace {
 
@@ -82,12 +83,15 @@ int portPrüfen(const Anschluss &anschluss) try {
         anschluss.leitung.setPortOpen(true);
     anschluss.leitung.setPortOpen(false);
     anschluss.vorhanden = true;
+    anschluss.geprüft = anschluss.leitung.CommPort();
     return 0;
 } catch (const Fehler &fehler) {
     fehlerMerken(fehler);
     if (fehler.number() == fehlernummer::NoSuchPort ||
-        fehler.number() == fehlernummer::PortSettings)
+        fehler.number() == fehlernummer::PortSettings) {
         anschluss.vorhanden = false; // of no use before the settings have been mended
+        anschluss.geprüft = anschluss.leitung.CommPort();
+    }
     if (fehler.number() != fehlernummer::NoSuchPort)
         fehlerBox(anschluss.kennung, fehler);
     return fehler.number();

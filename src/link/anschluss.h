@@ -31,12 +31,14 @@ struct Anschluss {
     MSComm &leitung;
     const char *tabelle;
     bool &vorhanden;        ///< result of the latest trial
+    int &geprüft;           ///< the port that it was about, 0 before the first
     platform::Text kennung; ///< before the number, when a trial fails
     void (*freiPrüfen)();   ///< raises while the line is in use
 };
 /// The line to the controller.
 extern const Anschluss steuerleitung;
 inline bool gSS1Vorhanden = false;
+inline int gSS1Geprüft = 0;
 
 /// Opens the port on trial and closes it, also one that was open. A missing port and one that
 /// refuses its settings count as not there. A failure other than a missing port is shown, and

@@ -5,9 +5,17 @@
 #include "platform/fehler.h"
 #include "records/leitung.h"
 #include "session/sprache.h"
+#include "windows/stil.h"
+#include "windows/zeichen.h"
+
+using namespace platform;
 
 Anschlussmaske::Anschlussmaske(const Anschluss &anschluss) : mAnschluss(anschluss) {
     ui.setupUi(this);
+    QSizePolicy platz = ui.Schild->sizePolicy();
+    platz.setRetainSizeWhenHidden(true);
+    ui.Schild->setSizePolicy(platz);
+    ui.Schild->hide(); // nothing was tried yet
     ui.cmbBaud->addItems(Schnittstelle::baudraten());
     ui.cmbDatenbits->addItems(Schnittstelle::datenbitzahlen());
     ui.cmbParitaet->addItems(Schnittstelle::paritäten());
@@ -27,6 +35,8 @@ void Anschlussmaske::einstellungZeigen() {
     ui.cmbParitaet->setCurrentIndex(ui.cmbParitaet->findText(fields.parität));
     ui.cmbDatenbits->setCurrentIndex(ui.cmbDatenbits->findText(fields.datenbits));
     ui.cmbStoppbits->setCurrentIndex(ui.cmbStoppbits->findText(fields.stoppbits));
+    if (mAnschluss.geprüft == mAnschluss.leitung.CommPort())
+        zustandZeigen();
 }
 
 Schnittstelle Anschlussmaske::felder() const {
@@ -62,9 +72,11 @@ void Anschlussmaske::zustandZeigen() {
     const bool da = mAnschluss.vorhanden;
     ui.Label2->setText(
         inSprache(da ? Text{"Vorhanden.", "Existing"} : Text{"Nicht vorhanden!", "Not existing!"}));
-    QPalette colours = ui.Label2->palette();
-    colours.setColor(QPalette::Window, QColor(32, 32, 32)); // the bright colours need a dark ground
-    colours.setColor(QPalette::WindowText, da ? QColor(0, 255, 0) : QColor(255, 0, 0));
-    ui.Label2->setPalette(colours);
-    ui.Label2->setAutoFillBackground(true);
+    setTon(ui.Schild, da ? Ton::Da : Ton::Fehlt);
+    ui.anzVorhanden->zeige(
+        [da](QPainter &painter, const QRectF &rect) {
+            strichMalen(painter, rect, da ? Zeichen::Gut : Zeichen::Schlecht, schildZeichen);
+        },
+        ui.Label2->text());
+    ui.Schild->show();
 }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr Beschriftung english[] = {
     {"", "Protocol Number"},
-    {"fraWahl", "Test protocol for the measurement"},
+    {"fraWahl", "Test Protocol For The Measurement"},
     {"obNeu", "&New protocol"},
     {"obVorhanden", "&Existing protocol without measured values"},
     {"obLetztes", "Continue the &last protocol"},

@@ -41,7 +41,7 @@ JOURNEY_P(Settings, OfTheLineAreShownTriedAndStored) {
     // also where the table cannot tell any more. The other settings come with OK only.
     co_await go(R"(
         line == 7 75,O,5,1.5 ; mnuSSParameter ; @Interface
-        fields == 7 75 Ungerade 5 1.5 ; Label2 == ; focus SbCOM    # nothing was tried yet
+        fields == 7 75 Ungerade 5 1.5 ; hidden Label2 ; focus SbCOM    # nothing was tried yet
         cmbBaud > 9600 ; ? noSuchPort ; pbok ; front == Interface    # missing: nothing is stored
         SbCOM > 6 ; state == Nicht vorhanden! #ff0000 | Not existing! #ff0000 ; line == 6 75,O,5,1.5
         SbCOM > 1 ; state == Vorhanden. #00ff00 | Existing #00ff00 ; line == 1 75,O,5,1.5
@@ -52,7 +52,7 @@ JOURNEY_P(Settings, OfTheLineAreShownTriedAndStored) {
         key Escape ; @Desktop ; line == 7 75,O,5,1.5 ; mnuSSParameter ; @Interface ; SbCOM > 1
         close ; @Desktop ; line == 7 75,O,5,1.5 ; mnuSSParameter ; @Interface ; SbCOM > 1
         pbok ; @Desktop ; row == 1 75,O,5,1.5 ; line == 1 75,O,5,1.5    # the stop bits stay
-        mnuSSParameter ; @Interface ; cmbBaud > 115200 ; cmbParitaet > Gerade ; cmbDatenbits > 7
+        mnuSSParameter ; @Interface ; state ~ #00ff00 ; cmbBaud > 115200 ; cmbParitaet > Gerade ; cmbDatenbits > 7
         cmbStoppbits > 2 ; line == 1 75,O,5,1.5
         cmbStoppbits ! ; @Desktop ; row == 1 115200,E,7,2 ; line == 1 115200,E,7,2
         mnuSSParameter ; @Interface ; SbCOM > 2 ; spoil SELECT Interface ; ? failure(I_1002) ; pbexit

@@ -49,6 +49,7 @@ void Workshop::forgetSession() {
     gEinlaufStatus = {};
     gDesktopFolge = {};
     gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
+    gSS1Geprüft = 0;
     gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
     gEinlaufzeit = gEinlaufLeistung = 0;
     gBerichtProtokoll = 0;
