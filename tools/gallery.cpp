@@ -286,19 +286,29 @@ class Gallery : public Workplace {
         picture("protokollnr");
         line.stand().setLoad(100);
         press(frm::ProtokollNr, "pbok");
+        co_await until("its notice", [] { return inFront(frm::Messen); });
+        co_await pass(4000);
+        picture("messen-wartet");
         co_await until("the first step", [] { return canPress(frm::Messen, "pbSpeichern"); });
-        co_await pass(20'000);
-        picture("messen-leistung");
+        picture("messen-anlauf");
+        for (const auto &[load, name] :
+             {std::pair{105, "messen-offen"}, {112, "messen-nein"}, {100, "messen-leistung"}}) {
+            line.stand().setLoad(load);
+            co_await pass(22'000);
+            picture(name);
+        }
         press(frm::Messen, "pbSpeichern");
         co_await arrive(frm::Meldung);
         picture("meldung");
         co_await until("the second step", [] {
             return inFront(frm::Messen) && !text(frm::Messen, "txtIST_P_torvena").isEmpty();
         });
-        type(frm::Messen, "txtIST_n_ergom", "80");
+        co_await pass(12'000);
+        type(frm::Messen, "txtIST_n_ergom", "83");
         picture("messen-drehzahl");
         press(frm::Messen, "pbSpeichern");
         co_await pass(500);
+        picture("messen-summe");
         press(frm::Messen, "pbFreieEing");
         type(frm::Messen, "txtSoll_n", "70");
         type(frm::Messen, "txtSoll_P", "150");

@@ -5,7 +5,7 @@
 
 #include "platform/fehler.h"
 #include "platform/runtime.h"
-#include "session/session.h"
+#include "session/sprache.h"
 
 using namespace platform;
 
@@ -42,77 +42,126 @@ const Unsicherheit *rowFor(const Unsicherheiten &rows, double value) {
     return nullptr;
 }
 
-void judge(Urteil &urteil, double deviation, double uncertainty, double limit) {
-    urteil.ohne = deviation <= limit;
-    const auto verdict = [&urteil](const char *german, const char *english) {
-        if (gSprache == 1)
-            urteil.mit = german;
-        else if (gSprache == 2)
-            urteil.mit = english;
-    };
-    if (deviation + uncertainty <= limit) {
-        verdict("ja", "yes");
-        return;
+/// What the row says of the uncertainty: a share of the value, or of a power in W.
+struct Anteil {
+    double relative = 0;
+    double absolute = 0;
+};
+
+/// `muProz` stays as it is where no row applies.
+Anteil shareOfPower(const Unsicherheiten &rows, const QString &soll_P, double &muProz) {
+    Anteil share;
+    const double base = Val(soll_P);
+    const Unsicherheit *row = rowFor(rows, base);
+    if (!row)
+        return share;
+    share.relative = *row->wert / 100;
+    muProz = *row->wert;
+    if (row != &rows.front())
+        return share;
+    share.absolute = *row->wert;
+    if (base == 0) {
+        throw Fehler(fehlernummer::DivisionByZero,
+                     {"Division durch Null: Bei 0 W gibt es keine relative "
+                      "Messunsicherheit.",
+                      "Division by zero: at 0 W there is no relative uncertainty."});
     }
-    urteil.mit = "?";
-    if (deviation - uncertainty > limit)
-        verdict("nein", "no");
+    muProz = *row->wert * 100 / base;
+    return share;
+}
+
+Abstand ofPower(const SchrittTexte &texte, Spezifikation spezifikation, const Anteil &share) {
+    if (spezifikation.prozent > 0)
+        spezifikation.prozent /= 100;
+    const double soll = hundredths(texte.soll_P) / 100;
+    const double limit = soll * spezifikation.prozent;
+    return {difference(texte.ist_P_torvena, texte.soll_P),
+            share.absolute == 0 ? soll * share.relative : share.absolute,
+            limit >= spezifikation.watt ? limit : spezifikation.watt};
+}
+
+Abstand ofSpeed(const SchrittTexte &texte, const Spezifikation &spezifikation,
+                const Unsicherheiten &rows, double &muProz) {
+    double relative = 0;
+    if (const Unsicherheit *row = rowFor(rows, Val(texte.soll_n))) {
+        relative = *row->wert / 100;
+        muProz = *row->wert;
+    }
+    const double uncertainty = hundredths(texte.ist_n_ergom) / 100 * relative;
+    return {difference(texte.ist_n_ergom, texte.ist_n_torvena), uncertainty,
+            double(spezifikation.grenzAbw)};
+}
+
+void judge(Urteil &urteil, const Abstand &abstand) {
+    urteil.ohne = spruchOhne(abstand) == Spruch::Ja;
+    const Spruch mit = spruchMit(abstand);
+    if (mit != Spruch::Ja)
+        urteil.mit = "?";
+    if (mit != Spruch::Offen && spracheGewählt())
+        urteil.mit = wort(mit);
 }
 
 } // namespace
 
-void leistungBewerten(Urteil &urteil, SchrittTexte &texte, Spezifikation spezifikation,
+Spruch spruchOhne(const Abstand &abstand) {
+    return std::fabs(abstand.d) <= abstand.t ? Spruch::Ja : Spruch::Nein;
+}
+
+Spruch spruchMit(const Abstand &abstand) {
+    const double deviation = std::fabs(abstand.d);
+    if (deviation + abstand.u <= abstand.t)
+        return Spruch::Ja;
+    return deviation - abstand.u > abstand.t ? Spruch::Nein : Spruch::Offen;
+}
+
+QString wort(Spruch spruch) {
+    return spruch == Spruch::Offen ? "?"
+           : spruch == Spruch::Ja  ? inSprache({"ja", "yes"})
+                                   : inSprache({"nein", "no"});
+}
+
+std::optional<Spruch> ausWort(const QString &wort) {
+    if (wort.isEmpty())
+        return std::nullopt;
+    if (wort == "?")
+        return Spruch::Offen;
+    return wort == "ja" || wort == "yes" || wort == "OK" ? Spruch::Ja : Spruch::Nein;
+}
+
+Abstand schrittAbstand(const SchrittTexte &texte, const Spezifikation &spezifikation,
+                       const Unsicherheiten &tabelle) {
+    double unused = 0;
+    return texte.prüfart == Prüfart::Leistung
+               ? ofPower(texte, spezifikation, shareOfPower(tabelle, texte.soll_P, unused))
+               : ofSpeed(texte, spezifikation, tabelle, unused);
+}
+
+void leistungBewerten(Urteil &urteil, SchrittTexte &texte, const Spezifikation &spezifikation,
                       const Unsicherheiten &muLeistung) {
-    if (spezifikation.prozent > 0)
-        spezifikation.prozent /= 100;
-
-    double relative = 0;
-    double absolute = 0;
-    if (const Unsicherheit *row = rowFor(muLeistung, Val(texte.soll_P))) {
-        relative = *row->wert / 100;
-        urteil.muProz = *row->wert;
-        if (row == &muLeistung.front()) {
-            absolute = *row->wert;
-            const double base = Val(texte.soll_P);
-            if (base == 0) {
-                throw Fehler(fehlernummer::DivisionByZero,
-                             {"Division durch Null: Bei 0 W gibt es keine relative "
-                              "Messunsicherheit.",
-                              "Division by zero: at 0 W there is no relative uncertainty."});
-            }
-            urteil.muProz = *row->wert * 100 / base;
-        }
-    }
+    const Anteil share = shareOfPower(muLeistung, texte.soll_P, urteil.muProz);
     texte.ist_n_ergom = "0";
-
-    const double soll = hundredths(texte.soll_P) / 100;
-    if (absolute == 0)
-        absolute = soll * relative;
-    const double deviation = std::fabs(difference(texte.ist_P_torvena, texte.soll_P));
-    const double share = soll * spezifikation.prozent;
-    judge(urteil, deviation, absolute, share >= spezifikation.watt ? share : spezifikation.watt);
+    judge(urteil, ofPower(texte, spezifikation, share));
 }
 
 void drehzahlBewerten(Urteil &urteil, const SchrittTexte &texte, const Spezifikation &spezifikation,
                       const Unsicherheiten &muDrehzahl) {
-    double relative = 0;
-    if (const Unsicherheit *row = rowFor(muDrehzahl, Val(texte.soll_n))) {
-        relative = *row->wert / 100;
-        urteil.muProz = *row->wert;
-    }
-    const double uncertainty = hundredths(texte.ist_n_ergom) / 100 * relative;
-    const double deviation = std::fabs(difference(texte.ist_n_ergom, texte.ist_n_torvena));
-    judge(urteil, deviation, uncertainty, spezifikation.grenzAbw);
+    judge(urteil, ofSpeed(texte, spezifikation, muDrehzahl, urteil.muProz));
+}
+
+Abstand endprüfungLeistung(const SchrittTexte &texte, const Spezifikation &spezifikation) {
+    const double share = hundredths(texte.soll_P) / 100 * spezifikation.prozent;
+    return {difference(texte.ist_P_torvena, texte.soll_P), 0, std::max(share, spezifikation.watt)};
+}
+
+Abstand endprüfungDrehzahl(const SchrittTexte &texte, const Spezifikation &spezifikation) {
+    return {difference(texte.ist_n_ergom, texte.ist_n_torvena), 0, double(spezifikation.grenzAbw)};
 }
 
 bool endprüfungBewerten(const SchrittTexte &texte, const Spezifikation &spezifikation) {
-    const double deviation = std::fabs(difference(texte.soll_P, texte.ist_P_torvena));
-    const double share = hundredths(texte.soll_P) / 100 * spezifikation.prozent;
-    const bool power = deviation <= std::max(share, spezifikation.watt);
+    const bool power = spruchOhne(endprüfungLeistung(texte, spezifikation)) == Spruch::Ja;
     if (spezifikation.grenzAbw == 0)
         return power;
-    const double speed = std::fabs(difference(texte.ist_n_torvena, texte.ist_n_ergom));
-    return speed <= spezifikation.grenzAbw && power;
+    return spruchOhne(endprüfungDrehzahl(texte, spezifikation)) == Spruch::Ja && power;
 }
 
 double fnc_LeistungsToleranz(double prozent, double watt, const QString &soll_P) {

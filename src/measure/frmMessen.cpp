@@ -26,6 +26,8 @@ constexpr Beschriftung english[] = {
     {"Frame2", "Setpoints"},
     {"lbSoll_n", "Sp&eed:"},
     {"lbEinheitSoll_n", "rpm"},
+    {"pbPlus#tip", "Setpoint + 0.1 rpm (Alt++)"},
+    {"pbMinus#tip", "Setpoint − 0.1 rpm (Alt+-)"},
     {"lbSoll_P", "P&ower:"},
     {"lbPrArt", "Type of &measurement:"},
     {"pbÜbernehmen", "&Apply"},
@@ -111,10 +113,11 @@ void frmMessen::ansichtZeigen() {
              ui.Frame2, ui.pbSpeichern, ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast,
              ui.pbMessen, ui.pbFreieEing, ui.pbDrehzNull, ui.pbDynMess, ui.laEinhaltung})
         control->setVisible(mAnsicht.bedient);
+    anzeigenEinrichten();
 }
 
 void frmMessen::ersteAktivierung() {
-    ui.laDrehR->setText(motorfenster().drehrichtung());
+    drehrichtungZeigen();
     ui.laRezName->setText(mAnsicht.rezept);
     ui.txtToleranz->setText(messablauf().spezifikation());
     dataRezept = messablauf().schritte();
@@ -160,7 +163,8 @@ void frmMessen::zustandZeigen() {
         zeigen(knopf, !ist.freiGewählt);
     zeigen(ui.pbFreieEing, ist.freiErlaubt);
     zeigen(ui.pbDrehzNull, ist.nullErlaubt);
-    zeigen(ui.pbAbbrechen, true);
+    zeigen(ui.pbAbbrechen, true, ist.abgearbeitet && !ist.beendet);
+    streifenZeigen();
 }
 
 void frmMessen::fnc_PrüfschrittAnzeigen() try {
@@ -225,6 +229,8 @@ void frmMessen::fnc_MesswertSpeichern() try {
     if (dataRezept.atEnd() && !mRezeptEnde) {
         dataRezept.movePrevious();
         mRezeptEnde = true;
+        mZustand.abgearbeitet = mAnsicht.bedient;
+        zustandZeigen();
         messablauf().rezeptEnde();
         return;
     }

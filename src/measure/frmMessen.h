@@ -10,6 +10,7 @@
 #include "measure/messablauf.h"
 #include "measure/sollwerteingabe.h"
 #include "measure/speichernregel.h"
+#include "measure/takt.h"
 #include "session/screens.h"
 #include "ui_frmMessen.h"
 
@@ -78,6 +79,16 @@ class frmMessen : public Screen, private Messfenster {
     void ergometerFeldZeigen(bool zeigen);
     void speichernFreigeben(Messbox geändert);
 
+    // What is painted (frmMessen_anzeige.cpp)
+    void anzeigenEinrichten();
+    void drehrichtungZeigen();
+    Phase phase() const;
+    void streifenZeigen();
+    static Vorschau vorschau(const SchrittTexte &schritt);
+    QStringList gespeicherteUrteile() const;
+    void anlaufZeigen(double fehlt);
+    void taktZeigen();
+
     /// Whose the values in the boxes are.
     enum class Werte {
         Fremde,     ///< they were measured under another set-point than the one shown
@@ -94,6 +105,7 @@ class frmMessen : public Screen, private Messfenster {
         bool freiGewählt = false;  ///< free input was asked for
         bool freiErlaubt = false;  ///< free input may be asked for
         bool nullErlaubt = true;   ///< speed zero may be asked for
+        bool abgearbeitet = false; ///< the recipe has ended, and nothing was asked for since
         bool beendet = false;
     };
 
@@ -103,6 +115,7 @@ class frmMessen : public Screen, private Messfenster {
     Recordset dataRezept;
     Recordset dataMesswerte;
     SechsRundenEmpfang mEmpfang;
+    Takt mTakt{handler([this] { taktZeigen(); })};
     Messansicht mAnsicht;
     Zustand mZustand;
     Werte mWerte = Werte::Fremde;

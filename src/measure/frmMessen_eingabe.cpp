@@ -41,7 +41,8 @@ void frmMessen::eingabenVerdrahten() {
         const bool plus = taste.text() == "+";
         if (!plus && taste.text() != "-")
             return false;
-        korrigieren(plus ? +0.1 : -0.1, true);
+        if (!(taste.modifiers() & Qt::AltModifier)) // that is for the buttons alone
+            korrigieren(plus ? +0.1 : -0.1, true);
         return true;
     });
 
@@ -101,7 +102,7 @@ void frmMessen::korrekturErledigt() {
 // Everything that changes the set-point comes by here: what was measured is of another one.
 void frmMessen::werteVerwerfen() {
     mWerte = Werte::Fremde;
-    mZustand.vollständig = false;
+    mZustand.vollständig = mZustand.abgearbeitet = false;
     zustandZeigen();
 }
 
@@ -175,8 +176,10 @@ void frmMessen::meldungGeschlossen() {
 void frmMessen::speichernFreigeben(Messbox geändert) {
     const Speichern regel =
         speichernRegel(geändert, texte(), mAnsicht.bedient, mWerte == Werte::Eigene);
-    if (regel == Speichern::Bleibt)
+    if (regel == Speichern::Bleibt) {
+        streifenZeigen();
         return;
+    }
     mZustand.vollständig = regel != Speichern::Aus;
     zustandZeigen();
     if (regel == Speichern::EinMitTastatur)

@@ -58,8 +58,10 @@ void frmMessen::durchgang() try {
             zustandZeigen();
             if (mWerte == Werte::Angefragte) // nothing was changed meanwhile
                 mWerte = Werte::Eigene;
+            mTakt.beginnen(mEingabe.drehzahl());
             mEmpfang.fnc_SechsRundenEmpfang([this](auto was, double wert) { zeige(was, wert); },
                                             [this] { return abgelöst(); }, !mAnsicht.bedient);
+            mTakt.enden();
         }
         if (abgelöst())
             return;
@@ -140,6 +142,8 @@ void frmMessen::zeige(SechsRundenDecoder::Ereignis was, double wert) {
                      : was == Ereignis::Drehmoment ? ui.txtIST_D_torvena
                                                    : ui.txtIST_P_torvena;
     box->setText(Format(wert, "0.00"));
+    if (was == Ereignis::Leistung)
+        mTakt.rahmen();
     if (was == Ereignis::Leistung && mWerte == Werte::Eigene)
         messablauf().nachRahmen(*this);
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/recordsetmodel.h"
+#include "measure/vorschau.h"
 #include "records/messwerte.h"
 
 /// How the measurement is left: by the operator, or by the end of the process, which asks nothing,
@@ -22,6 +23,7 @@ struct Messansicht {
     QString titel;                               ///< caption; empty keeps that of the screen
     QString rezept;                              ///< name
     std::vector<RecordsetModel::Spalte> spalten; ///< of the grid of stored rows
+    QStringList urteile = {}; ///< those of its columns that hold verdicts; the last one sums up
 };
 
 /// The way back: what a flow may do with the screen.
@@ -62,6 +64,11 @@ class Messablauf {
     /// flow that does looks at gMessStatus after each wait and goes on only while it is Messen, so
     /// that a stop wins over a count. Raises nothing: it traps its own failures.
     virtual void nachRahmen(Messfenster &fenster) = 0;
+    /// What speichern would find now, for the strip: from the same computation, without a trace in
+    /// the step, the store or `schritt`. Asked with each value that comes: reads no table anew
+    /// within a pass, shows no box. Nothing to compare when it cannot be told; what it raises
+    /// counts as that.
+    virtual Vorschau vorschau(const SchrittTexte &schritt) = 0;
     /// Judges and stores. Writes into `schritt` what the judgement sets there. False when it has
     /// told that nothing can be stored. Raises what the store raises; then nothing was stored.
     virtual bool speichern(SchrittTexte &schritt) = 0;

@@ -19,8 +19,9 @@ class OrdentlicherAblauf final : public Messablauf {
     QString spezifikation() override;
     Recordset schritte() override { return messSchritte(gRezeptID); }
     Recordset messwerte() override { return protokollMesswerte(gProtokollID); }
-    void vorSollwert(const Recordset &) override {}
+    void vorSollwert(const Recordset &) override;
     void nachRahmen(Messfenster &) override {}
+    Vorschau vorschau(const SchrittTexte &schritt) override;
     bool speichern(SchrittTexte &schritt) override;
     void rezeptEnde() override;
     void abbruch() override {}
@@ -31,7 +32,12 @@ class OrdentlicherAblauf final : public Messablauf {
 
     Spezifikation mSpezifikation;
     Urteil mUrteil;
+    // For the strip, of this pass; nothing where the table could not be read.
+    std::optional<Unsicherheiten> mLeistung, mDrehzahl;
 };
+
+const Text ohneMU{"ohne Berück. MU", "without\nregard to MU"};
+const Text mitMU{"mit Berück. MU", "with\nregard to MU"};
 
 Messansicht OrdentlicherAblauf::ansicht() {
     *this = {};
@@ -50,13 +56,39 @@ Messansicht OrdentlicherAblauf::ansicht() {
              {"Ist_D_torvena", kopf("Normal M\nN m", "Standard M\nN m"), rechts},
              {"Ist_P_torvena", kopf("Normal P\nW", "Standard P\nW"), rechts},
              {"Ist_n_ergom", kopf("Ergometer n\n1/min", "Ergometer n\nrpm"), rechts},
-             {"MU_ohne", kopf("ohne Berück. MU", "without\nregard to MU"), mitte},
-             {"MU_mit", kopf("mit Berück. MU", "with\nregard to MU"), mitte}}};
+             {"MU_ohne", inSprache(ohneMU), mitte},
+             {"MU_mit", inSprache(mitMU), mitte}},
+            {"MU_ohne", "MU_mit"}};
 }
 
 QString OrdentlicherAblauf::spezifikation() {
     mSpezifikation = spezifikationMitID(gToleranzID).value_or(Spezifikation{});
     return mSpezifikation.bezeichnung;
+}
+
+void OrdentlicherAblauf::vorSollwert(const Recordset &) {
+    const auto gelesen = [](Unsicherheiten (*tabelle)()) -> std::optional<Unsicherheiten> {
+        try {
+            return tabelle();
+        } catch (const Fehler &) {
+            return std::nullopt; // told when a step is to be stored
+        }
+    };
+    mLeistung = gelesen(unsicherheitLeistung);
+    mDrehzahl = gelesen(unsicherheitDrehzahl);
+}
+
+Vorschau OrdentlicherAblauf::vorschau(const SchrittTexte &schritt) {
+    const bool leistung = schritt.prüfart == Prüfart::Leistung;
+    const auto &tabelle = leistung ? mLeistung : mDrehzahl;
+    if (!tabelle)
+        return {};
+    const Abstand abstand = schrittAbstand(schritt, mSpezifikation, *tabelle);
+    const Spruch ohne = spruchOhne(abstand), mit = spruchMit(abstand);
+    return {{leistung ? leistungsVergleich(abstand) : drehzahlVergleich(abstand)},
+            mit,
+            {{inSprache(ohneMU).simplified(), ohne, wort(ohne)},
+             {inSprache(mitMU).simplified(), mit, wort(mit)}}};
 }
 
 bool OrdentlicherAblauf::speichern(SchrittTexte &schritt) {

@@ -6,6 +6,7 @@
 #include "session/drehmoment.h"
 #include "session/sprache.h"
 #include "windows/msgbox.h"
+#include "windows/stil.h"
 #include "windows/waiting.h"
 
 using namespace platform;
@@ -26,12 +27,14 @@ void Sollwerteingabe::listeFüllen() {
 void Sollwerteingabe::sperren() {
     setFreeInput(ui.txtSoll_n, false);
     setFreeInput(ui.txtSoll_P, false);
+    setFreiGetönt(ui.cmbMessArt, false);
     ui.cmbMessArt->hide();
     ui.txtMessArt->show();
 }
 
 void Sollwerteingabe::öffnen(bool null) {
     ui.txtMessArt->hide();
+    setFreiGetönt(ui.cmbMessArt, true);
     ui.cmbMessArt->show();
     for (QLineEdit *box : {ui.txtSoll_n, ui.txtSoll_P}) {
         setFreeInput(box, true);

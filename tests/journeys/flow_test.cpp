@@ -43,8 +43,18 @@ class Counting : public Measuring, protected Messablauf {
         log += text(frm::Messen, "lblMessSchritte") + ' ';
         if (count == stopAt)
             control<QAbstractButton>(frm::Messen, "pbAbbrechen")->click();
+        if (count == number) {
+            EXPECT_TRUE(views["strip"]().contains(QRegularExpression("W,.* 1/min,.*Own: Out$")));
+        }
         if (count == number)
             log += fenster.schrittAbschließen() ? "on " : "not ";
+    }
+    Vorschau vorschau(const SchrittTexte &schritt) override {
+        const Spezifikation class3{0.03, 3, 2};
+        return {{leistungsVergleich(endprüfungLeistung(schritt, class3)),
+                 drehzahlVergleich(endprüfungDrehzahl(schritt, class3))},
+                Spruch::Nein,
+                {{"Own", Spruch::Nein, "Out"}}};
     }
     bool speichern(SchrittTexte &schritt) override {
         messwertSpeichern(gProtokollID, schritt, {});

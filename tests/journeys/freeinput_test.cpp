@@ -13,6 +13,7 @@ JOURNEY_P(FreeInput, LimitsAndKeys) {
         measure ; step 1 60 ; pbPlus ; pbFreieEing ; cannot pbPlus pbMinus pbÜbernehmen pbSpeichern pbFreieEing
         waiting == ; until laPrSchritt == FR ; pass 20 ; live == || ; focus txtSoll_n ; hidden txtMessArt
         txtSoll_n == ; txtSoll_P == ; cmbMessArt ==
+        strip ~ ^Drehzahl, Leistung und Messart eingeben | ^Enter speed, power and type
         cmbMessArt rows Leistungsmessung+Drehzahlmessung | Power Measurement+Speed Measurement
         # A minus is a key of the correction in the first box.
         txtSoll_n = 0 ; txtSoll_n ! ; focus txtSoll_P ; txtSoll_P = 0 ; txtSoll_P ! ; focus cmbMessArt
@@ -56,7 +57,7 @@ JOURNEY_P(FreeInput, StepsInOrderOfTimeSpeedZeroAndAReadingThatIsNoNumber) {
         steps == 1+FR+FR ; step FR 70 ; pbMessen ; step 2 80    # back to where the recipe is
         # A power measurement in both languages; its row is stored with the verdicts before.
         wire ~ . ; pbDrehzNull ; step FR 0 ; wire == --*E-0000+>>>6 ; speed == 0 ; cannot pbDrehzNull
-        txtMessArt == Leistungsmessung ; ? zeroPower ; pbSpeichern
+        txtMessArt == Leistungsmessung ; strip == Nicht zu beurteilen | Cannot be judged ; ? zeroPower ; pbSpeichern
         sql SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, MU_ohne, MU_mit, MU_Proz FROM Messwerte_temp ORDER BY rowid DESC LIMIT 1 == FR|0|0|0,00|nein|?|0.3 | FR|0|0|0.00|no|?|0.3
         step FR 0 ; pbFreieEing ; until txtSoll_n == ; pass 20 ; can pbDrehzNull ; pbDrehzNull
         step FR 0 ; pbMessen ; step 2 80 ; can pbDrehzNull ; leave)");

@@ -44,7 +44,12 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
         title ~ ^Sechs Runden - Messen       Prüfprotokoll: \d+ - Abnahme 'Süd'$ | ^Six Rounds - Measuring       Test Protocol: \d+ - Abnahme 'Süd'$
         txtMessArt == Leistungsmessung | Power Measurement ; laDrehR == Rechtslauf | Right
         txtSoll_n == 60,0 | 60.0 ; laKorrF == 1,0000 | 1.0000)");
-    QStringList shown;
+    QStringList shown, judged;
+    const auto verdicts = [this] { // as the strip shows them
+        static const QRegularExpression words(": (\\S+), [^:]+: (\\S+)$");
+        const auto found = words.match(views["strip"]());
+        return found.captured(1) + '|' + found.captured(2);
+    };
     for (const int step : {1, 2, 3}) {
         const QString measured =
             QString("stand load %1 ; step %2 60 ; can pbSpeichern ; focus pbSpeichern")
@@ -52,6 +57,7 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
                 .arg(step);
         co_await go(measured);
         shown += views["live"]();
+        judged += verdicts();
         co_await go(R"(
             pbSpeichern ; @Meldung
             notice == Meldung: Achtung! Nächster Prüfschritt! | Message: Attention! Next Test Step!)");
@@ -64,8 +70,11 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
         waits pbSpeichern ; txtIST_n_ergom = ; cannot pbSpeichern ; waiting ==
         txtIST_n_ergom = 80,5 | 80.5 ; can pbSpeichern ; txtIST_n_ergom ! ; focus pbSpeichern)");
     shown += views["live"]();
+    judged += verdicts();
     co_await go(R"(
         wire ~ . ; ? recipeEnd ; pbSpeichern ; focus DBGrid1 ; wire == -
+        strip == Rezept abgearbeitet: 2 × ja, 1 × ?, 1 × nein | Recipe finished: 2 × yes, 1 × ?, 1 × no
+        waiting == pbAbbrechen
         pass 3000 ; speed == 80    # the motor keeps running
         leave ; shaft ~ ^set=0.00
         stored Prüfschritt, Soll_n, Soll_P, Ist_n_ergom, MU_ohne, MU_mit == 1|60,0|100,0|0|ja|ja+2|60,0|100,0|0|nein|?+3|60,0|100,0|0|nein|nein+10|80,0|0,0|80,5|ja|ja | 1|60.0|100.0|0|yes|yes+2|60.0|100.0|0|no|?+3|60.0|100.0|0|no|no+10|80.0|0.0|80.5|yes|yes
@@ -74,6 +83,10 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
                    "WHERE ProtokollID = ? ORDER BY rowid",
                    {gProtokollID}),
               shown.join('+'));
+    EXPECT_EQ(grid("SELECT MU_ohne, MU_mit FROM Messwerte_temp WHERE ProtokollID = ? "
+                   "ORDER BY rowid",
+                   {gProtokollID}),
+              judged.join('+'));
     EXPECT_EQ(shown.join(' ').contains('.'), english());
     co_await go(R"(
         stored round(replace(Ist_P_torvena, ',', '.')) || ' ' || round(replace(Ist_D_torvena, ',', '.')) == 100.0 16.0+105.0 17.0+110.0 18.0+110.0 13.0

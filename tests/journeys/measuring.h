@@ -56,6 +56,9 @@ class Measuring : public Workplace {
                 values += text(frm::Messen, box);
             return values.join('|');
         };
+        views["strip"] = [] { // over the verdict
+            return loaded(frm::Messen)->findChild<QWidget *>("anzUrteil")->accessibleName();
+        };
         views["notice"] = [] {
             QString shown;
             for (const char *name : {"Meldung", "Meldung1"}) {

@@ -141,7 +141,8 @@ JOURNEY(Belonging, RowsOfAnotherRecipeAreNotMixed) {
         # An uncertainty that is missing stores no row.
         change UPDATE MU_Drehzahl SET MU = NULL
         txtIST_n_ergom = 80 ; ? failed(3018, 94) ; pbSpeichern
-        stored Prüfschritt == 1 ; laPrSchritt == 2 ; leave)");
+        stored Prüfschritt == 1 ; laPrSchritt == 2
+        pbMessen ; step 2 80 ; txtIST_n_ergom = 80 ; strip == Nicht zu beurteilen ; leave)");
 }
 
 } // namespace

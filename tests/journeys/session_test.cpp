@@ -17,12 +17,13 @@ JOURNEY(Measuring, Navigation) {
         txtIST_n_ergom = 60 ; pass 13000 ; txtIST_n_torvena ~ ^(60|59),
         cannot pbSpeichern ; wire ~ . ; pbAusführen ; waiting ==
         notice == Meldung: Achtung! Nächster Prüfschritt! ; cannot Messen.pbSpeichern
-        until wireNow ~ 6$ ; live == || ; step 2 80 ; wire == -*E-2800+>>>6
+        until wireNow ~ 6$ ; live == || ; until strip == Drehzahl noch nicht erreicht ; step 2 80 ; wire == -*E-2800+>>>6
         # The last step ends the recipe, whichever others are missing.
         cannot pbSpeichern ; txtIST_n_ergom = 80 ; ? recipeEnd ; pbSpeichern ; pass 3000
         laPrSchritt == 2 ; wire ~ -$ ; speed == 80
         # The last step again: overwritten without a message, and nothing is started.
-        pbMessen ; live == || ; step 2 80 ; txtIST_n_ergom = 80,4 ; pbSpeichern ; pass 3000
+        waits pbAbbrechen ; pbMessen ; waiting == ; live == || ; step 2 80
+        strip == Wartet auf die abgelesene Drehzahl ; txtIST_n_ergom = 80,4 ; pbSpeichern ; pass 3000
         stored Ist_n_ergom == 80,4 ; laPrSchritt == 2
         # Another step behind the end: stored, and again.
         pbFirst ; pbAusführen ; step 1 60 ; pbSpeichern ; notice == ; focus DBGrid1
@@ -36,6 +37,7 @@ JOURNEY(Measuring, CorrectionFactor) {
     co_await go(R"(
         measure ; stand load 100 ; step 1 60 ; laKorrF == 1,0000 ; wire ~ .
         pbPlus ; txtSoll_n == 60,1 ; laKorrF == 1,0017 ; waits pbÜbernehmen ; focus pbÜbernehmen
+        strip == Sollwerte noch nicht gesendet
         pass 7000 ; wire ==
         pbÜbernehmen ; waiting == ; cannot Messen.pbÜbernehmen ; step 1 60.1
         wire == -*E-2103+>>>6 ; pbSpeichern ; stored Soll_n == 60,1

@@ -97,6 +97,18 @@ TEST_F(Bewertung, OfASpeed) { // set-point, reading, 1/min permitted, uncertaint
     }
 }
 
+TEST_F(Bewertung, DistancesHaveASign) { // type, set, read, measured; 5 % or 3 W, 2 1/min
+    for (const Case &c : cases(R"(
+            1 100 - 105.15 -> 5.15 2 5 | 1 20 - 18 -> -2 1 3 | 2 60 58.5 60 -> -1.5 0.585 2)")) {
+        const QStringList in = c.in.split(' ');
+        const bool power = in[0] == "1";
+        const Abstand is = schrittAbstand(
+            {"60", in[1], shown(in[3]), shown(in[3]), shown(in[2]), "", "", in[0].toInt()},
+            {5, 3, 2}, power ? powerRows : speedRows);
+        EXPECT_EQ(QString("%1 %2 %3").arg(is.d).arg(is.u).arg(is.t), c.out);
+    }
+}
+
 TEST_F(Bewertung, ByTheLeadingNumberAndWithoutALanguageOnlyTheUndecidedIsSaid) {
     for (const Case &c : cases("1, 25.5, 25.50 -> ja ja, 4 | 2, 25.5, 25.50 -> ja ja, 2 | "
                                "0, 200, 208.00 -> ja before, 1 | 0, 200, 209.00 -> ja ?, 1 | "
