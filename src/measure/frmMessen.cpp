@@ -120,6 +120,8 @@ void frmMessen::ersteAktivierung() {
     drehrichtungZeigen();
     ui.laRezName->setText(mAnsicht.rezept);
     ui.txtToleranz->setText(messablauf().spezifikation());
+    for (QLabel *name : {ui.laRezName, ui.txtToleranz})
+        name->setToolTip(name->text()); // a long one is cut
     dataRezept = messablauf().schritte();
     if (mAnsicht.bedient) {
         form(frm::ProtokollNr).showModal();

@@ -63,7 +63,9 @@ void frmMessen::anzeigenEinrichten() {
     }
     ui.anzLegende->setMinimumWidth(legendeMalen(nullptr, {}));
     ui.anzLegende->zeige(
-        [](QPainter &painter, const QRectF &rect) { legendeMalen(&painter, rect); }, {});
+        [](QPainter &painter, const QRectF &rect) { legendeMalen(&painter, rect); },
+        inSprache({"Die Zeichen: eingehalten, unentschieden, nicht eingehalten",
+                   "The signs: complies, undecided, does not comply"}));
     for (const QLineEdit *box : {ui.txtSoll_n, ui.txtSoll_P, ui.txtMessArt})
         on(box, &QLineEdit::textChanged, [this] { streifenZeigen(); });
 }
@@ -74,7 +76,7 @@ void frmMessen::drehrichtungZeigen() {
         [rechts = gDrehrichtung == 1](QPainter &painter, const QRectF &rect) {
             drehpfeilMalen(painter, rect, rechts, farben().text);
         },
-        {});
+        ui.laDrehR->text());
 }
 
 Phase frmMessen::phase() const {
