@@ -124,6 +124,7 @@ class frmMessen : public Screen, private Messfenster {
     double mKorrF = 1;
     double mGesendeteKorrF = 1;
     bool mDrehzNull = false;
+    int mAnlauf = 0; ///< what is shown: the speed rises, falls, has come
     bool mRezeptEnde = false;
     bool mDurchgangLäuft = false;
     bool mNeuerDurchgang = false;

@@ -5,6 +5,8 @@
 #include <QHeaderView>
 #include <QPainter>
 
+#include <utility>
+
 #include "measure/urteilsspalte.h"
 #include "session/motorfenster.h"
 #include "session/session.h"
@@ -125,13 +127,18 @@ QStringList frmMessen::gespeicherteUrteile() const {
 }
 
 void frmMessen::anlaufZeigen(double fehlt) {
-    if (fehlt == 0) {
+    const int richtung = fehlt > 0 ? 1 : fehlt < 0 ? -1 : 0;
+    if (std::exchange(mAnlauf, richtung) == richtung)
+        return; // nothing to paint anew
+    if (richtung == 0) {
         ui.anzAnlauf->zeige(Bild::Maler(), {});
         return;
     }
-    ui.anzAnlauf->zeige([auf = fehlt > 0](QPainter &painter,
-                                          const QRectF &rect) { dreieckMalen(painter, rect, auf); },
-                        streifenText(Streifen::Anlauf));
+    ui.anzAnlauf->zeige(
+        [auf = richtung > 0](QPainter &painter, const QRectF &rect) {
+            dreieckMalen(painter, rect, auf);
+        },
+        streifenText(Streifen::Anlauf));
 }
 
 void frmMessen::taktZeigen() {

@@ -9,7 +9,7 @@
 
 class Takt {
   public:
-    /// `zeigen` is called whenever the state has changed, a few times a second at most.
+    /// `zeigen` is called whenever the state has changed, twice a second and with each result.
     explicit Takt(std::function<void()> zeigen);
 
     /// A stream begins; at `drehzahl` 1/min. None is expected of a shaft that stands.

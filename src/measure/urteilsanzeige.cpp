@@ -92,7 +92,8 @@ void drawScale(QPainter &painter, const QRectF &rect, const Vorschau::Vergleich 
                       rect.height() - 18 - QFontMetrics(small).height() - 4);
 
     const auto zone = [&](double from, double to, const QColor &color) {
-        painter.fillRect(QRectF(x(from), lane.top(), x(to) - x(from), lane.height()), color);
+        const QRectF part(x(from), lane.top(), x(to) - x(from), lane.height());
+        painter.fillRect(part.toRect(), color);
     };
     const double open = std::min(u, t);
     zone(-end, end, f.schlechtGrund);
@@ -219,10 +220,9 @@ QRectF Urteilsanzeige::zeichenPlatz() const {
 void Urteilsanzeige::paintEvent(QPaintEvent *) {
     const Farben &f = farben();
     QPainter painter(this);
+    painter.fillRect(rect(), f.linie); // round corners would cost as much as all the rest
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), f.feld);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(f.linie, 1));
-    painter.setBrush(f.feld);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     if (!mInhalt.spruch && mTakt)
         taktMalen(painter, zeichenPlatz(), *mTakt);
     else

@@ -15,7 +15,9 @@ void taktMalen(QPainter &painter, const QRectF &rect, const Taktstand &stand);
 
 class Urteilsanzeige : public QWidget {
   public:
-    explicit Urteilsanzeige(QWidget *parent = nullptr) : QWidget(parent) {}
+    explicit Urteilsanzeige(QWidget *parent = nullptr) : QWidget(parent) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+    }
 
     void zeige(const Vorschau &vorschau);
     void zeige(std::optional<Spruch> spruch, const QString &worte);
