@@ -43,14 +43,16 @@ JOURNEY_P(Desktop, AllowsWhatTheSelectionAllows) {
     co_await go("cannot pbGerät mnuGerät pbMessen mnuStartMessen ; desktop == ||||");
     kundeWählen("Praxis", 1);
     rezeptWählen("Kurz");
-    co_await go("can pbGerät mnuGerät ; cannot pbMessen mnuStartMessen ; desktop ~ ^Praxis...Kurz");
+    co_await go("can pbGerät mnuGerät ; cannot pbMessen mnuStartMessen ; road == pbGerät ; desktop "
+                "~ ^Praxis...Kurz");
+    gEingelaufen = true;
     gerätWählen("Typ", "4711");
-    co_await go("can pbMessen mnuStartMessen ; desktop ~ ^Praxis.Typ.4711.Kurz");
+    co_await go("can pbMessen mnuStartMessen ; road == pbMessen ; desktop ~ ^Praxis.Typ.4711.Kurz");
     // A measurement that was forbidden is allowed by a choice, and by nothing else.
     motorfenster().setMessenEnabled(false);
     act(english() ? "mnuDeutsch" : "mnuEnglisch");
     datumZeigen("01.01.2030");
-    co_await go("cannot pbMessen mnuStartMessen");
+    co_await go("cannot pbMessen mnuStartMessen ; road ==");
     rezeptWählen("Kurz");
     co_await go("can pbMessen mnuStartMessen");
 }

@@ -48,6 +48,7 @@ JOURNEY_P(CorrectionFaults, DriftBeyondTheLimit) {
         co_await go(drift.out.isEmpty() ? R"(
             ? correctionAborted ; pbok ; @NachStatNPK ; title == Toleranzüberschreitung | Tolerance Exeeded
             laText ~ ^Gerät ausschalten, wieder einschalten,\sEinlaufzeit einhalten und statische Korrektur wiederholen.\s\sBei erneuter Toleranzüberschreitung Hotline anrufen.$ | ^Switch the unit under test off, then switch it on again!\sAwait the end of running-in time and repeat the static correction.\s\sIn case of deviations, please call the service!$
+            picture == Nicht zulässig | Not permissible
             shaft ~ offset=none factor=none ; pbok ; @Desktop ; cannot pbMessen)"
                                         : R"(
             pbok ; until can StatMessen.pbWeiter ; close ; @Desktop ; can pbMessen)");

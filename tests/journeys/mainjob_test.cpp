@@ -29,15 +29,15 @@ JOURNEY_P(MainJob, FromLoginToJudgedRecipe) {
         front == Desktop ; until notice ==
         # Zero point; nobody asks any more whether it is run in
         pbMessen ; until StatMessen.laInfo == Motor wird ausgeschaltet | Motor is switched off.
-        @VorStatNPK ; shaft ~ speed=[12]?\d\..*motor=off ; stand coupled off
+        @VorStatNPK ; picture == Welle abgekoppelt | Shaft uncoupled ; shaft ~ speed=[12]?\d\..*motor=off ; stand coupled off
         laText == Vor Durchführung der statischen Nullpunktkorrektur ist die Kreuzgelenkwelle am Normal abzukoppeln. | Before carrying out the static zero-point correction, the universal joint shaft has to be uncoupled from the normal.
         pbok ; until StatMessen.laInfo == Offset messen | Measure Offset ; hidden laMeldung
-        until laInfo == 3 Messwerte | 3 Measuring Values ; samples == 153 ; until laInfo == Gain messen | Measure Gain
+        until samples == 150 ; laInfo == Offset messen | Measure Offset ; until laInfo == 3 Messwerte | 3 Measuring Values ; samples == 153 ; until laInfo == Gain messen | Measure Gain
         until can StatMessen.pbWeiter ; focus pbWeiter ; waits pbWeiter ; samples == 350 ; laInfo == ; shown laMeldung ; txtGain1 == 250,000 | 250.000
         txtOffset1 == 0,000 | 0.000 ; wire ~ . ; beeps ~ .
         laMeldung == Statische Nullpunkt-Korrektur beendet | Static zero-point correction is terminated.
         shaft ~ offset=(9999|1000[01])\.\d+.factor=1\.0000
-        pbWeiter ; wire == -- ; beeps == 1 ; @NachStatNPK ; stand coupled on
+        pbWeiter ; wire == -- ; beeps == 1 ; @NachStatNPK ; picture == Welle angekoppelt | Shaft coupled ; stand coupled on
         laText == Vor Beginn der Messung ist die Kreuzgelenkwelle am Normal anzukoppeln und auszurichten. | Before beginning the measurement, the universal joint shaft has to be coupled to the normal, and aligned
         pbok ; @ProtokollNr ; protocol Abnahme 'Süd' ; cannot pbSpeichern ; focus DBGrid1
         hidden txtIST_n_ergom lbIST_n_ergom lbEinheitErgom ; laRezName == Urteile

@@ -31,6 +31,9 @@ class Measuring : public Workplace {
         views["samples"] = [] { // of the zero point
             return control(frm::StatMessen, "anzProben")->property("value").toString();
         };
+        views["picture"] = [] { // of an instruction
+            return platform::frontScreen()->findChild<QWidget *>("anzBild")->accessibleName();
+        };
         views["motor"] = [this] { // as far as anybody knows, what can be pressed, and in truth
             return QString("%1%2%3 %4")
                 .arg(gMotorEin ? "on" : "off", canPress(frm::Desktop, "pbMotein") ? " Motein" : "",
