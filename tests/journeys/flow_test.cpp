@@ -36,7 +36,8 @@ class Counting : public Measuring, protected Messablauf {
     }
     void nachRahmen(Messfenster &fenster) override {
         EXPECT_FALSE(fenster.texte().ist_P_torvena.isEmpty());
-        for (int i = 0; i < 20; ++i) // the reading takes its time
+        const double read = clock.elapsed() + 20; // ms; the reading takes its time
+        while (clock.elapsed() < read)
             platform::countedDelay(kurzeVerzögerung), platform::pump();
         fenster.zeigeErgometer(QString::number(70 + ++count));
         fenster.zeigeFortschritt(QString("%1/%2").arg(count).arg(number));
