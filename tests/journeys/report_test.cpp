@@ -163,7 +163,8 @@ JOURNEY_P(Reports, AreFilesUnderTheirNames) {
 JOURNEY(Reports, KeepTheLayoutOfTheLastClass) {
     co_await go(R"(
         login ; pbProtokoll ; @Bericht ; cmbBericht > 2 ; ? failed(1085, 321) ; OKButton ; printed ==
-        cmbBericht > 1 ; OKButton ; printed ~ 12 R ; ? archive? no ; cmbBericht > 2 ; OKButton
+        cmbBericht > 1 ; rbDruck2_1 ; OKButton ; printed ~ 12 R ; ? archive? no ; cmbBericht ^
+        cmbBericht > 2 ; rbDruck2_1 ; OKButton
         printed == Büro: 8 R 1:nein,nein,mit ; ? archive? no ; close ; @Desktop)");
 }
 
