@@ -172,7 +172,7 @@ void Berichtsmaske::fnc_SeitenFreigeben() try {
     fehlerBox("1087 - ", fehler);
 }
 
-void Berichtsmaske::klasseLesen() try {
+void Berichtsmaske::fnc_GeräteKlasse() try {
     if (const std::int16_t klasse = geräteklasse(mArt.bestand, gBerichtProtokoll))
         mnGeräteKlasse = klasse; // else that of the last run stays
 } catch (const Fehler &fehler) {
@@ -192,7 +192,7 @@ void Berichtsmaske::OKButton_Click() try {
     }
     gBerichtWahl = berichtsname(ui.cmbBericht->currentText().mid(mArt.nummerAb));
     gBerichtProtokoll = nummer(mArt.nummerAb);
-    klasseLesen();
+    fnc_GeräteKlasse();
     if (mbSichern) {
         if (!fnc_PrintPDF(Umschalten::AufPDF)) {
             mbSichern = false;

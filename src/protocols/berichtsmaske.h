@@ -47,7 +47,7 @@ class Berichtsmaske : public Screen {
 
   private:
     QAbstractButton *wahl(Berichtsseite seite) const;
-    void klasseLesen();
+    void fnc_GeräteKlasse();
     bool vorlageWählen(Berichtsseite seite);
     void OKButton_Click();
     void drucken();

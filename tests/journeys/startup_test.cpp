@@ -1,5 +1,6 @@
 // Damaged databases, the language of the run, and the date of the lever arm: what the desktop shows
 // and what is told.
+#include <QDir>
 #include <QFile>
 #include <QProgressBar>
 
@@ -38,6 +39,18 @@ JOURNEY(Startup, DatabaseLockedForTheFirstScreenOnly) {
     other.execute("ROLLBACK");
     co_await go(R"(
         @Login ; txtUserName = M. Prüfer ; pbok ; @Desktop ; choose AEH-001, Kurzprüfung ; can pbMessen)");
+}
+
+JOURNEY_P(Startup, DatabaseOfAnOlderBuildIsBroughtUpToDateOnce) {
+    change("PRAGMA user_version = 0");
+    change("DROP TRIGGER ProtokollGelöscht");
+    co_await go(R"(
+        ? broughtUp ; select ; sql PRAGMA user_version == 1
+        sql SELECT count(*) FROM sqlite_master WHERE name = 'ProtokollGelöscht' == 1)");
+    const QStringList copies = QDir().entryList({"torvena470_vor_*.mdb"});
+    EXPECT_EQ(copies.size(), 1);
+    gDatenbank.openFile(copies.value(0));
+    EXPECT_EQ(grid("PRAGMA user_version"), "0");
 }
 
 JOURNEY(Startup, TitlesAreTakenBeforeAColumnIsMissing) {

@@ -17,6 +17,7 @@ namespace boxflags {
 using namespace platform;
 // clang-format off
 inline constexpr KnownBox boxTexts[] = {
+    {"broughtUp", Information, "Meldung", "Message", "Die Datenbank wurde auf den Stand dieses Programms gebracht.\rWie sie vorher war, liegt als torvena470_vor_…", "The database was brought up to date for this program.\rAs it was before, it lies beside it as torvena470_vor_…"},
     // reports
     {"noProtocols", Exclamation, "Meldung", "Message", "Es existieren keine Protokolle!", "There are no protocols!"},
     {"noSuchReport", Exclamation, "Eingabefehler", "Input Error", "Dieses Protokoll existiert nicht!", "This protocol does not exist!"},
