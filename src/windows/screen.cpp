@@ -1,6 +1,7 @@
 #include "windows/screen.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
@@ -24,6 +25,13 @@ namespace {
 bool hasWindowOrder() {
     return QGuiApplication::platformName() != "offscreen";
 }
+
+/// Takes another value when the mouse wheel turns over it.
+bool turnsByWheel(const QObject *object) {
+    return qobject_cast<const QComboBox *>(object) ||
+           qobject_cast<const QAbstractSpinBox *>(object);
+}
+
 } // namespace
 
 Running::Running(Screen *screen) : mScreen(screen) {
@@ -71,8 +79,10 @@ void Screen::showNotice() {
 void Screen::appear() {
     if (isVisible())
         return;
-    for (QComboBox *box : findChildren<QComboBox *>())
-        filterOf(box); // for the mouse wheel
+    for (QWidget *field : findChildren<QWidget *>()) {
+        if (turnsByWheel(field))
+            filterOf(field);
+    }
     for (QPushButton *button : findChildren<QPushButton *>()) {
         if (button->isDefault())
             button->setAutoDefault(
@@ -280,7 +290,7 @@ bool Screen::eventFilter(QObject *watched, QEvent *event) {
         return false;
     }
     case QEvent::Wheel: // would pick another entry unseen, and some picks are stored at once
-        if (!qobject_cast<QComboBox *>(watched))
+        if (!turnsByWheel(watched))
             return false;
         event->ignore();
         return true;

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QComboBox>
 #include <QGroupBox>
@@ -249,7 +250,8 @@ class Stil : public QProxyStyle {
             return;
         case PE_PanelLineEdit:
         case PE_FrameLineEdit:
-            if (widget && qobject_cast<const QComboBox *>(widget->parentWidget()))
+            if (widget && (qobject_cast<const QComboBox *>(widget->parentWidget()) ||
+                           qobject_cast<const QAbstractSpinBox *>(widget->parentWidget())))
                 return; // the box around it paints
             drawField(*option, painter, widget);
             return;
@@ -407,6 +409,9 @@ class Stil : public QProxyStyle {
         case CT_LineEdit:
         case CT_ComboBox:
             result.setHeight(std::max(result.height(), 28));
+            break;
+        case CT_SpinBox: // counts the field inside as one more
+            result.setHeight(28);
             break;
         case CT_ItemViewItem:
             result.setHeight(std::max(result.height(), 26));
