@@ -206,6 +206,32 @@ class Gallery : public Workplace {
         gDesktopFolge = {};
     }
 
+    /// A sheet under a new head, which begins with the newest one, and one that stands there.
+    Journey sheet(const char *button, frm name, const std::string &pictureName) {
+        for (const bool there : {false, true}) {
+            press(frm::Desktop, button);
+            co_await arrive(frm::BlutdruckAbfrage);
+            if (!there) {
+                press(frm::BlutdruckAbfrage, "obNeu");
+                type(frm::BlutdruckAbfrage, "txtNeu", "Wiederholung");
+            }
+            picture((pictureName + (there ? "-wahl" : "-wahl-neu")).c_str());
+            press(frm::BlutdruckAbfrage, "pbok");
+            co_await arrive(name);
+            picture((pictureName + (there ? "" : "-neu")).c_str());
+            press(name, "pbexit");
+            co_await arrive(frm::Desktop);
+        }
+    }
+
+    Journey sheets() {
+        const auto customer = std::exchange(gKundenID, 2), unit = std::exchange(gGerätID, 6);
+        co_await sheet("pbBlutdruck", frm::Blutdruck, "blutdruck");
+        co_await sheet("pbSecControl", frm::SecControl, "seccontrol");
+        gKundenID = customer;
+        gGerätID = unit;
+    }
+
     Journey rounds() {
         start();
         co_await pass(100);
@@ -260,6 +286,7 @@ class Gallery : public Workplace {
         co_await arrive(frm::Desktop);
 
         picture("desktop-gewählt");
+        co_await sheets();
         press(frm::Desktop, "pbDrehR");
         co_await arrive(frm::MotorDrehR);
         picture("motordrehr-offen");

@@ -12,6 +12,7 @@
 #include "link/einlauf.h"
 #include "platform/fehler.h"
 #include "platform/runtime.h"
+#include "protocols/frmBlutdruckAbfrage.h"
 #include "records/geraetedaten.h"
 #include "records/leitung.h"
 #include "records/normal.h"
@@ -95,8 +96,8 @@ void frmDesktop::verdrahten() {
     öffnet(nullptr, ui.mnuEinlaufen, frm::Einlaufen, nullptr);
     öffnet(nullptr, ui.mnuKalibrierung, frm::Kalibrierung, &frmDesktop::mnuKalibrierung_Click);
     öffnet(ui.pbDrehR, nullptr, frm::MotorDrehR, nullptr);
-    öffnet(ui.pbBlutdruck, nullptr, frm::Blutdruck, nullptr);
-    öffnet(ui.pbSecControl, nullptr, frm::SecControl, nullptr);
+    öffnet(ui.pbBlutdruck, nullptr, frm::Blutdruck, &frmDesktop::pbBlutdruck_Click);
+    öffnet(ui.pbSecControl, nullptr, frm::SecControl, &frmDesktop::pbSecControl_Click);
     öffnet(ui.pbEndprüf, nullptr, frm::Endprüf, nullptr);
     onClick(ui.pbMotein, [this] { pbMotein_Click(); });
     onClick(ui.pbMotaus, [this] { pbMotaus_Click(); });
@@ -320,6 +321,14 @@ void frmDesktop::pbMotaus_Click() try { mMotor.aus(); } catch (const Fehler &feh
 void frmDesktop::pbMessen_Click() {
     if (mMotor.messbereit())
         form(frm::StatMessen).showModal();
+}
+
+void frmDesktop::pbBlutdruck_Click() {
+    frmBlutdruckAbfrage::fragen(frm::Blutdruck);
+}
+
+void frmDesktop::pbSecControl_Click() {
+    frmBlutdruckAbfrage::fragen(frm::SecControl);
 }
 
 void frmDesktop::mnuGerät_Click() try {

@@ -72,6 +72,8 @@ class frmDesktop : public Screen, public Motorfenster {
     void pbMotein_Click();
     void pbMotaus_Click();
     void pbMessen_Click();
+    void pbBlutdruck_Click();
+    void pbSecControl_Click();
 
     Ui::frmDesktop ui;
     Motorbedienung mMotor;

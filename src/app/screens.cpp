@@ -30,8 +30,11 @@
 #include "protocols/frmBericht1.h"
 #include "protocols/frmBerichtSichern.h"
 #include "protocols/frmPrinterPDF.h"
+#include "protocols/frmBlutdruck.h"
+#include "protocols/frmBlutdruckAbfrage.h"
 #include "protocols/frmProtokollNr.h"
 #include "protocols/frmProtokollNr_1.h"
+#include "protocols/frmSecControl.h"
 
 void bindScreens() {
     bindScreen<frmSplash>();
@@ -65,4 +68,7 @@ void bindScreens() {
     bindScreen<frmBericht1>();
     bindScreen<frmBerichtSichern>();
     bindScreen<frmPrinterPDF>();
+    bindScreen<frmBlutdruckAbfrage>();
+    bindScreen<frmBlutdruck>();
+    bindScreen<frmSecControl>();
 }

@@ -28,7 +28,8 @@ frmProtokollNr::frmProtokollNr()
     : Protokolldialog({"       Prüfprotokoll: ", "       Test Protocol: "}) {
     ui.setupUi(this);
     mWahl.verbinden(
-        {ui.obNeu, ui.obVorhanden, ui.txtNeu, ui.lbProtokollID, ui.cmbVorhanden, ui.pbok});
+        {ui.obNeu, ui.obVorhanden, ui.txtNeu, ui.lbProtokollID, ui.cmbVorhanden, ui.pbok},
+        leereProtokolle);
     onClick(ui.obNeu, [this] { mWahl.neuGewählt(); });
     onClick(ui.obVorhanden, [this] { obVorhanden_Click(); });
     onClick(ui.obLetztes, [this] { obLetztes_Click(); });
@@ -55,7 +56,7 @@ void frmProtokollNr::Form_Load() try {
 }
 
 void frmProtokollNr::fnc_LeereProtokolle() try {
-    mWahl.leereZeigen();
+    mWahl.listeZeigen();
 } catch (const Fehler &fehler) {
     fehlerBox("9701 - ", fehler);
 }

@@ -22,15 +22,16 @@ void füllen(QComboBox &liste, const QStringList &einträge) {
 
 } // namespace
 
-void Protokollwahl::verbinden(const Felder &felder) {
+void Protokollwahl::verbinden(const Felder &felder, QStringList (*einträge)()) {
     mFelder = felder;
+    mEinträge = einträge;
     mFelder.liste->setCompleter(nullptr); // 1 is not to become 12 while it is typed
 }
 
-void Protokollwahl::leereZeigen() const {
-    const QStringList leere = leereProtokolle();
-    füllen(*mFelder.liste, leere);
-    mFelder.vorhanden->setEnabled(!leere.isEmpty());
+void Protokollwahl::listeZeigen() const {
+    const QStringList einträge = mEinträge();
+    füllen(*mFelder.liste, einträge);
+    mFelder.vorhanden->setEnabled(!einträge.isEmpty());
 }
 
 void Protokollwahl::nummerVergeben() const {
@@ -73,7 +74,7 @@ void Protokollwahl::nachschlagen() const {
 }
 
 std::optional<QString> Protokollwahl::gewählterEintrag() const {
-    const QStringList gefunden = protokolleMitNummer(gProtokollWahl);
+    const QStringList gefunden = mitNummer(mEinträge(), gProtokollWahl);
     if (gefunden.isEmpty()) {
         fehltMelden();
         return {};

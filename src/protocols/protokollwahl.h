@@ -1,9 +1,9 @@
-// The choice of a protocol: a new one under the next number, or one of those that have no measured
-// values yet, whose number may be typed. A part of the dialogs that ask for it; the screen wires
-// the events. The number that stands in the list's box is kept in gProtokollWahl.
+// The choice of a protocol: a new one under the next number, or one of those that the list offers,
+// whose number may be typed. A part of the dialogs that ask for it; the screen wires the events.
+// The number that stands in the list's box is kept in gProtokollWahl.
 #pragma once
 
-#include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -22,11 +22,11 @@ class Protokollwahl {
         QComboBox *liste; ///< of existing ones
         QPushButton *ok;
     };
-    /// Called once, before everything else.
-    void verbinden(const Felder &felder);
+    /// Called once, before everything else. `einträge` is what the list offers, as "12 - name".
+    void verbinden(const Felder &felder, QStringList (*einträge)());
 
     /// Fills the list; without an entry there is no such option. Raises what the store raises.
-    void leereZeigen() const;
+    void listeZeigen() const;
     /// Takes the next number; without one there is no new protocol. Raises what the store raises.
     void nummerVergeben() const;
 
@@ -51,4 +51,5 @@ class Protokollwahl {
 
   private:
     Felder mFelder{};
+    QStringList (*mEinträge)() = nullptr;
 };

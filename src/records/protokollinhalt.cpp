@@ -10,6 +10,12 @@ QString endung(Bestand bestand) {
     return bestand == Bestand::Arbeit ? "_temp" : "";
 }
 
+bool hatZeilen(const QString &tabelle, Schlüssel protokollID) {
+    return !gDatenbank
+                .open("SELECT 1 FROM " + tabelle + " WHERE ProtokollID = ? LIMIT 1", {protokollID})
+                .empty();
+}
+
 void zeilenLöschen(const QString &tabelle, Schlüssel protokollID) {
     gDatenbank.execute("DELETE FROM " + tabelle + " WHERE ProtokollID = ?", {protokollID});
 }
@@ -26,11 +32,11 @@ QString tabelle(Bestand bestand, Inhalt inhalt) {
 }
 
 bool vorhanden(Bestand bestand, Inhalt inhalt, Schlüssel protokollID) {
-    return !gDatenbank
-                .open("SELECT 1 FROM " + tabelle(bestand, inhalt) +
-                          " WHERE ProtokollID = ? LIMIT 1",
-                      {protokollID})
-                .empty();
+    return hatZeilen(tabelle(bestand, inhalt), protokollID);
+}
+
+bool kopfVorhanden(Bestand bestand, Schlüssel protokollID) {
+    return hatZeilen(kopftabelle(bestand), protokollID);
 }
 
 bool inhaltslos(Bestand bestand, Schlüssel protokollID) {

@@ -15,6 +15,7 @@ QString kopftabelle(Bestand bestand);
 QString tabelle(Bestand bestand, Inhalt inhalt);
 
 bool vorhanden(Bestand bestand, Inhalt inhalt, Schlüssel protokollID);
+bool kopfVorhanden(Bestand bestand, Schlüssel protokollID);
 /// No measured value and no sheet.
 bool inhaltslos(Bestand bestand, Schlüssel protokollID);
 

@@ -1,6 +1,6 @@
 #include "records/protokollnummer.h"
 
-#include "records/protokollinhalt.h"
+#include "records/blatt.h"
 #include "records/spalte.h"
 
 #include <algorithm>
@@ -20,6 +20,35 @@ bool gleich(const Feld &feld, int wert) {
     return !feld.isNull() && feld.whole() == wert;
 }
 
+/// Of the chosen customer and unit, as "12 - name".
+QStringList köpfe(const QString &bedingung) {
+    return spalte(gDatenbank.open("SELECT ProtokollID || ' - ' || COALESCE(Protokollname, '') "
+                                  "FROM Protokoll_temp WHERE KundenID = ? AND GerätID = ?" +
+                                      bedingung + " ORDER BY ProtokollID",
+                                  {gKundenID, gGerätID}));
+}
+
+/// What only a measurement knows.
+struct Messeinstellung {
+    QVariant drehrichtung, toleranzID, messverfahren;
+};
+
+/// Clears what was left over under the number, by a move that ended half-way for instance.
+void kopfSchreiben(Schlüssel nummer, const QString &name, const Messeinstellung &messung) {
+    const Feld normal = gDatenbank.open("SELECT MAX(NK_ID) FROM Normalkalibrierdaten")[0];
+    gDatenbank.execute("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, Prüfername, "
+                       "GerätID, KundenID, Drehrichtung, PrüfungsArt, NK_ID, Messverfahren) "
+                       "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)",
+                       {nummer, name, gPrüfer, gGerätID, gKundenID, messung.drehrichtung,
+                        messung.toleranzID, normal.value(), messung.messverfahren});
+    const bool archiviert = kopfVorhanden(Bestand::Archiv, nummer);
+    for (const Inhalt inhalt : alleInhalte) {
+        inhaltLöschen(Bestand::Arbeit, inhalt, nummer);
+        if (!archiviert)
+            inhaltLöschen(Bestand::Archiv, inhalt, nummer);
+    }
+}
+
 } // namespace
 
 Schlüssel nächsteProtokollNr() {
@@ -35,21 +64,18 @@ Schlüssel nächsteProtokollNr() {
 }
 
 QStringList leereProtokolle() {
-    return spalte(gDatenbank.open("SELECT Protokoll_temp.ProtokollID || ' - ' || "
-                                  "COALESCE(Protokoll_temp.Protokollname, '') "
-                                  "FROM Protokoll_temp LEFT JOIN Messwerte_temp"
-                                  " ON Protokoll_temp.ProtokollID = Messwerte_temp.ProtokollID "
-                                  "WHERE Messwerte_temp.ProtokollID IS NULL"
-                                  " AND Protokoll_temp.KundenID = ? AND Protokoll_temp.GerätID = ? "
-                                  "ORDER BY Protokoll_temp.ProtokollID",
-                                  {gKundenID, gGerätID}));
+    return köpfe(" AND NOT EXISTS (SELECT 1 FROM Messwerte_temp "
+                 "WHERE Messwerte_temp.ProtokollID = Protokoll_temp.ProtokollID)");
 }
 
-QStringList protokolleMitNummer(Schlüssel nummer) {
-    QStringList gefunden = leereProtokolle();
-    gefunden.removeIf(
+QStringList offeneProtokolle() {
+    return köpfe({});
+}
+
+QStringList mitNummer(QStringList einträge, Schlüssel nummer) {
+    einträge.removeIf(
         [nummer](const QString &eintrag) { return protokollNrAus(eintrag) != nummer; });
-    return gefunden;
+    return einträge;
 }
 
 Schlüssel protokollNrAus(const QString &eintrag) {
@@ -84,21 +110,16 @@ LetztesProtokoll letztesProtokollPrüfen() {
 }
 
 void kopfAnlegen(Schlüssel nummer, const QString &name) {
-    const Feld normal = gDatenbank.open("SELECT MAX(NK_ID) FROM Normalkalibrierdaten")[0];
     gDatenbank.together([&] {
-        gDatenbank.execute("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, Prüfername, "
-                           "GerätID, KundenID, Drehrichtung, PrüfungsArt, NK_ID, Messverfahren) "
-                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?)",
-                           {nummer, name, gPrüfer, gGerätID, gKundenID, gDrehrichtung, gToleranzID,
-                            normal.value(), gMessverfahren});
-        // Left over under this number, by a move that ended half-way for instance.
-        const bool archiviert =
-            !gDatenbank.open("SELECT 1 FROM Protokoll WHERE ProtokollID = ?", {nummer}).empty();
-        for (const Inhalt inhalt : alleInhalte) {
-            inhaltLöschen(Bestand::Arbeit, inhalt, nummer);
-            if (!archiviert)
-                inhaltLöschen(Bestand::Archiv, inhalt, nummer);
-        }
+        kopfSchreiben(nummer, name, {gDrehrichtung, gToleranzID, gMessverfahren});
+    });
+}
+
+void blattkopfAnlegen(Schlüssel nummer, const QString &name, Inhalt blatt) {
+    gDatenbank.together([&] {
+        kopfSchreiben(nummer, name, {});
+        if (blatt == Inhalt::SecControl)
+            sicherheitszeileAnlegen(nummer);
     });
 }
 

@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-#include "session/session.h"
+#include "records/protokollinhalt.h"
 
 /// One above the highest number of working tables and archive. Nothing reserves it: it is taken
 /// when its head is written. Raises Overflow when the numbers are used up.
@@ -14,8 +14,11 @@ Schlüssel nächsteProtokollNr();
 /// Heads without measured values of the chosen customer and unit, as "12 - name".
 QStringList leereProtokolle();
 
-/// Those of leereProtokolle() that bear this number.
-QStringList protokolleMitNummer(Schlüssel nummer);
+/// All heads of the chosen customer and unit that are not archived, as "12 - name".
+QStringList offeneProtokolle();
+
+/// Those entries that bear this number.
+QStringList mitNummer(QStringList einträge, Schlüssel nummer);
 
 /// The number that leads an entry; 0 when none does that a protocol could have.
 Schlüssel protokollNrAus(const QString &eintrag);
@@ -31,6 +34,10 @@ LetztesProtokoll letztesProtokollPrüfen();
 /// its number stays in the working tables. Raises DuplicateKey when the number has been taken
 /// meanwhile.
 void kopfAnlegen(Schlüssel nummer, const QString &name);
+
+/// The same for a protocol that begins with this sheet, without what only a measurement knows:
+/// direction, specification, method. A safety sheet has its row at once.
+void blattkopfAnlegen(Schlüssel nummer, const QString &name, Inhalt blatt);
 
 /// Gives an existing head direction, specification and method of this session; customer, unit and
 /// standard stay. False when there is no such head.

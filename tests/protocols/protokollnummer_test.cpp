@@ -39,8 +39,8 @@ TEST_F(ProtokollNummer, EmptyAreOnlyThoseOfCustomerAndUnitWithoutValues) {
     kopf(4, QString());
     gDatenbank.execute("UPDATE Protokoll_temp SET Protokollname = NULL WHERE ProtokollID = 4");
     EXPECT_EQ(leereProtokolle(), (QStringList{"4 - ", "10 - Blutdruck"}));
-    EXPECT_EQ(protokolleMitNummer(10), QStringList{"10 - Blutdruck"});
-    EXPECT_TRUE(protokolleMitNummer(1).isEmpty());
+    EXPECT_EQ(mitNummer(leereProtokolle(), 10), QStringList{"10 - Blutdruck"});
+    EXPECT_TRUE(mitNummer(leereProtokolle(), 1).isEmpty());
 }
 
 TEST_F(ProtokollNummer, LastMayBeContinuedUnlessAnythingDiffers) {

@@ -125,6 +125,15 @@ inline constexpr KnownBox boxTexts[] = {
     // protocols
     {"noProtocol", Exclamation, "Meldung", "Message", "Dieses Protokoll gibt es nicht!", "This protocol does not exist!"},
     {"protocolFailed", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1-  %2 …", "ERROR %1-  %2 …"},
+    {"saveSheet", YesNo + Question, "Protokoll speichern", "Save", "Soll das Protokoll gespeichert werden?", "Shall the protocol be saved?"},
+    {"pressureSaved", Information, " Bestätigung", "Confirmation!", " Daten wurden gespeichert. ", "Data have been saved!"},
+    {"pressureDeleted", Information, "Bestätigung!", "Confirmation!", "Daten wurden gelöscht!", "Data have been deleted!"},
+    {"pressureStandard", Exclamation, "Message!", "Message!", "Um das Protokoll speichern zu können ist die Nummer des Normals erforderlich!", "In order to be able to save the protocol, the number of the working standard has to be provided!"},
+    {"safetySaved", Information, " Bestätigung", " Confirmation", " Daten wurden gespeichert. ", " Data have been saved. "},
+    {"safetyDeleted", Information, "Meldung", "Message", "Daten wurden gelöscht!", "Data have been deleted!"},
+    {"safetyStandard", Exclamation, "Message!", "Message!", "Um das Protokoll speichern zu können, ist die Nummer des verwendeten Normals erforderlich!", "In order to be able to save the protocol, the number of the working standard has to be provided!"},
+    {"safetyEmpty", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler 9903-  3075 Ein Blatt ohne Messwerte wird nicht gespeichert. Bitte tragen Sie die Messwerte ein, oder verlassen Sie das Fenster mit \"Abbrechen\".", "ERROR 9903-  3075 A sheet without measured values is not saved. Please enter the measured values, or leave the window with \"Cancel\"."},
+    {"noDate", Exclamation, "Meldung", "Message", "\"%1\" ist kein Datum. Bitte prüfen Sie \"kalibriert bis\", bevor Sie speichern.", "\"%1\" is not a date. Please check \"Calibrated until\" before you save."},
     // zero point and measurement
     {"noStream", Exclamation, "Meldung", "Message", "Nach 15 Sek kein Empfang", "No reception after 15 sec!"},
     {"correctionOff", Exclamation, "Meldung", "Message", "Statische Nullpunkt-Korrektur abgebrochen", "Static zero-point correction has been discontinued!"},

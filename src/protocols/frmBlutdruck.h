@@ -1,0 +1,18 @@
+// The check of a unit's blood-pressure system: its display at seven pressures, rising and falling.
+#pragma once
+
+#include "protocols/pruefblatt.h"
+
+class frmBlutdruck : public Prüfblatt {
+  public:
+    static constexpr frm id = frm::Blutdruck;
+    frmBlutdruck();
+
+  protected:
+    void speichern() override { fnc_BlutdruckSpeichern(); }
+    void leerAblegen() override;
+
+  private:
+    void zeileAnlegen(int stufe);
+    void fnc_BlutdruckSpeichern();
+};
