@@ -15,6 +15,7 @@
 
 #include <cstdio>
 
+#include "boxtexts.h"
 #include "lookcheck.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -67,39 +68,23 @@ class Gallery : public Workplace {
     }
 
     /// A real box, answered once its picture is taken.
-    void box(int number, const Text &text, int flags, const Text &title) {
-        QTimer::singleShot(0, [this, number] {
+    void box(const char *key) {
+        const auto *known = std::find_if(std::begin(boxTexts), std::end(boxTexts),
+                                         [key](const KnownBox &one) { return key == QString(one.key); });
+        QTimer::singleShot(0, [this, key] {
             auto *window = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
             save(*window, mTarget,
-                 QString("box%1-%2").arg(number).arg(mLanguage == 1 ? "de" : "en"));
+                 QString("box-%1-%2").arg(key, mLanguage == 1 ? "de" : "en"));
             window->buttons().at(0)->click();
         });
-        meldung(text, flags, title);
+        meldung({known->german, known->english}, known->flags, {known->title, known->titleEnglish});
     }
 
     void messageBoxes() {
         using namespace platform;
         setBoxAnswerer({});
-        box(1,
-            {"Das Gerät ist noch nicht eingelaufen!\nWollen sie trotzdem die Messung beginnen ?",
-             "The unit was not run in yet!\nDo you want to start the measurement nevertheless?"},
-            YesNo + Exclamation + SecondButtonDefault, {"Messen starten", "Start Measuring"});
-        box(2,
-            {"Das Rezept ist abgearbeitet!\nBeenden Sie das Messen oder fahren Sie mit freier "
-             "Eingabe fort!",
-             "The recipe is finished!\nTerminate measuring or go on with free input!"},
-            Information, {"Meldung!", "Message!"});
-        box(3, {"Fehler", "Error"}, Critical, {"Motor aus", "Motor Off"});
-        box(4,
-            {"Wollen Sie das Programm wirklich beenden?",
-             "Do you really want to terminate the program?"},
-            YesNo + Question, {"Programmende", "End Of Program"});
-        box(5,
-            {"Der Motor konnte nicht ausgeschaltet werden und dreht sich vielleicht noch.\r"
-             "Soll das Programm trotzdem beendet werden?",
-             "The motor could not be switched off and may still be turning.\r"
-             "Shall the program be terminated all the same?"},
-            AbortRetryIgnore + Critical, {"Programmende", "End Of Program"});
+        for (const char *key : {"notRunIn", "recipeEnd", "silent", "end", "endTurning"})
+            box(key);
     }
 
     Journey opened(frm name, const char *pictureName) {

@@ -27,7 +27,7 @@ bool fits(const QWidget &widget, const QFont &font, const QString &text, QSize p
     const QSize needed = sizeOf(font, text);
     return text.isEmpty() ||
            (needed.width() <= place.width() && needed.height() <= place.height()) ||
-           widget.visibleRegion().isEmpty();
+           (widget.visibleRegion().isEmpty() && !place.isEmpty());
 }
 
 QString cutCaption(const QWidget &widget) {

@@ -44,7 +44,7 @@ constexpr Beschriftung english[] = {
     {"lbDatum", "Date:"},
     {"lbKunde", "Customer:"},
     {"lbGerät", "Unit:"},
-    {"lbGerätID", "Ident no.:"},
+    {"lbGerätID", "ID number:"},
     {"lbRezept", "Recipe:"},
     {"lbRezName", "Specification:"},
     {"lbNormal", "Standard:"},
@@ -103,6 +103,8 @@ void frmDesktop::auswahlZeigen() {
     ui.txtRezName->setText(wahl.rezept.isEmpty() ? QString() : gRezeptName);
     ui.txtNormal->setText(wahl.normal);
     ui.txtDatum->setText(wahl.datum);
+    for (QLineEdit *feld : {ui.txtKunde, ui.txtGerät, ui.txtGerätID, ui.txtRezept, ui.txtRezName})
+        feld->setCursorPosition(0); // a long name shows its start
 }
 
 void frmDesktop::showMotorInfo(const QString &text) {

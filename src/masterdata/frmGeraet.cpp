@@ -100,6 +100,8 @@ void frmGerät::zeigen(const Gerätedaten &gerät) {
     ui.txtHersteller->setText(gerät.hersteller);
     ui.txtSerienNr->setText(gerät.serienNr);
     ui.txtIdentNr->setText(gerät.identNr);
+    for (QLineEdit *feld : {ui.txtTyp, ui.txtHersteller, ui.txtSerienNr, ui.txtIdentNr})
+        feld->setCursorPosition(0); // a long text shows its start
 }
 
 void frmGerät::aktualisieren() {

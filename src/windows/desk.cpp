@@ -1,6 +1,8 @@
 #include "windows/desk.h"
 #include "platform/guard.h"
 
+#include <QKeyEvent>
+#include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
 #include <QWidget>
@@ -202,9 +204,19 @@ void Desk::customEvent(QEvent *event) {
     guarded([screen] { screen->Form_Activate(); });
 }
 
+/// A key held down walks from button to button, and one of them starts the motor.
+static bool heldEnterOnButton(const QObject *watched, const QEvent *event) {
+    if (event->type() != QEvent::KeyPress || !qobject_cast<const QAbstractButton *>(watched))
+        return false;
+    const auto *key = static_cast<const QKeyEvent *>(event);
+    return key->isAutoRepeat() && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);
+}
+
 bool Desk::eventFilter(QObject *watched, QEvent *event) {
     if (!isInput(event->type()))
         return false;
+    if (heldEnterOnButton(watched, event))
+        return true;
     Screen *screen = screenOf(watched);
     if (!screen)
         return false;

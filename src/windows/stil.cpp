@@ -20,6 +20,7 @@
 #include <algorithm>
 
 #include "windows/waiting.h"
+#include "windows/zeichen.h"
 
 namespace platform {
 
@@ -423,6 +424,31 @@ class Stil : public QProxyStyle {
             break;
         }
         return result;
+    }
+
+    /// The signs of message boxes: those of the screens.
+    QIcon standardIcon(StandardPixmap which, const QStyleOption *option,
+                       const QWidget *widget) const override {
+        const bool known = which == SP_MessageBoxCritical || which == SP_MessageBoxWarning ||
+                           which == SP_MessageBoxQuestion || which == SP_MessageBoxInformation;
+        if (!known)
+            return QProxyStyle::standardIcon(which, option, widget);
+        QIcon icon;
+        for (const int density : {1, 2}) {
+            QPixmap sign(48 * density, 48 * density);
+            sign.setDevicePixelRatio(density);
+            sign.fill(Qt::transparent);
+            QPainter painter(&sign);
+            const QRectF rect(2, 2, 44, 44);
+            if (which == SP_MessageBoxCritical)
+                zeichenMalen(painter, rect, Zeichen::Schlecht);
+            else if (which == SP_MessageBoxWarning)
+                zeichenMalen(painter, rect, Zeichen::Achtung);
+            else
+                hinweisMalen(painter, rect, which == SP_MessageBoxQuestion);
+            icon.addPixmap(sign);
+        }
+        return icon;
     }
 
     int pixelMetric(PixelMetric metric, const QStyleOption *option,

@@ -131,6 +131,27 @@ void strichMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen, const Q
     painter.restore();
 }
 
+void hinweisMalen(QPainter &painter, const QRectF &rect, bool frage) {
+    const QRectF square = squareIn(rect);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(square.topLeft());
+    painter.scale(square.width() / 100, square.height() / 100);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(farben().akzent);
+    painter.drawEllipse(QRectF(2, 2, 96, 96));
+    painter.setPen(QPen(farben().feld, 11, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::NoBrush);
+    if (frage) {
+        painter.translate(0, -6);
+        mark(painter, true);
+    } else {
+        painter.drawPoint(QPointF(50, 27));
+        painter.drawLine(QPointF(50, 48), QPointF(50, 75));
+    }
+    painter.restore();
+}
+
 void drehpfeilMalen(QPainter &painter, const QRectF &rect, bool rechtsherum, const QColor &farbe) {
     const QRectF square = squareIn(rect);
     painter.save();

@@ -24,6 +24,9 @@ QColor zeichenFarbe(Zeichen zeichen);
 /// The tick of Gut or the cross of Schlecht alone, without its ground.
 void strichMalen(QPainter &painter, const QRectF &rect, Zeichen zeichen, const QColor &farbe);
 
+/// What a message box asks or tells: a disc with "?" or "i".
+void hinweisMalen(QPainter &painter, const QRectF &rect, bool frage);
+
 /// An arc of 280 degrees with a head: clockwise, or the other way.
 void drehpfeilMalen(QPainter &painter, const QRectF &rect, bool rechtsherum, const QColor &farbe);
 
