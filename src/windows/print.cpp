@@ -11,6 +11,9 @@
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QTextDocument>
+#include <QTextFrame>
+
+#include <cmath>
 
 #include "platform/clock.h"
 #include "platform/fehler.h"
@@ -29,14 +32,39 @@ constexpr double margin = 15;                                                   
 constexpr double pageWidth = dots(210 - 2 * margin), pageHeight = dots(297 - 2 * margin); // of A4
 constexpr double gap = dots(3); // between head, body and foot
 
-constexpr auto styleSheet = "td, th { padding: 2px 4px; }"
-                            "th { font-weight: bold; text-align: left; }"
-                            "h1 { font-size: 16pt; margin: 0 0 4px 0; }"
-                            "h2 { font-size: 11pt; margin: 10px 0 4px 0; }"
-                            "p { margin: 0 0 4px 0; }"
-                            ".lines td, .lines th { border: 1px solid #808080; }"
-                            ".small { font-size: 7.5pt; }"
-                            ".big { font-size: 12pt; font-weight: bold; }";
+// Classes: `lines` a grid of one-line rows (`top` its first, `first` the first cell of each; the
+// borders are of the cells and not collapsed, for these are not drawn where a page ends), `pair`
+// names and values under a head, `fill` and `sign` to write on (`write`), `head` and `foot` of a
+// page; `big`, `small`, `legend`.
+constexpr auto styleSheet =
+    ".h1 { font-size: 18pt; font-weight: bold; }"
+    "p { margin: 0 0 4px 0; }"
+    "td, th { padding: 2px 4px; }"
+    "th { font-weight: bold; text-align: left; }"
+    ".big { font-size: 12pt; }"
+    ".small { font-size: 7.5pt; }"
+    ".legend { font-size: 7.5pt; margin: 4px 0 0 0; }"
+    ".title { font-size: 12pt; }"
+    "td.whole { padding: 4px 0 0 0; }"
+    ".lines { margin: 8px 0 0 0; }"
+    ".lines td, .lines th { border-right: 1px solid #606060; border-bottom: 1px solid #606060; "
+    "font-size: 7.5pt; padding: 1px 2px; white-space: nowrap; }"
+    ".sheet td, .sheet th { font-size: 9pt; padding: 3px 4px; }"
+    ".lines .first { border-left: 1px solid #606060; }"
+    ".lines tr.top th { border-top: 1px solid #606060; }"
+    ".lines th { text-align: center; background-color: #e8e8e8; }"
+    ".pair { margin: 6px 0 0 0; }"
+    ".pair td { padding: 1px 4px; }"
+    ".pair th { border-bottom: 1px solid #606060; }"
+    ".cover .pair { margin: 18px 0 0 0; }"
+    ".cover .pair td { padding: 3px 4px; }"
+    ".pair td.label { color: #404040; }"
+    ".fill { margin: 8px 0 0 0; }"
+    ".fill td.write, .sign td.write { border-bottom: 1px solid #000000; }"
+    ".sign { margin: 8px 0 0 0; }"
+    ".end { margin: 10px 0 0 0; }"
+    ".head td { border-bottom: 2px solid #000000; padding: 0 0 4px 0; }"
+    ".foot td { border-top: 1px solid #606060; padding: 4px 0 0 0; font-size: 7.5pt; }";
 
 QFont typeface() {
     QFont font("DejaVu Sans");
@@ -67,6 +95,19 @@ std::unique_ptr<QTextDocument> document(const QString &html, double height = -1)
     return result;
 }
 
+/// A table of up to half a page is not parted: it begins on the next page.
+void keepWhole(QTextDocument &body, double height) {
+    for (QTextFrame *table : body.rootFrame()->childFrames()) {
+        const QRectF place = body.documentLayout()->frameBoundingRect(table);
+        if (place.height() > height / 2 ||
+            std::floor(place.top() / height) == std::floor((place.bottom() - 1) / height))
+            continue;
+        QTextFrameFormat format = table->frameFormat();
+        format.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
+        table->setFrameFormat(format);
+    }
+}
+
 /// Takes what stands between the tags out of the text.
 QString takeOut(QString &html, const QString &tag) {
     const QRegularExpression part('<' + tag + ">(.*?)</" + tag + '>',
@@ -90,7 +131,19 @@ Report::Report(const QString &html, const QString &title) : mTitle(title) {
     mFoot = takeOut(body, "footer");
     mHeadHeight = mHead.isEmpty() ? 0 : document(mHead)->size().height() + gap;
     mFootHeight = mFoot.isEmpty() ? 0 : document(mFoot)->size().height() + gap;
-    mBody = document(body, pageHeight - mHeadHeight - mFootHeight);
+    double height = pageHeight - mHeadHeight - mFootHeight;
+    mBody = document(body, height);
+    // Nothing is cut off at the right: what is wider is set on a page that is larger by as much,
+    // and painted smaller.
+    if (const double wide = mBody->size().width() / pageWidth; wide > 1) {
+        height *= wide;
+        mBody->setPageSize({pageWidth * wide, height});
+    }
+    // The line that closes a table at the end of a page is not drawn on its very edge.
+    QTextFrameFormat whole = mBody->rootFrame()->frameFormat();
+    whole.setBottomMargin(dots(0.5));
+    mBody->rootFrame()->setFrameFormat(whole);
+    keepWhole(*mBody, height);
 }
 Report::~Report() = default;
 Report::Report(Report &&) noexcept = default;
@@ -107,6 +160,9 @@ void Report::paintPage(QPainter &painter, int page) const {
     const auto part = [&](const QTextDocument &text, double top, const QRectF &clip) {
         painter.save();
         painter.translate(0, top);
+        const double scale = pageWidth / text.pageSize().width();
+        painter.scale(scale, scale);
+        painter.translate(0, -clip.top());
         QAbstractTextDocumentLayout::PaintContext context;
         context.clip = clip;
         context.palette.setColor(QPalette::Text, Qt::black);
@@ -118,10 +174,10 @@ void Report::paintPage(QPainter &painter, int page) const {
         html.replace("@pages@", QString::number(pages()));
         return document(html.replace("@page@", QString::number(page + 1)));
     };
-    const double height = mBody->pageSize().height();
+    const QSizeF size = mBody->pageSize();
     if (!mHead.isEmpty())
         part(*numbered(mHead), 0, {0, 0, pageWidth, mHeadHeight});
-    part(*mBody, mHeadHeight - page * height, {0, page * height, pageWidth, height});
+    part(*mBody, mHeadHeight, {{0, page * size.height()}, size});
     if (!mFoot.isEmpty())
         part(*numbered(mFoot), pageHeight - mFootHeight + gap, {0, 0, pageWidth, mFootHeight});
 }
