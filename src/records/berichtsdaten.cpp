@@ -1,11 +1,13 @@
 #include "records/berichtsdaten.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
+#include <map>
 
 #include "platform/clock.h"
 #include "platform/fehler.h"
 #include "platform/runtime.h"
+#include "records/toleranz.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
@@ -15,7 +17,11 @@ using namespace platform;
 
 namespace {
 
-constexpr std::array stufentabellen{"Bericht1", "Bericht2", "Bericht3", "Bericht4"};
+const std::map<QString, Text> blätter{
+    {"Bericht1", {"Deckblatt", "Cover sheet"}},
+    {"Bericht2", {"Messergebnisse", "Measuring results"}},
+    {"Bericht3", {"Elektrische Sicherheit", "Electrical safety"}},
+    {"Bericht4", {"Blutdruck-Messsystem", "Blood-pressure system"}}};
 
 bool ja(const QString &urteil) {
     return urteil == "ja" || urteil == "yes";
@@ -27,24 +33,60 @@ bool mitAussage(const QString &konform) {
     return konform == "mit" || konform == "with";
 }
 
-/// As the layouts show it; an ISO date as dd.mm.yyyy, a number in the format of the session.
+/// As the layouts show it: a number in the format of the session.
 QString gezeigt(const QVariant &wert) {
-    if (wert.typeId() == QMetaType::Double)
-        return CStr(wert.toDouble());
-    const QString text = wert.toString();
-    static const QRegularExpression iso(R"(^\d{4}-\d{2}-\d{2}( .*)?$)");
-    return iso.match(text).hasMatch() ? datumText(datumAus(text)) : text;
+    return wert.typeId() == QMetaType::Double ? CStr(wert.toDouble()) : wert.toString();
 }
 
 LayoutFields felder(const Recordset &zeilen, int zeile) {
     LayoutFields felder;
     for (int spalte = 0; spalte < zeilen.columns().size(); ++spalte)
         felder[zeilen.columns()[spalte]] = gezeigt(zeilen.at(zeile, spalte));
+    // No other column is a date of ours: an ident number may well look like one.
+    for (const char *spalte :
+         {"ErstellDatum", "kalibriertVon", "kalibriertBis", "gemessenVon", "gemessenBis"})
+        if (const auto feld = felder.find(spalte); feld != felder.end())
+            if (const QDate datum = datumAus(*feld); datum.isValid())
+                *feld = datumText(datum);
     return felder;
 }
 
 QString marke(bool gilt) {
     return gilt ? QStringLiteral("1") : QString();
+}
+/// A count of which layouts speak only when there is something to count.
+QString anzahl(qsizetype zahl) {
+    return zahl == 0 ? QString() : QString::number(zahl);
+}
+
+/// A row of the cover sheet, and what all pages show of their head.
+LayoutFields kopffelder(const Recordset &kopf, Bestand bestand) {
+    LayoutFields kopfzeile = felder(kopf, 0);
+    const auto protokollID = static_cast<Schlüssel>(kopf["ProtokollID"].whole());
+    kopfzeile["ProtokollName"] = kopfzeile["ProtokollName"].trimmed();
+    const int richtung = kopf["Drehrichtung"].whole();
+    kopfzeile["Drehrichtung"] = richtung == 1   ? inSprache({"Rechtslauf", "Right"})
+                                : richtung == 2 ? inSprache({"Linkslauf", "Left"})
+                                                : QString();
+    kopfzeile["Ausstelldatum"] = datumText(now().date());
+    const QDate erstellt = datumAus(kopf["ErstellDatum"].text());
+    const QDate gültig = datumAus(kopf["kalibriertBis"].text());
+    kopfzeile["NormalAbgelaufen"] = marke(gültig.isValid() && erstellt > gültig);
+    kopfzeile["Medizinisch"] = {};
+    for (const Text &klasse : {klasseMedizin, klasseStationär})
+        if (kopfzeile["GKlasse"] == klasse.german || kopfzeile["GKlasse"] == klasse.english) {
+            kopfzeile["Medizinisch"] = marke(klasse.german == klasseMedizin.german);
+            kopfzeile["GKlasse"] = inSprache(klasse);
+        }
+    kopfzeile["AnMehrerenTagen"] = marke(kopfzeile["gemessenVon"] != kopfzeile["gemessenBis"]);
+    const double grenzAbw = kopf["GrenzAbw"].number();
+    kopfzeile["GrenzAbwGanz"] =
+        Round(grenzAbw) == grenzAbw ? QString() : CStr(Round(grenzAbw)); // what is judged by
+    for (const auto &[name, inhalt] : {std::pair{"MitMesswerten", Inhalt::Messwerte},
+                                       {"MitBlutdruck", Inhalt::Blutdruck},
+                                       {"MitSecControl", Inhalt::SecControl}})
+        kopfzeile[name] = marke(vorhanden(bestand, inhalt, protokollID));
+    return kopfzeile;
 }
 
 /// The head of the protocol by its number, never the stage table of another page.
@@ -56,90 +98,114 @@ LayoutFields kopffelder(Bestand bestand, Schlüssel protokollID) {
         throw Fehler(fehlernummer::NoCurrentRecord, {"Das Protokoll gibt es nicht mehr.",
                                                      "The protocol does not exist any more."});
     }
-    LayoutFields kopfzeile = felder(kopf, 0);
-    const int richtung = kopf["Drehrichtung"].whole();
-    kopfzeile["Drehrichtung"] = richtung == 1   ? inSprache({"Rechtslauf", "Right"})
-                                : richtung == 2 ? inSprache({"Linkslauf", "Left"})
-                                                : QString();
-    kopfzeile["Ausstelldatum"] = datumText(now().date());
-    const QDate erstellt = datumAus(kopf["ErstellDatum"].text());
-    const QDate gültig = datumAus(kopf["kalibriertBis"].text());
-    kopfzeile["NormalAbgelaufen"] = marke(gültig.isValid() && erstellt > gültig);
-    const QString klasse = kopf["GKlasse"].text();
-    kopfzeile["Medizinisch"] =
-        marke(klasse == "Medizinische Geräte" || klasse == "Medical Devices");
-    for (const char *zeit : {"gemessenVon", "gemessenBis"})
-        kopfzeile[zeit] = datumText(datumAus(kopf[zeit].text()));
-    kopfzeile["AnMehrerenTagen"] = marke(kopfzeile["gemessenVon"] != kopfzeile["gemessenBis"]);
-    return kopfzeile;
+    return kopffelder(kopf, bestand);
+}
+
+/// An uncertainty bears two digits that count.
+QString zweiStellen(const std::optional<double> &wert) {
+    if (!wert)
+        return {};
+    return Format(*wert, *wert < 0.995 ? "0.00" : *wert < 9.95 ? "0.0" : "0");
+}
+
+/// At least this many decimals, and those that the value has besides.
+QString genau(double wert, qsizetype stellen) {
+    const QString text = CStr(wert);
+    return text.section(numberLocale().decimalPoint(), 1).size() > stellen
+               ? text
+               : Format(wert, "0." + QString(stellen, '0'));
+}
+
+QString mitVorzeichen(double wert) {
+    return (wert > 0 ? "+" : "") + Format(wert, "0.00");
 }
 
 /// Numbers with their decimals, and what is reckoned from a row.
 void ergebnisErgänzen(LayoutFields &felder, const Recordset &zeilen, int zeile) {
-    const auto wert = [&](const char *spalte) {
-        return Feld(zeilen.at(zeile, zeilen.columnIndex(spalte)));
+    const auto wert = [&](const char *spalte) -> std::optional<double> {
+        const Feld feld(zeilen.at(zeile, zeilen.columnIndex(spalte)));
+        return feld.isNull() ? std::optional<double>() : feld.number();
     };
-    const auto zahl = [&](const char *spalte, const char *muster) {
-        felder[spalte] = wert(spalte).isNull() ? QString() : Format(wert(spalte).number(), muster);
+    const bool leistung = wert("Gruppe") == 1;
+    const auto zahl = [&](const char *spalte, int stellen) {
+        felder[spalte] = wert(spalte) ? genau(*wert(spalte), stellen) : QString();
     };
-    const bool leistung = wert("Gruppe").whole() == 1;
-    for (const char *spalte : {"Soll_n", "Soll_P", "ZulAbw", "TolAusN"})
-        zahl(spalte, "0.0");
-    for (const char *spalte : {"TorvenaMW", "TorvenaMW2", "TorvenaM", "RelAbw", "MU_Proz"})
-        zahl(spalte, "0.00");
+    for (const char *spalte : {"Soll_n", "Soll_P"})
+        zahl(spalte, 1);
+    for (const char *spalte : {"TorvenaMW", "TorvenaMW2", "TorvenaM", "ZulAbw", "TolAusN"})
+        zahl(spalte, 2);
     if (leistung)
-        zahl("ErgometerMW", "0.0"); // a reading stands as it was read
+        zahl("ErgometerMW", 1); // a reading stands as it was read
 
     Ergebniszeile ergebnis;
-    ergebnis.ergometer = wert("ErgometerMW").number();
-    ergebnis.normal = wert("TorvenaMW").number();
-    if (!wert("ZulAbw").isNull())
-        ergebnis.grenze = wert("ZulAbw").number();
-    ergebnis.muProz = wert("MU_Proz").number();
-    ergebnis.ohne = wert("MU_ohne").text();
-    ergebnis.mit = wert("MU_mit").text();
-    const double u = std::fabs(ergebnis.ergometer * ergebnis.muProz / 100);
-    const double abweichung = ergebnis.ergometer - ergebnis.normal;
-    felder["Abweichung"] = (abweichung > 0 ? "+" : "") + Format(abweichung, "0.00");
-    felder["Unsicherheit"] = Format(u, "0.00");
+    ergebnis.leistung = leistung;
+    ergebnis.ergometer = wert("ErgometerMW").value_or(0);
+    ergebnis.normal = wert("TorvenaMW").value_or(0);
+    ergebnis.grenze = wert("ZulAbw");
+    ergebnis.muProz = wert("MU_Proz");
+    ergebnis.ohne = felder["MU_ohne"];
+    ergebnis.mit = felder["MU_mit"];
+    const std::optional<double> u = unsicherheit(ergebnis);
+    felder["Abweichung"] = mitVorzeichen(ergebnis.ergometer - ergebnis.normal);
+    felder["RelAbw"] = wert("RelAbw") ? mitVorzeichen(*wert("RelAbw")) : QString();
+    felder["Unsicherheit"] = zweiStellen(u);
+    felder["MU_Proz"] = u ? zweiStellen(ergebnis.muProz) : QString();
     felder["Einheit"] = leistung ? QString("W") : inSprache({"1/min", "rpm"});
     felder["Leistung"] = marke(leistung);
+    felder["UnsicherheitGroß"] = marke(u && ergebnis.grenze && *u > *ergebnis.grenze / 3);
     felder["Fußnote"] = marke(!urteilFolgt(ergebnis));
 }
 
 /// Sums of the page, and the rows apart by what they measured.
 void ergebnisseErgänzen(LayoutData &daten) {
-    LayoutList &alle = daten.lists["Bericht2"];
-    LayoutList leistung{alle.columns, {}}, drehzahl{alle.columns, {}};
-    int eingehalten = 0, bedingt = 0, nicht = 0, gut = 0, fußnoten = 0;
-    for (const LayoutFields &zeile : alle.rows) {
-        (zeile["Leistung"].isEmpty() ? drehzahl : leistung).rows.push_back(zeile);
-        eingehalten += ja(zeile["MU_mit"]);
-        nicht += nein(zeile["MU_mit"]);
-        bedingt += zeile["MU_mit"] == "?";
-        gut += ja(zeile["MU_ohne"]);
-        fußnoten += !zeile["Fußnote"].isEmpty();
-    }
-    const qsizetype punkte = qsizetype(alle.rows.size());
-    for (const auto &[name, anzahl] : {std::pair<const char *, qsizetype>{"Messpunkte", punkte},
-                                       {"Eingehalten", eingehalten},
-                                       {"Bedingt", bedingt},
-                                       {"NichtEingehalten", nicht},
-                                       {"OhneMUEingehalten", gut},
-                                       {"OhneMUNichtEingehalten", punkte - gut}})
-        daten.fields[name] = QString::number(anzahl);
-    daten.fields["Fußnoten"] = marke(fußnoten > 0);
-    daten.fields["MitAussage"] = marke(!alle.rows.empty() && mitAussage(alle.rows[0]["Konform"]));
-    daten.lists["Leistungsmessung"] = std::move(leistung);
-    daten.lists["Drehzahlmessung"] = std::move(drehzahl);
+    const LayoutList &alle = daten.lists["Bericht2"];
+    const auto zeilen = [&](const auto &gezählt) {
+        return std::count_if(alle.rows.begin(), alle.rows.end(), gezählt);
+    };
+    const auto urteile = [&](const char *spalte, bool (*gefällt)(const QString &)) {
+        return zeilen([=](const LayoutFields &zeile) { return gefällt(zeile[spalte]); });
+    };
+    const auto mit = [&](const char *feld) {
+        return zeilen([=](const LayoutFields &zeile) { return !zeile[feld].isEmpty(); });
+    };
+    const auto offen = [](const QString &urteil) { return urteil == "?"; };
+    const auto fehlt = [](const QString &urteil) { return urteil.isEmpty(); };
+    const auto fremd = [](const QString &urteil) {
+        return inDeutsch() ? urteil == "yes" || urteil == "no" : urteil == "ja" || urteil == "nein";
+    };
+    const qsizetype punkte = qsizetype(alle.rows.size()), leistung = mit("Leistung");
+    LayoutFields &felder = daten.fields;
+    for (const auto &[name, zahl] : {std::pair<const char *, qsizetype>{"Messpunkte", punkte},
+                                     {"Eingehalten", urteile("MU_mit", ja)},
+                                     {"NichtEingehalten", urteile("MU_mit", nein)},
+                                     {"Unentschieden", urteile("MU_mit", offen)},
+                                     {"OhneMUEingehalten", urteile("MU_ohne", ja)},
+                                     {"OhneMUNichtEingehalten", urteile("MU_ohne", nein)}})
+        felder[name] = QString::number(zahl);
+    for (const auto &[name, zahl] :
+         {std::pair<const char *, qsizetype>{"Leistungspunkte", leistung},
+          {"Drehzahlpunkte", punkte - leistung},
+          {"FreieSchritte", zeilen([](const LayoutFields &z) { return z["Prüfschritt"] == "FR"; })},
+          {"OhneUrteil", urteile("MU_mit", fehlt)},
+          {"OhneUnsicherheit", punkte - mit("Unsicherheit")},
+          {"UnsicherheitenGroß", mit("UnsicherheitGroß")},
+          {"Fußnoten", mit("Fußnote")}})
+        felder[name] = anzahl(zahl);
+    felder["AndereSprache"] = marke(urteile("MU_ohne", fremd) + urteile("MU_mit", fremd) > 0);
+    felder["MitAussage"] = marke(mitAussage(alle.rows.front()["Konform"]));
+
+    LayoutList nachLeistung{alle.columns, {}}, nachDrehzahl{alle.columns, {}};
+    for (const LayoutFields &zeile : alle.rows)
+        (zeile["Leistung"].isEmpty() ? nachDrehzahl : nachLeistung).rows.push_back(zeile);
+    daten.lists["Leistungsmessung"] = std::move(nachLeistung);
+    daten.lists["Drehzahlmessung"] = std::move(nachDrehzahl);
 }
 
 } // namespace
 
 QString gelesen(const Layout &layout) {
     for (const QString &abschnitt : layout.sections()) {
-        if (std::find(stufentabellen.begin(), stufentabellen.end(), abschnitt) !=
-            stufentabellen.end())
+        if (blätter.contains(abschnitt))
             return abschnitt;
         if (abschnitt == "Leistungsmessung" || abschnitt == "Drehzahlmessung")
             return "Bericht2";
@@ -161,31 +227,51 @@ LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüss
                       "The page was not prepared for this protocol. Please print it again."});
     }
     LayoutData daten{kopffelder(bestand, protokollID), {}};
+    daten.fields["Blatt"] = inSprache(blätter.at(stufentabelle));
     LayoutList liste;
     for (int zeile = 0; zeile < zeilen.count(); ++zeile) {
         liste.rows.push_back(felder(zeilen, zeile));
         if (stufentabelle == "Bericht2")
             ergebnisErgänzen(liste.rows.back(), zeilen, zeile);
-        liste.rows.back()["Drehrichtung"] = daten.fields["Drehrichtung"];
+        if (liste.rows.back().contains("Drehrichtung"))
+            liste.rows.back()["Drehrichtung"] = daten.fields["Drehrichtung"];
     }
+    if (stufentabelle == "Bericht1")
+        liste.rows.front() = kopffelder(zeilen, bestand);
     liste.columns = liste.rows.front().keys();
+    for (const QString &spalte : liste.columns) // the sheets repeat their standard in each row
+        if (spalte.endsWith("_BD") || spalte.endsWith("_STK"))
+            daten.fields[spalte] = liste.rows.front()[spalte];
     daten.lists[stufentabelle] = std::move(liste);
     if (stufentabelle == "Bericht2")
         ergebnisseErgänzen(daten);
     return daten;
 }
 
+std::optional<double> unsicherheit(const Ergebniszeile &zeile) {
+    if (!zeile.muProz || (zeile.leistung && zeile.ergometer == 0 && *zeile.muProz != 0))
+        return {};
+    return std::fabs(zeile.ergometer * *zeile.muProz / 100);
+}
+
 bool urteilFolgt(const Ergebniszeile &zeile) {
-    if (!zeile.grenze)
-        return zeile.ohne.isEmpty() && zeile.mit.isEmpty();
+    if (zeile.ohne.isEmpty() && zeile.mit.isEmpty())
+        return true;
+    const std::optional<double> anteil = unsicherheit(zeile);
+    if (!zeile.grenze || !anteil)
+        return false;
     constexpr double spiel = 1e-9;
     const double d = std::fabs(zeile.ergometer - zeile.normal);
-    const double u = std::fabs(zeile.ergometer * zeile.muProz / 100);
     const double t = *zeile.grenze;
+    const auto mitFolgt = [&](double u) {
+        return (ja(zeile.mit) && d + u <= t + spiel) || (nein(zeile.mit) && d - u > t - spiel) ||
+               (zeile.mit == "?" && d + u > t - spiel && d - u <= t + spiel);
+    };
     const bool ohneFolgt =
         (ja(zeile.ohne) && d <= t + spiel) || (nein(zeile.ohne) && d > t - spiel);
-    const bool mitFolgt = (ja(zeile.mit) && d + u <= t + spiel) ||
-                          (nein(zeile.mit) && d - u > t - spiel) ||
-                          (zeile.mit == "?" && d + u > t - spiel && d - u <= t + spiel);
-    return ohneFolgt && mitFolgt;
+    // A fixed uncertainty in W is stored as a share of the set-point's whole watts when this was
+    // typed with a decimal comma.
+    const double ganze = zeile.leistung ? std::trunc(zeile.ergometer) : 0;
+    const double fest = ganze == 0 ? *anteil : std::fabs(ganze * *zeile.muProz / 100);
+    return ohneFolgt && (mitFolgt(*anteil) || mitFolgt(fest));
 }

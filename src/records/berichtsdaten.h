@@ -6,6 +6,8 @@
 #include "records/bericht.h"
 #include "windows/layout.h"
 
+#include <optional>
+
 /// The stage table that a layout reads: the first of its sections that names one. Raises
 /// LayoutBroken without any.
 QString gelesen(const platform::Layout &layout);
@@ -16,13 +18,17 @@ platform::LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand
 
 /// The verdicts of a stored row and the numbers that they were given by.
 struct Ergebniszeile {
+    bool leistung = true;
     double ergometer = 0;         ///< W or 1/min
     double normal = 0;            ///< the same quantity of the working standard
     std::optional<double> grenze; ///< permissible deviation, W or 1/min
-    double muProz = 0;            ///< expanded uncertainty, % of `ergometer`
+    std::optional<double> muProz; ///< expanded uncertainty, % of `ergometer`
     QString ohne, mit;            ///< ja, nein, yes, no; ?
 };
+/// Expanded uncertainty, W or 1/min. Nothing where none is stored, and at 0 W, where the stored
+/// number is no share of anything.
+std::optional<double> unsicherheit(const Ergebniszeile &zeile);
 /// Whether the verdicts follow from the numbers of their own row, by the decision rule of
 /// measure/bewertung.h. At a limit both sides count as following, within 1e-9 W or 1/min: so no
-/// verdict is doubted that was given from the same numbers.
+/// verdict is doubted that was given from the same numbers. A row without verdicts claims nothing.
 bool urteilFolgt(const Ergebniszeile &zeile);
