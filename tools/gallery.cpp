@@ -69,12 +69,12 @@ class Gallery : public Workplace {
 
     /// A real box, answered once its picture is taken.
     void box(const char *key) {
-        const auto *known = std::find_if(std::begin(boxTexts), std::end(boxTexts),
-                                         [key](const KnownBox &one) { return key == QString(one.key); });
+        const auto *known =
+            std::find_if(std::begin(boxTexts), std::end(boxTexts),
+                         [key](const KnownBox &one) { return key == QString(one.key); });
         QTimer::singleShot(0, [this, key] {
             auto *window = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            save(*window, mTarget,
-                 QString("box-%1-%2").arg(key, mLanguage == 1 ? "de" : "en"));
+            save(*window, mTarget, QString("box-%1-%2").arg(key, mLanguage == 1 ? "de" : "en"));
             window->buttons().at(0)->click();
         });
         meldung({known->german, known->english}, known->flags, {known->title, known->titleEnglish});
@@ -83,7 +83,7 @@ class Gallery : public Workplace {
     void messageBoxes() {
         using namespace platform;
         setBoxAnswerer({});
-        for (const char *key : {"notRunIn", "recipeEnd", "silent", "end", "endTurning"})
+        for (const char *key : {"notRunIn", "recipeEnd", "noController", "end", "endAnyway"})
             box(key);
     }
 

@@ -1,10 +1,10 @@
 #include "windows/desk.h"
 #include "platform/guard.h"
 
-#include <QKeyEvent>
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QWidget>
 
 #include <algorithm>

@@ -231,8 +231,11 @@ void saveReport(const QByteArray &pdf, const QString &path) {
         refused(path);
     if (file.exists()) {
         const QDir kept(file.dir().filePath("ersetzt"));
-        const QString name = kept.filePath(
-            file.completeBaseName() + now().toString("_yyyy-MM-dd_HH-mm-ss-zzz.") + file.suffix());
+        const QString stem =
+            kept.filePath(file.completeBaseName() + now().toString("_yyyy-MM-dd_HH-mm-ss-zzz"));
+        QString name = stem + '.' + file.suffix();
+        for (int again = 2; QFileInfo::exists(name); ++again)
+            name = QString("%1_%2.%3").arg(stem).arg(again).arg(file.suffix());
         if (!kept.mkpath(".") || !QFile::copy(path, name))
             refused(name);
     }

@@ -89,16 +89,16 @@ TEST_F(Print, ReportsArePdfOfPagesWithHeadAndFoot) {
     for (const char *part : {"pdfaid:part=\"1\"", "/OutputIntents", "/FontFile"})
         EXPECT_TRUE(pdf.contains(part)) << part;
     EXPECT_FALSE(pdf.contains("/EmbeddedFiles"));
-    saveReport(pdf, "/tmp/pt/a.pdf");
 }
 
 TEST_F(Print, AFileIsWholeUnderItsNameAndTheFormerOneKept) {
     const QString path = directory.filePath("PDF/12/12.pdf");
     saveReport("first", path);
-    saveReport("second", path);
-    EXPECT_EQ(contents(path), "second");
+    for (const char *later : {"second", "third"})
+        saveReport(later, path);
+    EXPECT_EQ(contents(path), "third");
     const QDir kept(directory.filePath("PDF/12/ersetzt"));
-    ASSERT_EQ(kept.entryList(QDir::Files).size(), 1);
+    ASSERT_EQ(kept.entryList(QDir::Files).size(), 2);
     EXPECT_EQ(contents(kept.filePath(kept.entryList(QDir::Files).front())), "first");
 
     written("in-the-way", "");
