@@ -46,6 +46,12 @@ void frmMessen::eingabenVerdrahten() {
         return true;
     });
 
+    for (QLineEdit *box : {ui.txtSoll_P, ui.txtIST_n_ergom}) // Alt and a sign is for the buttons
+        onKey(box, [](const QKeyEvent &taste) {
+            return (taste.modifiers() & Qt::AltModifier) &&
+                   (taste.text() == "+" || taste.text() == "-");
+        });
+
     on(ui.cmbMessArt, &QComboBox::editTextChanged, [this] { ausführenFreigeben(); });
     on(ui.cmbMessArt, &QComboBox::activated, [this] {
         mEingabe.artAusListe();

@@ -61,7 +61,9 @@ void frmMessen::durchgang() try {
             mTakt.beginnen(mEingabe.drehzahl());
             mEmpfang.fnc_SechsRundenEmpfang([this](auto was, double wert) { zeige(was, wert); },
                                             [this] { return abgelöst(); }, !mAnsicht.bedient);
-            mTakt.enden();
+            // A stream that ended though nobody asked for that is overdue, and looks so.
+            if (abgelöst() || gMessStatus != Messstatus::Messen)
+                mTakt.enden();
         }
         if (abgelöst())
             return;

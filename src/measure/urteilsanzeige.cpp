@@ -15,10 +15,12 @@ namespace {
 
 constexpr int luft = 16;
 
-/// With so many decimals, and one more where they do not say all.
-QString number(double value, int decimals) {
-    const QString pattern = "0." + QString(decimals, '0');
-    return Format(value, Round(value, decimals) == Round(value, 6) ? pattern : pattern + '0');
+/// With so many decimals at least, and as many as it takes to say all up to the sixth: a limit and
+/// a deviation that differ never read alike.
+QString number(double value, int decimals, int most = 6) {
+    while (decimals < most && Round(value, decimals) != Round(value, 6))
+        ++decimals;
+    return Format(value, "0." + QString(decimals, '0'));
 }
 
 QString withSign(double value) {
@@ -31,7 +33,7 @@ QString limitText(const Vorschau::Vergleich &is) {
 }
 
 QString uncertaintyText(const Vorschau::Vergleich &is) {
-    return "± " + number(is.abstand.u, 2) + ' ' + is.einheit;
+    return "± " + number(is.abstand.u, 2, 3) + ' ' + is.einheit;
 }
 
 int widthOf(const QFont &font, const QString &text) {
