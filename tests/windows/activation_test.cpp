@@ -227,4 +227,16 @@ TEST_F(Unloading, OfANoticeInTheMiddleOfSomethingElse) {
     rows("A+ B+ > ... | A! > A.unload B.unload A.unload-end D.activate");
 }
 
+// One held down would walk on from button to button.
+TEST_F(Unloading, EnterPressesAButtonOnceHoweverLongItIsHeld) {
+    rows("A+ > ...");
+    probe(A).button->setAutoDefault(true);
+    probe(A).button->setFocus();
+    for (const bool held : {false, true, true}) {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", held);
+        QCoreApplication::sendEvent(probe(A).button, &key);
+    }
+    rows("> A.click A.click-end");
+}
+
 } // namespace
