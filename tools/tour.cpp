@@ -1,7 +1,10 @@
 // Takes the main job by itself, in real time, against the stand behind COM1 of the current
 // directory: from the login to a recipe whose steps stand judged in the database. Leaves a picture
-// of each screen in tour/ and prints the stored rows. Ends with 1 when a station is not reached.
+// of each screen and page in tour/, the pages as PDF files too, and prints the stored rows, which
+// lie in the archive then. Ends with 1 when a station is not reached.
+#include <QAbstractButton>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QElapsedTimer>
 
@@ -16,6 +19,7 @@
 #include "session/session.h"
 #include "store/database.h"
 #include "windows/msgbox.h"
+#include "windows/preview.h"
 #include "windows/stil.h"
 
 namespace {
@@ -29,6 +33,20 @@ struct Station {
     std::function<bool()> reached;
     std::function<void()> goOn;
 };
+
+/// The windows in which pages are looked at, as pictures. False while there are none.
+bool savedPages() {
+    int page = 0;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || !window->findChild<QAbstractButton *>("pbPages"))
+            continue;
+        window->resize(1000, 1300);
+        window->findChild<QAbstractButton *>("pbWidth")->click();
+        QApplication::processEvents();
+        window->grab().save(QString("tour/page %1.png").arg(++page));
+    }
+    return page > 0;
+}
 
 std::vector<Station> stations() {
     const auto front = [](frm name) { return [name] { return inFront(name); }; };
@@ -96,14 +114,40 @@ std::vector<Station> stations() {
         {"speed read", step("2"), [] { press(frm::Messen, "pbSpeichern"); }},
         {"recipe done", ready(frm::Messen, "pbAbbrechen"),
          [] { press(frm::Messen, "pbAbbrechen"); }},
-        {"desktop again", ready(frm::Desktop, "pbBeenden"), [] {}},
+        {"desktop again", ready(frm::Desktop, "pbProtokoll"),
+         [] { press(frm::Desktop, "pbProtokoll"); }},
+        {"reports", ready(frm::Bericht, "OKButton"),
+         [] {
+             press(frm::Bericht, "cbKomplett");
+             press(frm::Bericht, "cbVorschau");
+             press(frm::Bericht, "OKButton");
+         }},
+        {"pages", [] { return savedPages(); },
+         [] {
+             platform::closePreviews();
+             press(frm::Bericht, "pbSichern");
+             press(frm::Bericht, "CancelButton"); // and into the archive
+         }},
+        {"desktop, archived", front(frm::Desktop),
+         [] { operate::choose(frm::Desktop, "mnuProtVerw"); }},
+        {"archive", front(frm::Bericht1),
+         [] {
+             auto *customer = control<QComboBox>(frm::Bericht1, "cmbKunde");
+             customer->setCurrentText("Klinikum Ährenfeld");
+             Q_EMIT customer->activated(customer->currentIndex());
+             auto *protocol = control<QComboBox>(frm::Bericht1, "cmbBericht");
+             protocol->setCurrentIndex(protocol->count() - 1);
+         }},
+        {"archived protocol", ready(frm::Bericht1, "rbDruck2_1"),
+         [] { press(frm::Bericht1, "CancelButton"); }},
+        {"the end", ready(frm::Desktop, "pbBeenden"), [] {}},
     };
 }
 
 void printRows() {
     const Recordset rows = gDatenbank.open(
         "SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, Ist_D_torvena, Ist_P_torvena, "
-        "Ist_n_ergom, MU_ohne, MU_mit FROM Messwerte_temp WHERE ProtokollID = ? ORDER BY MDat",
+        "Ist_n_ergom, MU_ohne, MU_mit FROM Messwerte WHERE ProtokollID = ? ORDER BY MDat",
         {gProtokollID});
     std::printf("stored under protocol %d:\n", int(gProtokollID));
     std::printf("  step  set n  set P  n 1/min  M N m    P W      read n  without MU  with MU\n");
