@@ -106,8 +106,8 @@ QByteArray bare(const QString &html) {
     writer.setResolution(600);
     QTextDocument document;
     document.documentLayout()->setPaintDevice(&writer);
-    document.setHtml(html);
     document.setPageSize(writer.pageLayout().paintRectPixels(600).size());
+    document.setHtml(html);
     QPainter painter(&writer);
     for (int page = 0; page < document.pageCount(); ++page) {
         if (page > 0)

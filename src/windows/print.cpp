@@ -10,6 +10,7 @@
 #include <QPdfWriter>
 #include <QRegularExpression>
 #include <QSaveFile>
+#include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFrame>
 
@@ -84,14 +85,25 @@ QPaintDevice *measure() {
     return &sheet;
 }
 
-std::unique_ptr<QTextDocument> document(const QString &html, double height = -1) {
+/// Laid out once, at the end: what would change the layout stands before, or in one block of edits.
+/// `foot`: margin below all.
+std::unique_ptr<QTextDocument> document(const QString &html, double height = -1, double foot = 0) {
     auto result = std::make_unique<QTextDocument>();
+    result->setUndoRedoEnabled(false);
     result->documentLayout()->setPaintDevice(measure());
     result->setDocumentMargin(0);
     result->setDefaultFont(typeface());
     result->setDefaultStyleSheet(styleSheet);
-    result->setHtml(html);
     result->setPageSize({pageWidth, height});
+    QTextCursor block(result.get());
+    block.beginEditBlock();
+    result->setHtml(html);
+    if (foot > 0) {
+        QTextFrameFormat whole = result->rootFrame()->frameFormat();
+        whole.setBottomMargin(foot);
+        result->rootFrame()->setFrameFormat(whole);
+    }
+    block.endEditBlock();
     return result;
 }
 
@@ -132,17 +144,14 @@ Report::Report(const QString &html, const QString &title) : mTitle(title) {
     mHeadHeight = mHead.isEmpty() ? 0 : document(mHead)->size().height() + gap;
     mFootHeight = mFoot.isEmpty() ? 0 : document(mFoot)->size().height() + gap;
     double height = pageHeight - mHeadHeight - mFootHeight;
-    mBody = document(body, height);
+    // The line that closes a table at the end of a page is not drawn on its very edge.
+    mBody = document(body, height, dots(0.5));
     // Nothing is cut off at the right: what is wider is set on a page that is larger by as much,
     // and painted smaller.
     if (const double wide = mBody->size().width() / pageWidth; wide > 1) {
         height *= wide;
         mBody->setPageSize({pageWidth * wide, height});
     }
-    // The line that closes a table at the end of a page is not drawn on its very edge.
-    QTextFrameFormat whole = mBody->rootFrame()->frameFormat();
-    whole.setBottomMargin(dots(0.5));
-    mBody->rootFrame()->setFrameFormat(whole);
     keepWhole(*mBody, height);
 }
 Report::~Report() = default;
