@@ -8,6 +8,7 @@
 #include "measure/messablauf.h"
 #include "platform/fehler.h"
 #include "platform/guard.h"
+#include "protocols/pruefblatt.h"
 #include "session/screens.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -91,6 +92,10 @@ void beendenOhneFrage() {
         motorStillschweigendAus();
     if (loaded(frm::Messen) && !gMessungLäuft)
         messungStillVerlassen();
+    for (const frm blatt : {frm::Blutdruck, frm::SecControl}) {
+        if (auto *offen = dynamic_cast<Prüfblatt *>(loaded(blatt)))
+            offen->stillVerlassen();
+    }
     gDesktopAktiv = false;
     gDatenbank.close();
     QCoreApplication::exit(0);

@@ -114,6 +114,7 @@ void Berichtsmaske::Form_Activate() {
     }
     if (gBerichtProtokoll > 0) {
         ui.cmbBericht->setEditText(QString("%1 - %2").arg(gBerichtProtokoll).arg(gBerichtWahl));
+        fnc_SeitenFreigeben();
         ui.OKButton->setEnabled(true);
     }
 }
@@ -243,8 +244,6 @@ void Berichtsmaske::seiteDrucken(Berichtsseite seite) {
         inSprache({"Protokoll", "Protocol"}) +
         QString(" %1 - %2").arg(gBerichtProtokoll).arg(inSprache(seitenname(seite)));
     const QByteArray pdf = Crt1.ausführen(mArt.bestand, gBerichtProtokoll, titel);
-    if (seite != Berichtsseite::Deckblatt)
-        gedruckt();
     if (mbSichern) {
         if (!pdf.isEmpty()) // another printer's file is its own
             pdfSpeichern(pdf, seite, gBerichtProtokoll);
@@ -253,6 +252,8 @@ void Berichtsmaske::seiteDrucken(Berichtsseite seite) {
                      {"Es ist kein Drucker eingerichtet. 'Sichern' legt die Seiten als PDF ab.",
                       "No printer is installed. 'Save' writes the pages as PDF."});
     }
+    if (seite != Berichtsseite::Deckblatt)
+        gedruckt();
 }
 
 void Berichtsmaske::pbSichern_Click() {

@@ -46,7 +46,6 @@ void frmPrinterPDF::Form_Load() try {
     beschriftungenSetzen(ui, *this, english);
     const Druckereinstellung einstellung = druckereinstellung();
     mOrdner.setRootPath(QDir::rootPath());
-    ordnerWählen(einstellung.drucker.isEmpty() ? QString() : einstellung.ordner);
     ui.Combo1->addItems(printers());
     ui.Combo1->setCurrentIndex(ui.Combo1->findText(einstellung.drucker, Qt::MatchExactly));
     druckerZeigen(ui.Combo1->currentText());
@@ -55,6 +54,7 @@ void frmPrinterPDF::Form_Load() try {
                  "PDF printer has been removed or is not available anymore."},
                 Critical, {"Meldung", "PDF printer"});
     }
+    ordnerWählen(einstellung.drucker.isEmpty() ? QString() : einstellung.ordner);
 } catch (const Fehler &fehler) {
     fehlerBox("frmPDF01 - ", fehler);
 }
@@ -67,12 +67,19 @@ void frmPrinterPDF::druckerZeigen(const QString &name) {
 }
 
 void frmPrinterPDF::ordnerWählen(const QString &ordner) {
-    const QModelIndex stelle = mOrdner.index(QDir(ordner.isEmpty() ? "." : ordner).absolutePath());
-    ui.Dir1->setCurrentIndex(stelle);
+    const QDir gesucht(ordner.isEmpty() ? "." : ordner);
+    if (!gesucht.exists()) {
+        throw Fehler(fehlernummer::FileNotFound,
+                     {"Den Ordner " + ordner + " gibt es zur Zeit nicht.",
+                      "The folder " + ordner + " is not there at present."});
+    }
+    ui.Dir1->setCurrentIndex(mOrdner.index(gesucht.absolutePath()));
 }
 
 void frmPrinterPDF::pbok_Click() try {
-    const QString ordner = mOrdner.filePath(ui.Dir1->currentIndex());
+    const QString ordner = ui.Dir1->currentIndex().isValid()
+                               ? mOrdner.filePath(ui.Dir1->currentIndex())
+                               : druckereinstellung().ordner; // not there at present
     druckereinstellungSpeichern({ui.Combo1->currentText(), ordner});
     druckerZeigen(ui.Combo1->currentText());
     unload();

@@ -215,6 +215,13 @@ void Prüfblatt::verlassen() {
         vorhandenesVerlassen();
 }
 
+void Prüfblatt::stillVerlassen() try {
+    if (!std::exchange(mbGespeichert, true))
+        verlassen();
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
+}
+
 void Prüfblatt::Form_Unload() {
     if (!mbGespeichert)
         gefangen(mArt.verlassen, [this] { verlassen(); })();

@@ -17,6 +17,9 @@ class Prüfblatt : public Screen {
   public:
     Inhalt inhalt() const { return mArt.inhalt; }
 
+    /// As leaving without saving, without a word: at the end of the process.
+    void stillVerlassen();
+
     /// Shows these values; fields without one stay as they are. A text that should be a date and
     /// is none is told.
     void eintragen(const Blatt &werte);

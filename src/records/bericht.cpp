@@ -83,7 +83,8 @@ std::int16_t geräteklasse(Bestand bestand, Schlüssel protokollID) {
 
 QStringList arbeitsprotokolle() {
     return spalte(gDatenbank.open(
-        "SELECT strftime('%d.%m.%Y', ErstellDatum) || '   ' || ProtokollID || ' - ' || "
+        "SELECT COALESCE(strftime('%d.%m.%Y', ErstellDatum), '          ') || '   ' || ProtokollID "
+        "|| ' - ' || "
         "COALESCE(Protokollname, '') AS prot FROM Protokoll_temp ORDER BY ProtokollID DESC"));
 }
 

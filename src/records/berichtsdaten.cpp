@@ -249,7 +249,8 @@ LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüss
 }
 
 std::optional<double> unsicherheit(const Ergebniszeile &zeile) {
-    if (!zeile.muProz || (zeile.leistung && zeile.ergometer == 0 && *zeile.muProz != 0))
+    // 0 is what a step leaves behind for which the tables had no row.
+    if (!zeile.muProz || *zeile.muProz == 0 || (zeile.leistung && zeile.ergometer == 0))
         return {};
     return std::fabs(zeile.ergometer * *zeile.muProz / 100);
 }

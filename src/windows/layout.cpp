@@ -24,10 +24,10 @@ Fehler broken(const QString &place, const QString &german, const QString &englis
 std::string escaped(const std::string &value) {
     QString text = QString::fromStdString(value).toHtmlEscaped();
     text.replace("\r\n", "\n").replace('\r', '\n').replace('\n', "<br/>");
-    qsizetype blanks = 0;
-    while (blanks < text.size() && text[blanks] == ' ')
-        ++blanks;
-    return (QString("&nbsp;").repeated(blanks) + text.mid(blanks)).toStdString();
+    // Blanks that HTML would drop, and no number of a page in a value.
+    static const QRegularExpression dropped("(^|(?<=[ >])) ");
+    text.replace(dropped, "&nbsp;").replace('@', "&#64;");
+    return text.toStdString();
 }
 
 mustache::data given(const QString &value) {
@@ -62,14 +62,17 @@ void Layout::take(const QString &path, QStringList &open, int depth) {
     const QString text = QString::fromUtf8(file.readAll());
     const qsizetype openBefore = open.size();
     qsizetype taken = 0;
-    static const QRegularExpression tag(R"(\{\{(\{|[#^/>!&=]?)\s*([^}]*?)\s*(\}\}|\z))");
+    static const QRegularExpression tag(R"(\{\{(\{|[#^/>!&=]?)\s*(.*?)\s*(\}\}|\z))",
+                                        QRegularExpression::DotMatchesEverythingOption);
     for (auto found = tag.globalMatch(text); found.hasNext();) {
         const auto match = found.next();
         const QString kind = match.captured(1), name = match.captured(2);
         const QString place = QString("%1, %2")
                                   .arg(info.fileName())
                                   .arg(text.left(match.capturedStart()).count('\n') + 1);
-        if (match.captured(3).isEmpty())
+        // A brace that is missing takes in what stands behind it.
+        const bool more = kind != "!" && name.contains(QRegularExpression("[{}\\n]"));
+        if (match.captured(3).isEmpty() || more)
             throw broken(place, "Ein Feld ist nicht geschlossen.", "A field is not closed.");
         if (kind == "{" || kind == "&" || kind == "=") {
             throw broken(place, "Felder werden nur als {{Name}} geschrieben.",
@@ -97,8 +100,10 @@ void Layout::take(const QString &path, QStringList &open, int depth) {
         }
     }
     if (open.size() > openBefore) {
-        throw broken(mTags.back().place,
-                     "Der Abschnitt {{#" + open.last() + "}} ist nicht geschlossen.",
+        const auto opened = std::find_if(mTags.rbegin(), mTags.rend(), [&](const Tag &one) {
+            return one.kind != ' ' && one.name == open.last();
+        });
+        throw broken(opened->place, "Der Abschnitt {{#" + open.last() + "}} ist nicht geschlossen.",
                      "The section {{#" + open.last() + "}} is not closed.");
     }
     mText += text.mid(taken);

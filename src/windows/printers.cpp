@@ -32,7 +32,8 @@ QString currentPrinter() {
 }
 
 void setCurrentPrinter(const QString &name) {
-    chosen = name;
+    const QString standard = systemDefault();
+    chosen = name == (standard.isEmpty() ? pdfPrinter : standard) ? QString() : name;
 }
 
 QByteArray printReport(const Report &report) {

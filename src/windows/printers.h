@@ -19,6 +19,7 @@ QStringList printers();
 /// The one in force: what was set, as long as it is there; else the system's default; else the
 /// built-in one.
 QString currentPrinter();
+/// The system's default again when it is this one, or there is none and it is the built-in one.
 void setCurrentPrinter(const QString &name);
 
 /// Prints on the printer in force. On the built-in one the result is the file, else empty. Raises

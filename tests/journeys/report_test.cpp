@@ -152,7 +152,11 @@ JOURNEY_P(Reports, AreFilesUnderTheirNames) {
         front == Bericht ; printed == ; ? archive? no ; cmbBericht ^ ; rbDruck3 ; ? page4 ; pbSichern ; files ~ 1 kept
         OKButton ; printed == Büro: 12 S K ; ? archive? no ; CancelButton ; @Desktop
         change UPDATE System SET PDFOrdner = '' ; pbProtokoll ; @Bericht ; ? noFolder ; pbSichern
+        change UPDATE System SET PDFOrdner = '/nirgends' ; CancelButton ; @Desktop
+        ? failed(frmPDF01, 53) ; mnuPDF ; @PrinterPDF ; pbok ; @Desktop ; sql SELECT PDFOrdner FROM System == /nirgends
+        pbProtokoll ; @Bericht
         change UPDATE System SET PDFOrdner = '/dev/null' ; ? failed(1085, 70) ; pbSichern
+        CancelButton ; @Desktop ; pbProtokoll ; @Bericht    # nothing to ask for
         change UPDATE System SET DruckerPDF = 'fort' ; ? failed(1085, 482) ; pbSichern
         change UPDATE System SET DruckerPDF = '' ; pbSichern ; printed == Büro: 12 R 1:ja,ja,mit 2:ja,?,mit | Büro: 12 R 1:yes,yes,with 2:yes,?,with
         OKButton ; printed ~ Büro ; ? archive? no ; CancelButton ; @Desktop)");

@@ -197,7 +197,8 @@ TEST(Footnote, MarksVerdictsThatDoNotFollow) {
         | P, 200, 199, 10, 1, nein, ja -> doubted | P, 200, 180, 10, 1, ja, nein -> doubted
         | P, 200, 199, 10, 1, ja, - -> doubted | P, 200, 199, 10, 1, -, - -> follows
         | P, 200, 199, -, 1, ja, ja -> doubted | P, 200, 199, 10, -, ja, ja -> doubted
-        | P, 0, 1, 3, 0.3, ja, ja -> doubted | P, 0, 1, 3, 0, ja, ja -> follows
+        | P, 0, 1, 3, 0.3, ja, ja -> doubted | P, 0, 1, 3, 0, ja, ja -> doubted
+        | P, 1200, 1140, 60, 0, ja, ja -> doubted
         | n, 0, 1, 3, 0.3, ja, ja -> follows | n, 80, 77, 3, 0.2, ja, ? -> follows
         | P, 25.5, 22.8, 3, 1.2, ja, ja -> follows | n, 25.5, 22.8, 3, 1.2, ja, ja -> doubted)")) {
         const auto zahl = [&](int which) {

@@ -36,7 +36,7 @@ class Print : public testing::Test {
 TEST_F(Print, LayoutsAreFilledAsTheyAreWritten) {
     written("fuß.rpt", "[{{Null}}]");
     for (const Case &c : {
-             Case{"{{Kunde}}", "&lt;b&gt;&amp;&quot;O'Hara&quot;<br/>  Süd"},
+             Case{"{{Kunde}}", "&lt;b&gt;&amp;&quot;O'Hara&quot;<br/>&nbsp;&nbsp;Süd"},
              Case{"{{#Leer}}da{{/Leer}}{{^Leer}}leer{{/Leer}}", "leer"},
              Case{"{{#Null}}{{Null}}{{/Null}}", "0"},
              Case{"{{#Zeilen}}{{n}}:{{P}}{{^P}}-{{/P}}{{Leer}};{{/Zeilen}}", "1:≤ 5;2:-;"},
@@ -58,6 +58,9 @@ TEST_F(Print, BrokenLayoutsSayWhere) {
              Case{"{{#Zeilen}}{{/Leer}}", "l.rpt, 1: {{/Leer}} schließt keinen Abschnitt."},
              Case{"{{#Zeilen}}{{>half.rpt}}",
                   "half.rpt, 1: {{/Zeilen}} schließt keinen Abschnitt."},
+             Case{"\n{{Kunde} B {{Null}} C", "l.rpt, 2: Ein Feld ist nicht geschlossen."},
+             Case{"\n{{#Zeilen}}{{n}}\n\n{{Kunde}}",
+                  "l.rpt, 2: Der Abschnitt {{#Zeilen}} ist nicht geschlossen."},
              Case{"\n{{Kunde", "l.rpt, 2: Ein Feld ist nicht geschlossen."},
              Case{"{{{Kunde}}}", "l.rpt, 1: Felder werden nur als {{Name}} geschrieben."},
              Case{"{{>self.rpt}}", "self.rpt, 1: Die Dateien holen einander herein."},

@@ -52,7 +52,7 @@ BEGIN
     SET (Kunde, Straße, PLZ, Ort) =
             (SELECT Name, Straße, PLZ, Ort FROM Kunden WHERE KundenID = NEW.KundenID),
         (Gerätetyp, Hersteller, SerienNr, IdentNr) =
-            (SELECT Gerätetyp, Hersteller, SerienNr, IdentNr FROM Ergometer
+            (SELECT Gerätetyp, Hersteller, SerienNr, IFNULL(IdentNr, '') FROM Ergometer
              WHERE GerätID = NEW.GerätID)
     WHERE ProtokollID = NEW.ProtokollID;
 END;
@@ -62,7 +62,7 @@ BEGIN
     SET (Kunde, Straße, PLZ, Ort) =
             (SELECT Name, Straße, PLZ, Ort FROM Kunden WHERE KundenID = NEW.KundenID),
         (Gerätetyp, Hersteller, SerienNr, IdentNr) =
-            (SELECT Gerätetyp, Hersteller, SerienNr, IdentNr FROM Ergometer
+            (SELECT Gerätetyp, Hersteller, SerienNr, IFNULL(IdentNr, '') FROM Ergometer
              WHERE GerätID = NEW.GerätID)
     WHERE ProtokollID = NEW.ProtokollID;
 END;
