@@ -10,8 +10,8 @@ Takt::Takt(std::function<void()> zeigen) : mZeigen(std::move(zeigen)) {
 }
 
 void Takt::beginnen(double drehzahl) {
-    constexpr int kürzester = 500;          // ms: the processor has better to do
-    constexpr double schritteJeRing = 12.0; // at 60 1/min and below
+    constexpr int kürzester = 1000;        // ms: the processor has better to do
+    constexpr double schritteJeRing = 6.0; // one a turn, at 60 1/min and below
     enden();
     mDrehzahl = drehzahl;
     if (drehzahl > 0)

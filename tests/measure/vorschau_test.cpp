@@ -65,7 +65,7 @@ TEST_F(Ring, FillsFromResultToResult) {
         return !is ? QString("none") : QString::number(is->anteil) + (is->überfällig ? " ?" : "");
     };
     for (const Case &c :
-         cases("60, 1500 -> 0.25 | 60, 6000 -> 1 | 60, 18000 -> 1 | 60, 18500 -> 1 ?"
+         cases("60, 3000 -> 0.5 | 60, 6000 -> 1 | 60, 18000 -> 1 | 60, 19000 -> 1 ?"
                " | 20, 9000 -> 0.5 | 120, 1000 -> 0.333333 | 0, 5000 -> none")) {
         ring.beginnen(c.in_(0).toDouble());
         clock.run(700);
@@ -73,7 +73,7 @@ TEST_F(Ring, FillsFromResultToResult) {
         paints = 0;
         clock.run(c.in_(1).toInt());
         EXPECT_EQ(shown(), c.out) << c;
-        EXPECT_LE(paints, c.in_(1).toInt() / 500) << c;
+        EXPECT_LE(paints, c.in_(1).toInt() / 1000) << c;
     }
     ring.beginnen(60);
     ring.enden();
