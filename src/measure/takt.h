@@ -9,7 +9,8 @@
 
 class Takt {
   public:
-    /// `zeigen` is called whenever the state has changed, at most once a second and with each result.
+    /// `zeigen` is called whenever the state has changed, at most once a second and with each
+    /// result.
     explicit Takt(std::function<void()> zeigen);
 
     /// A stream begins; at `drehzahl` 1/min. None is expected of a shaft that stands.
