@@ -64,9 +64,8 @@ TEST_F(Ring, FillsFromResultToResult) {
         const auto is = ring.stand();
         return !is ? QString("none") : QString::number(is->anteil) + (is->überfällig ? " ?" : "");
     };
-    for (const Case &c :
-         cases("60, 3000 -> 0.5 | 60, 6000 -> 1 | 60, 18000 -> 1 | 60, 19000 -> 1 ?"
-               " | 20, 9000 -> 0.5 | 120, 1000 -> 0.333333 | 0, 5000 -> none")) {
+    for (const Case &c : cases("60, 3000 -> 0.5 | 60, 6000 -> 1 | 60, 18000 -> 1 | 60, 19000 -> 1 ?"
+                               " | 20, 9000 -> 0.5 | 120, 1000 -> 0.333333 | 0, 5000 -> none")) {
         ring.beginnen(c.in_(0).toDouble());
         clock.run(700);
         ring.rahmen();
