@@ -14,6 +14,7 @@
 #include "platform/runtime.h"
 #include "protocols/frmBlutdruckAbfrage.h"
 #include "records/geraetedaten.h"
+#include "records/hebelarm.h"
 #include "records/leitung.h"
 #include "records/normal.h"
 #include "records/rezept.h"

@@ -3,7 +3,7 @@
 
 #include "link/motorlampe.h"
 #include "platform/clock.h"
-#include "records/normal.h"
+#include "records/hebelarm.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"

@@ -4,6 +4,7 @@
 #include "link/controller.h"
 #include "platform/fehler.h"
 #include "platform/guard.h"
+#include "records/hebelarm.h"
 #include "records/normal.h"
 #include "session/session.h"
 #include "session/sprache.h"

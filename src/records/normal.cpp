@@ -1,7 +1,5 @@
 #include "records/normal.h"
 
-#include <algorithm>
-
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
@@ -58,22 +56,4 @@ bool normalDatenLesen() {
     rows.moveLast();
     normalÜbernehmen(rows);
     return true;
-}
-
-bool fnc_HebelarmDatumLesen() {
-    Recordset rows = gDatenbank.open("SELECT * FROM Hebelarmkalibrierung ORDER BY ID");
-    if (rows.empty())
-        return false;
-    rows.moveLast();
-    gHebelarmDatum = datumAus(rows[2].text());
-    gHebelarmFällig = gHebelarmDatum.addMonths(6);
-    return true;
-}
-
-int hebelarmRest(const QDate &datum, const QDate &fällig, const QDate &heute) {
-    const qint64 total = datum.daysTo(fällig);
-    if (total <= 0)
-        return 0;
-    const qint64 left = std::clamp<qint64>(total - datum.daysTo(heute), 0, total);
-    return static_cast<int>(left * 100 / total);
 }

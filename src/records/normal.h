@@ -1,7 +1,5 @@
-// The working standard in use and the date of its lever-arm calibration, read into the session.
+// The working standard in use, read into the session.
 #pragma once
-
-#include <QDate>
 
 #include <functional>
 
@@ -27,10 +25,3 @@ StatikSoll statikSollLesen(bool rechtslauf);
 
 /// The last row of the instrument with gSeriennummer. False when there is none.
 bool normalDatenLesen();
-
-/// Date of the last lever-arm calibration and the day it is due again, six months on. False when
-/// there has been none.
-bool fnc_HebelarmDatumLesen();
-
-/// How much of the time between the two dates is left, 0 to 100 %.
-int hebelarmRest(const QDate &datum, const QDate &fällig, const QDate &heute);

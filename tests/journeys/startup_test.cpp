@@ -5,6 +5,7 @@
 #include <QProgressBar>
 
 #include "measuring.h"
+#include "records/hebelarm.h"
 #include "records/normal.h"
 
 namespace {
