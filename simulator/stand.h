@@ -48,6 +48,8 @@ class Stand {
     void setLoad(double watts); // 0 to 999
     void setOffsetDrift(double raw) { mOffsetDrift = raw; }
     void setGainDrift(double raw) { mGainDrift = raw; }
+    /// Standard deviation of the static readings.
+    void setReadingNoise(double raw) { mReadingNoise = raw; }
     void setErgometerSpeedError(double speed) { mSpeedError = speed; } // 1/min
     void setTorqueError(double torque) { mTorqueError = torque; }      // N m, of the standard
     void setSerialNumber(std::string number) { mSerialNumber = std::move(number); }
@@ -140,6 +142,7 @@ class Stand {
     double mLoad = 0;
     double mOffsetDrift = 0.2;
     double mGainDrift = -0.15;
+    double mReadingNoise = 0.15;
     double mSpeedError = 0;
     double mTorqueError = 0.02;
     std::string mSerialNumber = "TN-1001";

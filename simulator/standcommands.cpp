@@ -88,6 +88,8 @@ constexpr Setting Settings[] = {
      [](Stand &s, std::string_view w) { s.setOffsetDrift(number(w, -9000, 9000)); }},
     {"gaindrift", "RAW: drift of the gain, 50 are 1 N m",
      [](Stand &s, std::string_view w) { s.setGainDrift(number(w, -9000, 9000)); }},
+    {"noise", "RAW: scatter of the static readings, 50 are 1 N m",
+     [](Stand &s, std::string_view w) { s.setReadingNoise(number(w, 0, 1000)); }},
     {"speederror", "RPM: of the speed that the ergometer shows",
      [](Stand &s, std::string_view w) { s.setErgometerSpeedError(number(w, -300, 300)); }},
     {"torqueerror", "NM: of the torque that the standard measures",

@@ -17,8 +17,7 @@ constexpr double StandstillPeriod = 6000; // ms between frames of a shaft at res
 
 constexpr double SettlingRaw = 40;     // by which the first sample after a change of channel is off
 constexpr double SettlingSamples = 20; // in which that falls to 1/e
-constexpr double RawNoise = 0.15;
-constexpr double SpeedNoise = 0.02;          // 1/min
+constexpr double SpeedNoise = 0.02;    // 1/min
 constexpr double MeanSpeedNoise = 0.005;     // 1/min, over six rounds
 constexpr double TorqueNoise = 0.05;         // N m
 constexpr double MeanTorqueNoise = 0.005;    // N m, over six rounds
@@ -119,7 +118,7 @@ double Stand::rawReading() {
     const double gain = mStream == Stream::Gain ? GainRaw + mGainDrift : 0;
     // In the lever-arm mode the channel stays switched through, there is nothing to settle.
     const double settling = mLeverMode ? 0 : SettlingRaw * std::exp(-mRecords / SettlingSamples);
-    return CentreRaw + mOffsetDrift + load + gain - settling + noise(RawNoise);
+    return CentreRaw + mOffsetDrift + load + gain - settling + noise(mReadingNoise);
 }
 
 double Stand::torqueAt(double speed) const {

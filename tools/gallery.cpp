@@ -349,6 +349,28 @@ class Gallery : public Workplace {
         press(frm::NachStatNPK, "pbok");
         co_await arrive(frm::Desktop);
         picture("desktop-gesperrt");
+        co_await leverArm();
+    }
+
+    Journey leverArm() {
+        co_await go("mnuKalibrierung ; @Kalibrierung");
+        picture("kalibrierung");
+        co_await go("stand offsetdrift 0 ; stand mode lever ; pbStart ; pass 5000");
+        picture("kalibrierung-einlaufen");
+        co_await go("pass 600000 ; @VorStatNPK");
+        picture("vorstatnpk-hebelarm");
+        co_await go("pbok ; until can StatMessen.pbWeiter ; pbWeiter ; @NachStatNPK");
+        picture("nachstatnpk-hebelarm");
+        co_await go("stand lever left ; stand moment 30.12 ; pbok ; @Oberfl ; txtOberfl = 9,8107");
+        picture("oberfl");
+        co_await go("pbWeiter ; @MomentKal ; until can pbWiederholen");
+        picture("momentkal-nein");
+        co_await go("stand moment 30.01 ; pbWiederholen ; @NachStatNPK ; pbok ; @MomentKal "
+                    "; until can pbWeiter ; pbWeiter ; @NachStatNPK ; stand lever right ; pbok "
+                    "; @MomentKal ; until can pbWeiter");
+        picture("momentkal");
+        co_await go("pbWeiter ; @Kalibrierung");
+        picture("kalibrierung-fertig");
     }
 
     QDir mTarget;

@@ -239,6 +239,7 @@ void frmDesktop::tastaturFühren() {
 
 void frmDesktop::Form_Activate() {
     datumZeigen(datumText(now().date()));
+    hebelarmZeigen();
     if (gMessStatus == Messstatus::Ende || gMessStatus == Messstatus::Verweigert)
         ui.pbDrehR->setEnabled(false);
     wegZeigen();

@@ -58,6 +58,7 @@ class frmDesktop : public Screen, public Motorfenster {
     void wegZeigen();
     void tastaturFühren();
     void normalUndHebelarmZeigen();
+    void hebelarmZeigen();
     void auswahlZeigen();
     void spracheSetzen(std::int16_t sprache);
     void hilfeÖffnen();

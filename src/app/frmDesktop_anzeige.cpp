@@ -72,13 +72,20 @@ constexpr Beschriftung english[] = {
 
 void frmDesktop::normalUndHebelarmZeigen() {
     ui.txtKalDat->setText(datumText(gKalibrierdatum));
+    beschriften();
+}
+
+void frmDesktop::hebelarmZeigen() {
     const QDate heute = now().date();
     ui.ProgressBar1->setValue(hebelarmRest(gHebelarmDatum, gHebelarmFällig, heute));
-    beschriften();
     const bool überfällig = heute > gHebelarmFällig;
     setTon(ui.FrHebelarm, überfällig ? Ton::Alarm : Ton::Keiner);
     setTon(ui.ProgressBar1, überfällig ? Ton::Alarm : Ton::Keiner);
     ui.anzHebelarm->setVisible(überfällig);
+    if (spracheGewählt())
+        ui.FrHebelarm->setTitle(inSprache({"Nächste Hebelarmkalibrierung fällig am ",
+                                           "Next lever arm calibration due on "}) +
+                                datumText(gHebelarmFällig));
 }
 
 void frmDesktop::beschriften() {
@@ -86,12 +93,9 @@ void frmDesktop::beschriften() {
     setCaption(gProduktTitel);
     ui.anzHebelarm->zeige(Zeichen::Achtung, inSprache({"überfällig", "overdue"}));
     motorbilderZeigen();
-    if (!spracheGewählt())
-        return;
-    normalZeigen(gNKGerätetyp + " SerienNr. " + gSeriennummer);
-    ui.FrHebelarm->setTitle(inSprache({"Nächste Hebelarmkalibrierung fällig am ",
-                                       "Next lever arm calibration due on "}) +
-                            datumText(gHebelarmFällig));
+    hebelarmZeigen();
+    if (spracheGewählt())
+        normalZeigen(gNKGerätetyp + " SerienNr. " + gSeriennummer);
 }
 
 void frmDesktop::auswahlZeigen() {

@@ -1,5 +1,6 @@
 #include "app/frmMeldung1.h"
 
+#include "session/session.h"
 #include "session/sprache.h"
 #include "windows/zeichen.h"
 
@@ -19,4 +20,12 @@ void frmMeldung1::Form_Load() {
     ui.laMeldung2->setText(inSprache({"ist beendet.", "is over."}));
     ui.anzZeichen->zeige(Zeichen::Gut, ui.laMeldung2->text());
     mTimer1.setEnabled(true);
+}
+
+// The calibration of the lever arm goes on when the notice has gone; from below another screen it
+// does when that has gone.
+void frmMeldung1::Form_Unload() {
+    Screen *kalibrierung = loaded(frm::Kalibrierung);
+    if (kalibrierung && gFormStatus == Formstatus::Korrektur && frontScreen() == kalibrierung)
+        requestActivation(*kalibrierung);
 }

@@ -1,4 +1,4 @@
-// The notice that the running-in time is over. Closes by itself; nothing depends on it.
+// The notice that the running-in time is over. Closes by itself.
 #pragma once
 
 #include "platform/clock.h"
@@ -12,6 +12,7 @@ class frmMeldung1 : public Screen {
 
   protected:
     void Form_Load() override;
+    void Form_Unload() override;
 
   private:
     Ui::frmMeldung1 ui;

@@ -6,6 +6,9 @@
 #include "app/frmMeldung1.h"
 #include "app/frmMotorDrehR.h"
 #include "app/frmSplash.h"
+#include "calibration/frmKalibrierung.h"
+#include "calibration/frmMomentKal.h"
+#include "calibration/frmOberfl.h"
 #include "link/frmEinlaufen.h"
 #include "link/frmInterface.h"
 #include "masterdata/frmAendGeraet.h"
@@ -62,6 +65,9 @@ void bindScreens() {
     bindScreen<frmNachStatNPK>();
     bindScreen<frmMessen>();
     bindScreen<frmMeldung>();
+    bindScreen<frmKalibrierung>();
+    bindScreen<frmOberfl>();
+    bindScreen<frmMomentKal>();
     bindScreen<frmProtokollNr>();
     bindScreen<frmProtokollNr_1>();
     bindScreen<frmBericht>();

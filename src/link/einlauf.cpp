@@ -37,6 +37,11 @@ void einlaufzeitSetzen() {
     gEinlaufSek = static_cast<std::int16_t>(Int(Round(gEinlaufzeit * 100, 6)) - gEinlaufMin * 100);
 }
 
+void laufzeitSetzen() {
+    gEinlaufMin = gLaufzeitMin;
+    gEinlaufSek = 0;
+}
+
 void einlaufStarten() {
     gMotorStart = platform::now().time();
     tiEinlauf.setInterval(1000);

@@ -10,6 +10,8 @@ void einlaufVorbereiten();
 
 /// Sets the countdown from gEinlaufzeit, minutes.seconds: 10.75 gives 10 minutes and 75 seconds.
 void einlaufzeitSetzen();
+/// The same from gLaufzeitMin, whole minutes.
+void laufzeitSetzen();
 
 /// The motor has started: the countdown runs and gMotorStart is now.
 void einlaufStarten();

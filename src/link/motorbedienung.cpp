@@ -3,7 +3,6 @@
 #include <QScopeGuard>
 
 #include "link/controller.h"
-#include "link/einlauf.h"
 #include "session/screens.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -12,7 +11,7 @@
 using namespace platform;
 
 bool Motorbedienung::ein() {
-    einlaufzeitSetzen();
+    mEinlauf();
     mFenster.setMoteinEnabled(false);
     mFenster.setDrehREnabled(false);
     mFenster.disableFront();

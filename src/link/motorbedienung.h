@@ -1,6 +1,9 @@
 // The motor of the stand, as the buttons of a window run it.
 #pragma once
 
+#include <functional>
+
+#include "link/einlauf.h"
 #include "platform/text.h"
 #include "session/motorfenster.h"
 
@@ -12,8 +15,10 @@ struct Motortexte {
 
 class Motorbedienung {
   public:
-    Motorbedienung(Motorfenster &fenster, Motortexte texte)
-        : mFenster(fenster), mTexte(std::move(texte)) {}
+    /// `einlauf` sets the countdown that a start begins.
+    Motorbedienung(Motorfenster &fenster, Motortexte texte,
+                   std::function<void()> einlauf = einlaufzeitSetzen)
+        : mFenster(fenster), mTexte(std::move(texte)), mEinlauf(std::move(einlauf)) {}
 
     /// Starts the motor at 60 1/min in the direction of the session, and the running-in with it.
     /// The window takes no input meanwhile. False when the controller did not take it, which is
@@ -29,4 +34,5 @@ class Motorbedienung {
   private:
     Motorfenster &mFenster;
     Motortexte mTexte;
+    std::function<void()> mEinlauf;
 };

@@ -48,8 +48,9 @@ std::optional<std::vector<double>> statikEmpfangen(const Statikstrom &strom,
                });
     Timer1.setEnabled(false);
     if (std::exchange(gTimeoutTimer1, false) && !fertig() && !abbruch()) {
-        meldung({"Nach 15 Sek kein Empfang", "No reception after 15 sec!"}, Exclamation,
-                {"Meldung", "Message"});
+        const Statikstrom stumm{strom.code};
+        const Statikstrom &worte = proben > 0 ? strom : stumm;
+        meldung(worte.mittendrin, Exclamation, worte.mittendrinTitel);
     }
     datenstromBeenden();
     if (!fertig() || abbruch())

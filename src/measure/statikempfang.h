@@ -6,10 +6,15 @@
 #include <optional>
 #include <vector>
 
+#include "platform/text.h"
+
 struct Statikstrom {
     std::uint8_t code;   ///< codeOffset or codeGain
     int verworfen = 150; ///< samples that are dropped first, while the reading settles
     int anzahl = 25;     ///< samples that are wanted behind them
+    /// What is told under which title when the time is over though samples had come.
+    platform::Text mittendrin = {"Nach 15 Sek kein Empfang", "No reception after 15 sec!"};
+    platform::Text mittendrinTitel = {"Meldung", "Message"};
 };
 
 /// Asks for the stream and answers the raw values wanted, or nothing when 15 s have passed, the

@@ -6,6 +6,8 @@
 #include "store/database.h"
 #include "store/sqltext.h"
 
+using namespace platform;
+
 namespace {
 
 Recordset alleZeilen() {
@@ -34,6 +36,11 @@ int hebelarmRest(const QDate &datum, const QDate &fällig, const QDate &heute) {
 
 Hebelarmmomente hebelarmReferenzLesen() {
     const Recordset rows = alleZeilen();
+    if (rows.empty()) {
+        throw Fehler(fehlernummer::NoCurrentRecord,
+                     {"Die Referenzmomente fehlen: Es gibt keine Hebelarmkalibrierung.",
+                      "The reference moments are missing: there is no lever arm calibration."});
+    }
     return {rows[4].requiredNumber(), rows[5].requiredNumber()};
 }
 
