@@ -61,17 +61,18 @@ void Layout::take(const QString &path, QStringList &open, int depth) {
     }
     const QString text = QString::fromUtf8(file.readAll());
     const qsizetype openBefore = open.size();
-    qsizetype taken = 0;
+    qsizetype taken = 0, counted = 0, line = 1;
     static const QRegularExpression tag(R"(\{\{(\{|[#^/>!&=]?)\s*(.*?)\s*(\}\}|\z))",
                                         QRegularExpression::DotMatchesEverythingOption);
     for (auto found = tag.globalMatch(text); found.hasNext();) {
         const auto match = found.next();
         const QString kind = match.captured(1), name = match.captured(2);
-        const QString place = QString("%1, %2")
-                                  .arg(info.fileName())
-                                  .arg(text.left(match.capturedStart()).count('\n') + 1);
+        line += QStringView(text).mid(counted, match.capturedStart() - counted).count(u'\n');
+        counted = match.capturedStart();
+        const QString place = QString("%1, %2").arg(info.fileName()).arg(line);
         // A brace that is missing takes in what stands behind it.
-        const bool more = kind != "!" && name.contains(QRegularExpression("[{}\\n]"));
+        static const QRegularExpression beyond("[{}\\n]");
+        const bool more = kind != "!" && name.contains(beyond);
         if (match.captured(3).isEmpty() || more)
             throw broken(place, "Ein Feld ist nicht geschlossen.", "A field is not closed.");
         if (kind == "{" || kind == "&" || kind == "=") {

@@ -23,15 +23,14 @@ namespace platform {
 
 namespace {
 
-// Laid out in dots of this resolution, whatever it is painted on; lower ones spoil the spacing of
-// letters.
-constexpr int resolution = 600; // dots per inch
+constexpr int resolution = reportResolution; // lower ones spoil the spacing of letters
 constexpr double dots(double millimetres) {
     return millimetres / 25.4 * resolution;
 }
 constexpr double margin = 15;                                                             // mm
 constexpr double pageWidth = dots(210 - 2 * margin), pageHeight = dots(297 - 2 * margin); // of A4
 constexpr double gap = dots(3); // between head, body and foot
+constexpr double rounding = 2;  // dots by which the columns of a table may be wider than the page
 
 // Classes: `lines` a grid of one-line rows (`top` its first, `first` the first cell of each; the
 // borders are of the cells and not collapsed, for these are not drawn where a page ends), `pair`
@@ -67,14 +66,6 @@ constexpr auto styleSheet =
     ".head td { border-bottom: 2px solid #000000; padding: 0 0 4px 0; }"
     ".foot td { border-top: 1px solid #606060; padding: 4px 0 0 0; font-size: 7.5pt; }";
 
-QFont typeface() {
-    QFont font("DejaVu Sans");
-    font.setPointSizeF(9);
-    // Ligatures would stand in the text of a PDF as letters that nobody searches for.
-    font.setLetterSpacing(QFont::PercentageSpacing, 100.01);
-    return font;
-}
-
 QPaintDevice *measure() {
     static QImage sheet = [] {
         QImage image(1, 1, QImage::Format_RGB32);
@@ -86,17 +77,20 @@ QPaintDevice *measure() {
 }
 
 /// Laid out once, at the end: what would change the layout stands before, or in one block of edits.
+/// This begins with a change of the empty text, for what replaces something is laid out in one go;
+/// what fills an empty document is so in parts, and a long table once for each that it touches.
 /// `foot`: margin below all.
 std::unique_ptr<QTextDocument> document(const QString &html, double height = -1, double foot = 0) {
     auto result = std::make_unique<QTextDocument>();
     result->setUndoRedoEnabled(false);
     result->documentLayout()->setPaintDevice(measure());
     result->setDocumentMargin(0);
-    result->setDefaultFont(typeface());
+    result->setDefaultFont(reportFont());
     result->setDefaultStyleSheet(styleSheet);
     result->setPageSize({pageWidth, height});
     QTextCursor block(result.get());
     block.beginEditBlock();
+    block.setBlockFormat({});
     result->setHtml(html);
     if (foot > 0) {
         QTextFrameFormat whole = result->rootFrame()->frameFormat();
@@ -137,23 +131,47 @@ QString takeOut(QString &html, const QString &tag) {
 
 } // namespace
 
+QPageLayout reportPage() {
+    return {QPageSize(QPageSize::A4), QPageLayout::Portrait,
+            QMarginsF(margin, margin, margin, margin), QPageLayout::Millimeter};
+}
+
+QFont reportFont() {
+    QFont font("DejaVu Sans");
+    font.setPointSizeF(9);
+    // Ligatures would stand in the text of a PDF as letters that nobody searches for.
+    font.setLetterSpacing(QFont::PercentageSpacing, 100.01);
+    return font;
+}
+
+QString reportStyleSheet() {
+    return styleSheet;
+}
+
 Report::Report(const QString &html, const QString &title) : mTitle(title) {
     QString body = html;
-    mHead = takeOut(body, "header");
-    mFoot = takeOut(body, "footer");
-    mHeadHeight = mHead.isEmpty() ? 0 : document(mHead)->size().height() + gap;
-    mFootHeight = mFoot.isEmpty() ? 0 : document(mFoot)->size().height() + gap;
-    double height = pageHeight - mHeadHeight - mFootHeight;
+    mHead = strip(takeOut(body, "header"));
+    mFoot = strip(takeOut(body, "footer"));
+    double height = pageHeight - mHead.height - mFoot.height;
     // The line that closes a table at the end of a page is not drawn on its very edge.
     mBody = document(body, height, dots(0.5));
     // Nothing is cut off at the right: what is wider is set on a page that is larger by as much,
     // and painted smaller.
-    if (const double wide = mBody->size().width() / pageWidth; wide > 1) {
+    if (mBody->size().width() > pageWidth + rounding) {
+        const double wide = mBody->size().width() / pageWidth;
         height *= wide;
         mBody->setPageSize({pageWidth * wide, height});
     }
     keepWhole(*mBody, height);
 }
+Report::Strip Report::strip(const QString &html) {
+    if (html.isEmpty())
+        return {};
+    auto text = document(html);
+    const double height = text->size().height() + gap;
+    return {html, std::move(text), height};
+}
+
 Report::~Report() = default;
 Report::Report(Report &&) noexcept = default;
 
@@ -179,22 +197,24 @@ void Report::paintPage(QPainter &painter, int page) const {
         text.documentLayout()->draw(&painter, context);
         painter.restore();
     };
-    const auto numbered = [&](QString html) {
+    const auto numbered = [&](const Strip &strip, double top) {
+        if (!strip.document)
+            return;
+        QString html = strip.html;
         html.replace("@pages@", QString::number(pages()));
-        return document(html.replace("@page@", QString::number(page + 1)));
+        html.replace("@page@", QString::number(page + 1));
+        if (html != strip.html)
+            strip.document->setHtml(html);
+        part(*strip.document, top, {0, 0, pageWidth, strip.height});
     };
     const QSizeF size = mBody->pageSize();
-    if (!mHead.isEmpty())
-        part(*numbered(mHead), 0, {0, 0, pageWidth, mHeadHeight});
-    part(*mBody, mHeadHeight, {{0, page * size.height()}, size});
-    if (!mFoot.isEmpty())
-        part(*numbered(mFoot), pageHeight - mFootHeight + gap, {0, 0, pageWidth, mFootHeight});
+    numbered(mHead, 0);
+    part(*mBody, mHead.height, {0, page * size.height(), size.width() + rounding, size.height()});
+    numbered(mFoot, pageHeight - mFoot.height + gap);
 }
 
 void Report::paint(QPagedPaintDevice &device) const {
-    device.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait,
-                                     QMarginsF(margin, margin, margin, margin),
-                                     QPageLayout::Millimeter));
+    device.setPageLayout(reportPage());
     QPainter painter;
     if (!painter.begin(&device))
         cannotPrint();

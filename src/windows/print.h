@@ -7,11 +7,19 @@
 
 #include <memory>
 
+class QFont;
+class QPageLayout;
 class QPagedPaintDevice;
 class QPainter;
 class QTextDocument;
 
 namespace platform {
+
+// What all reports are set in and on
+constexpr int reportResolution = 600; ///< dots per inch of the layout, whatever it is painted on
+QPageLayout reportPage();             ///< A4 with its margins
+QFont reportFont();
+QString reportStyleSheet();
 
 /// HTML as a layout gives it: what stands in <header> … </header> and <footer> … </footer> comes on
 /// each page, with @page@ and @pages@ for the numbers; heads of tables repeat by themselves.
@@ -32,10 +40,17 @@ class Report {
     QByteArray pdf() const;
 
   private:
+    /// What comes on each page; without a document, nothing does.
+    struct Strip {
+        QString html;
+        std::unique_ptr<QTextDocument> document;
+        double height = 0; ///< with the gap to the body
+    };
+    static Strip strip(const QString &html);
     void paintPage(QPainter &painter, int page) const;
 
-    QString mTitle, mHead, mFoot;
-    double mHeadHeight = 0, mFootHeight = 0;
+    QString mTitle;
+    Strip mHead, mFoot;
     std::unique_ptr<QTextDocument> mBody;
 };
 
