@@ -2,6 +2,8 @@
 
 #include <QDir>
 
+#include <algorithm>
+
 #include "platform/fehler.h"
 #include "platform/runtime.h"
 #include "protocols/pdfausgabe.h"
@@ -32,24 +34,6 @@ constexpr Beschriftung english[] = {
     {"CancelButton", "C&lose"},
 };
 
-// The order of a complete set.
-constexpr std::array alleSeiten{Berichtsseite::Deckblatt, Berichtsseite::Messergebnisse,
-                                Berichtsseite::Blutdruck, Berichtsseite::SecControl};
-
-Text seitenname(Berichtsseite seite) {
-    switch (seite) {
-    case Berichtsseite::Deckblatt:
-        return {"Deckblatt", "Cover Sheet"};
-    case Berichtsseite::Messergebnisse:
-        return {"Messergebnisse", "Measuring Results"};
-    case Berichtsseite::Blutdruck:
-        return {"Blutdruck", "Blood Pressure"};
-    case Berichtsseite::SecControl:
-        return {"STK", "EST"};
-    }
-    return {};
-}
-
 } // namespace
 
 QString berichtsname(const QString &eintrag) {
@@ -58,22 +42,6 @@ QString berichtsname(const QString &eintrag) {
     if (name.startsWith(' '))
         name.remove(0, 1);
     return strich < 0 || name.isEmpty() ? QString(" ") : name;
-}
-
-QString layoutname(Berichtsseite seite, std::int16_t klasse) {
-    const QString vorn = inDeutsch() ? "" : "eng_";
-    switch (seite) {
-    case Berichtsseite::Blutdruck:
-        return vorn + "Blutdruck.rpt";
-    case Berichtsseite::SecControl:
-        return vorn + "SecControl.rpt";
-    default:
-        break;
-    }
-    if (klasse == 0)
-        return {};
-    return vorn + (seite == Berichtsseite::Deckblatt ? "deckblatt" : "messergebnisse") +
-           (klasse == 2 ? "1" : "") + ".rpt";
 }
 
 Berichtsmaske::Berichtsmaske(const Art &art) : mArt(art) {
@@ -135,34 +103,20 @@ Schlüssel Berichtsmaske::nummer(int ab) const {
     return static_cast<Schlüssel>(Val(ui.cmbBericht->currentText().mid(ab)));
 }
 
-QAbstractButton *Berichtsmaske::wahl(Berichtsseite seite) const {
-    switch (seite) {
-    case Berichtsseite::Deckblatt:
-        return ui.rbDruck1;
-    case Berichtsseite::Messergebnisse:
-        return ui.rbDruck2_0;
-    case Berichtsseite::SecControl:
-        return ui.rbDruck3;
-    case Berichtsseite::Blutdruck:
-        return ui.rbDruck4;
-    }
-    return nullptr;
+void Berichtsmaske::seitenSperren() {
+    for (const Seitenausgabe &seite : seitenausgaben())
+        wählbar(seite, false);
 }
 
-void Berichtsmaske::seitenSperren() {
-    for (QWidget *knopf : std::initializer_list<QWidget *>{ui.rbDruck1, ui.rbDruck2_0,
-                                                           ui.rbDruck2_1, ui.rbDruck3, ui.rbDruck4})
-        knopf->setEnabled(false);
+void Berichtsmaske::wählbar(const Seitenausgabe &seite, bool ja) {
+    for (const auto wahl : seite.wahl)
+        (ui.*wahl)->setEnabled(ja);
 }
 
 void Berichtsmaske::fnc_SeitenFreigeben() try {
     const Schlüssel id = nummer(mArt.seitenNummerAb);
-    const auto hat = [&](Inhalt inhalt) { return vorhanden(mArt.bestand, inhalt, id); };
-    ui.rbDruck4->setEnabled(hat(Inhalt::Blutdruck));
-    ui.rbDruck3->setEnabled(hat(Inhalt::SecControl));
-    const bool messwerte = hat(Inhalt::Messwerte);
-    for (QRadioButton *knopf : {ui.rbDruck1, ui.rbDruck2_0, ui.rbDruck2_1})
-        knopf->setEnabled(messwerte);
+    for (const Seitenausgabe &seite : seitenausgaben())
+        wählbar(seite, vorhanden(mArt.bestand, seitendaten(seite.seite).inhalt, id));
     for (QRadioButton *knopf : {ui.rbDruck2_1, ui.rbDruck3, ui.rbDruck4}) {
         if (knopf->isEnabled()) {
             knopf->setChecked(true);
@@ -214,35 +168,26 @@ void Berichtsmaske::abschließen() {
 }
 
 void Berichtsmaske::drucken() {
-    if (ui.cbKomplett->isChecked()) {
-        for (const Berichtsseite seite : alleSeiten) {
-            if (wahl(seite)->isEnabled())
-                seiteDrucken(seite);
-        }
-        return;
+    const bool alle = ui.cbKomplett->isChecked();
+    for (const Seitenausgabe &seite : seitenausgaben()) {
+        if (std::any_of(seite.wahl.begin(), seite.wahl.end(), [&](const auto wahl) {
+                return alle ? (ui.*wahl)->isEnabled() : (ui.*wahl)->isChecked();
+            }))
+            seiteDrucken(seite);
     }
-    if (ui.rbDruck1->isChecked())
-        seiteDrucken(Berichtsseite::Deckblatt);
-    else if (ui.rbDruck2_0->isChecked() || ui.rbDruck2_1->isChecked())
-        seiteDrucken(Berichtsseite::Messergebnisse);
-    else if (ui.rbDruck3->isChecked())
-        seiteDrucken(Berichtsseite::SecControl);
-    else if (ui.rbDruck4->isChecked())
-        seiteDrucken(Berichtsseite::Blutdruck);
 }
 
-void Berichtsmaske::seiteDrucken(Berichtsseite seite) {
+void Berichtsmaske::seiteDrucken(const Seitenausgabe &seite) {
     try {
-        stufen(seite, mArt.bestand, gBerichtProtokoll, ui.rbDruck2_1->isChecked());
+        stufen(seite.seite, mArt.bestand, gBerichtProtokoll, ui.rbDruck2_1->isChecked());
     } catch (const Fehler &fehler) {
-        fehlerBox(mArt.stufenTag[static_cast<int>(seite) - 1], fehler);
+        fehlerBox(seite.stufenTag[mArt.bestand == Bestand::Archiv], fehler);
         return;
     }
     if (const QString layout = layoutname(seite, mnGeräteKlasse); !layout.isEmpty())
         Crt1.layout = QDir::current().absoluteFilePath(layout);
-    const QString titel =
-        inSprache({"Protokoll", "Protocol"}) +
-        QString(" %1 - %2").arg(gBerichtProtokoll).arg(inSprache(seitenname(seite)));
+    const QString titel = inSprache({"Protokoll", "Protocol"}) +
+                          QString(" %1 - %2").arg(gBerichtProtokoll).arg(inSprache(seite.titel));
     const QByteArray pdf = Crt1.ausführen(mArt.bestand, gBerichtProtokoll, titel);
     if (mbSichern) {
         if (!pdf.isEmpty()) // another printer's file is its own
@@ -252,7 +197,7 @@ void Berichtsmaske::seiteDrucken(Berichtsseite seite) {
                      {"Es ist kein Drucker eingerichtet. 'Sichern' legt die Seiten als PDF ab.",
                       "No printer is installed. 'Save' writes the pages as PDF."});
     }
-    if (seite != Berichtsseite::Deckblatt)
+    if (seite.zählt)
         gedruckt();
 }
 

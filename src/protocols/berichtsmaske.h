@@ -2,11 +2,9 @@
 // protocol and of its pages, and the run that stages and prints them.
 #pragma once
 
-#include <array>
-
 #include "platform/text.h"
 #include "protocols/berichtsmaschine.h"
-#include "records/bericht.h"
+#include "protocols/berichtsseiten.h"
 #include "session/screens.h"
 #include "ui_berichtsmaske.h"
 
@@ -16,9 +14,8 @@ class Berichtsmaske : public Screen {
     struct Art {
         Bestand bestand;
         platform::Text titel;
-        int nummerAb;             ///< where the number starts
-        int seitenNummerAb;       ///< where it is looked for when the pages are enabled
-        const char *stufenTag[4]; ///< of failures while staging, by page
+        int nummerAb;       ///< where the number starts
+        int seitenNummerAb; ///< where it is looked for when the pages are enabled
         const char *klasseTag, *druckTag;
     };
     explicit Berichtsmaske(const Art &art);
@@ -37,7 +34,6 @@ class Berichtsmaske : public Screen {
     virtual void auswahlGeändert() {}
     /// The list without a first entry, or with `erster` as its text.
     void eintragen(const QStringList &einträge, bool ersterGewählt);
-    void keineProtokolle();
     void fnc_SeitenFreigeben();
     void seitenSperren();
     Schlüssel nummer(int ab) const;
@@ -46,12 +42,11 @@ class Berichtsmaske : public Screen {
     bool mbKeineProtokolle = false;
 
   private:
-    QAbstractButton *wahl(Berichtsseite seite) const;
+    void wählbar(const Seitenausgabe &seite, bool ja);
     void fnc_GeräteKlasse();
-    bool vorlageWählen(Berichtsseite seite);
     void OKButton_Click();
     void drucken();
-    void seiteDrucken(Berichtsseite seite);
+    void seiteDrucken(const Seitenausgabe &seite);
     void pbSichern_Click();
     void abschließen();
 
@@ -63,6 +58,3 @@ class Berichtsmaske : public Screen {
 
 /// The name in an entry: what stands behind its last hyphen, one blank where that is nothing.
 QString berichtsname(const QString &eintrag);
-/// The layout file of a page in the language of the session; nothing for an unknown class where the
-/// page depends on it.
-QString layoutname(Berichtsseite seite, std::int16_t klasse);

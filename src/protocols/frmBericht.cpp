@@ -15,7 +15,6 @@ frmBericht::frmBericht()
                      .titel = {"Protokoll drucken", "Print Protocol"},
                      .nummerAb = 13, // behind the date and three blanks
                      .seitenNummerAb = 10,
-                     .stufenTag = {"1081 - ", "1082 - ", "1087 - ", "1086 - "},
                      .klasseTag = "1084 - ",
                      .druckTag = "1085 - "}) {
     for (QWidget *archiv :

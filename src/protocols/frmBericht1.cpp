@@ -12,7 +12,6 @@ frmBericht1::frmBericht1()
                      .titel = {"Protokollverwaltung", "Protocol Administration"},
                      .nummerAb = 0,
                      .seitenNummerAb = 0,
-                     .stufenTag = {"1112 - ", "1113 - ", "1087 - ", "1086 - "},
                      .klasseTag = "1114 - ",
                      .druckTag = "1115 - "}) {
     on(ui.cmbKunde, &QComboBox::activated, [this] { kundeGewählt(); });

@@ -58,22 +58,9 @@ QString pdfOrdner(Schlüssel protokollID) {
     return QDir(gPDFOrdner).filePath("PDF/" + QString::number(protokollID));
 }
 
-const Pdfseite &pdfseite(Berichtsseite seite) {
-    static const Pdfseite seiten[] = {
-        {{"Berichtsseite Deckblatt wird erstellt!", "'Cover Sheet' created!"},
-         {"_Deckblatt.pdf", "_CoverSheet.pdf"}},
-        {{"Berichtsseite Messergebnisse wird erstellt!", "'Measuring Results' created!"},
-         {"_Messergebnisse.pdf", "_MeasuringResults.pdf"}},
-        {{"Berichtsseite Blutdruck wird erstellt!", "'Blood Pressure' created!"},
-         {"_Blutdruck.pdf", "_BloodPressure.pdf"}},
-        {{"Berichtsseite STK wird erstellt!", "'EST' created!"}, {"_STK.pdf", "_EST.pdf"}},
-    };
-    return seiten[static_cast<int>(seite) - 1];
-}
-
-void pdfSpeichern(const QByteArray &pdf, Berichtsseite seite, Schlüssel protokollID) {
-    const Pdfseite &pdfSeite = pdfseite(seite);
+void pdfSpeichern(const QByteArray &pdf, const Seitenausgabe &seite, Schlüssel protokollID) {
     const QDir ordner(pdfOrdner(protokollID));
-    saveReport(pdf, ordner.filePath(QString::number(protokollID) + inSprache(pdfSeite.endung)));
-    meldung(pdfSeite.meldung, Information, {"Sichern", "Save"});
+    const platform::Text &endung = seitendaten(seite.seite).datei;
+    saveReport(pdf, ordner.filePath(QString::number(protokollID) + inSprache(endung)));
+    meldung(seite.meldung, Information, {"Sichern", "Save"});
 }

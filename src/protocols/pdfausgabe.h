@@ -3,8 +3,7 @@
 
 #include <QByteArray>
 
-#include "platform/text.h"
-#include "records/bericht.h"
+#include "protocols/berichtsseiten.h"
 
 /// Names the printer to use and takes it and the folder into the session. False when the run ends
 /// here, since there is no folder for the files, which is told. Raises what the store raises.
@@ -21,12 +20,6 @@ bool fnc_PrintPDF(Umschalten modus);
 /// The folder of a protocol's files: PDF/number below the folder of the session.
 QString pdfOrdner(Schlüssel protokollID);
 
-struct Pdfseite {
-    platform::Text meldung;
-    platform::Text endung; ///< behind the number
-};
-const Pdfseite &pdfseite(Berichtsseite seite);
-
 /// Writes the page under its name, then says so. A file of that name is kept beside it. Raises
 /// PermissionDenied.
-void pdfSpeichern(const QByteArray &pdf, Berichtsseite seite, Schlüssel protokollID);
+void pdfSpeichern(const QByteArray &pdf, const Seitenausgabe &seite, Schlüssel protokollID);

@@ -1,32 +1,50 @@
 #include "records/bericht.h"
 
+#include <algorithm>
+
 #include "records/spalte.h"
 #include "session/sprache.h"
 #include "store/database.h"
 
 namespace {
 
-/// The tables carry numbers of their own.
-char nummer(Berichtsseite seite) {
-    switch (seite) {
-    case Berichtsseite::Deckblatt:
-        return '1';
-    case Berichtsseite::Messergebnisse:
-        return '2';
-    case Berichtsseite::SecControl:
-        return '3';
-    case Berichtsseite::Blutdruck:
-        return '4';
-    }
-    return '1';
-}
+// The stage tables carry numbers of their own.
+const Seitendaten seiten[] = {
+    {Berichtsseite::Deckblatt,
+     Inhalt::Messwerte,
+     "Bericht1",
+     "Bericht1neu",
+     "Bericht1alt",
+     {"Bericht1"},
+     {"Deckblatt", "Cover sheet"},
+     {"_Deckblatt.pdf", "_CoverSheet.pdf"}},
+    {Berichtsseite::Messergebnisse,
+     Inhalt::Messwerte,
+     "Bericht2",
+     "Bericht2neu",
+     "Bericht2alt",
+     {"Bericht2", "Leistungsmessung", "Drehzahlmessung"},
+     {"Messergebnisse", "Measuring results"},
+     {"_Messergebnisse.pdf", "_MeasuringResults.pdf"}},
+    {Berichtsseite::Blutdruck,
+     Inhalt::Blutdruck,
+     "Bericht4",
+     "Bericht4neu",
+     "Bericht4alt",
+     {"Bericht4"},
+     {"Blutdruck-Messsystem", "Blood-pressure system"},
+     {"_Blutdruck.pdf", "_BloodPressure.pdf"}},
+    {Berichtsseite::SecControl,
+     Inhalt::SecControl,
+     "Bericht3",
+     "Bericht3neu",
+     "Bericht3alt",
+     {"Bericht3"},
+     {"Elektrische Sicherheit", "Electrical safety"},
+     {"_STK.pdf", "_EST.pdf"}},
+};
 
-QString quelle(Berichtsseite seite, Bestand bestand) {
-    return stufentabelle(seite) + (bestand == Bestand::Arbeit ? "neu" : "alt");
-}
-
-void messergebnisseStufen(Bestand bestand, Schlüssel protokollID, bool mit) {
-    const QString von = quelle(Berichtsseite::Messergebnisse, bestand);
+void messergebnisseStufen(const QString &von, Bestand bestand, Schlüssel protokollID, bool mit) {
     const bool englischesArchiv = bestand == Bestand::Archiv && !inDeutsch();
     const QString konform = englischesArchiv ? (mit ? "with" : "out") : (mit ? "mit" : "ohne");
     gDatenbank.execute(
@@ -49,19 +67,29 @@ void messergebnisseStufen(Bestand bestand, Schlüssel protokollID, bool mit) {
 
 } // namespace
 
+std::span<const Seitendaten> seitendaten() {
+    return seiten;
+}
+
+const Seitendaten &seitendaten(Berichtsseite seite) {
+    return *std::find_if(std::begin(seiten), std::end(seiten),
+                         [seite](const Seitendaten &daten) { return daten.seite == seite; });
+}
+
 QString stufentabelle(Berichtsseite seite) {
-    return QString("Bericht") + nummer(seite);
+    return seitendaten(seite).tabelle;
 }
 
 void stufen(Berichtsseite seite, Bestand bestand, Schlüssel protokollID, bool konform) {
+    const Seitendaten &daten = seitendaten(seite);
+    const QString &von = bestand == Bestand::Arbeit ? daten.arbeit : daten.archiv;
     gDatenbank.together([&] {
-        const QString tabelle = stufentabelle(seite);
-        gDatenbank.execute("DELETE FROM " + tabelle);
+        gDatenbank.execute("DELETE FROM " + daten.tabelle);
         if (seite == Berichtsseite::Messergebnisse)
-            messergebnisseStufen(bestand, protokollID, konform);
+            messergebnisseStufen(von, bestand, protokollID, konform);
         else
-            gDatenbank.execute("INSERT INTO " + tabelle + " SELECT * FROM " +
-                                   quelle(seite, bestand) + " WHERE ProtokollID = ?",
+            gDatenbank.execute("INSERT INTO " + daten.tabelle + " SELECT * FROM " + von +
+                                   " WHERE ProtokollID = ?",
                                {protokollID});
     });
 }

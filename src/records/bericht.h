@@ -5,10 +5,27 @@
 #include <QString>
 #include <QStringList>
 
+#include <span>
+
+#include "platform/text.h"
 #include "records/protokollinhalt.h"
 
 /// Their numbers are those of the PDF pages.
 enum class Berichtsseite { Deckblatt = 1, Messergebnisse = 2, Blutdruck = 3, SecControl = 4 };
+
+/// What the records know of a page.
+struct Seitendaten {
+    Berichtsseite seite;
+    Inhalt inhalt;          ///< a protocol that holds it has the page
+    QString tabelle;        ///< stage table
+    QString arbeit, archiv; ///< views that fill it
+    QStringList listen;     ///< lists of a layout that reads the page
+    platform::Text blatt;   ///< name on the sheet
+    platform::Text datei;   ///< end of the PDF file's name, behind the number
+};
+/// In the order of a complete set.
+std::span<const Seitendaten> seitendaten();
+const Seitendaten &seitendaten(Berichtsseite seite);
 
 /// The stage table of a page.
 QString stufentabelle(Berichtsseite seite);

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 #include "platform/clock.h"
 #include "platform/fehler.h"
@@ -17,11 +16,16 @@ using namespace platform;
 
 namespace {
 
-const std::map<QString, Text> blätter{
-    {"Bericht1", {"Deckblatt", "Cover sheet"}},
-    {"Bericht2", {"Messergebnisse", "Measuring results"}},
-    {"Bericht3", {"Elektrische Sicherheit", "Electrical safety"}},
-    {"Bericht4", {"Blutdruck-Messsystem", "Blood-pressure system"}}};
+/// Nothing for a list of another kind.
+const Seitendaten *seiteMitListe(const QString &liste) {
+    const auto seiten = seitendaten();
+    const auto seite = std::find_if(seiten.begin(), seiten.end(), [&](const Seitendaten &daten) {
+        return daten.listen.contains(liste);
+    });
+    return seite == seiten.end() ? nullptr : &*seite;
+}
+
+constexpr double spiel = 1e-9; // W or 1/min that are no difference
 
 bool ja(const QString &urteil) {
     return urteil == "ja" || urteil == "yes";
@@ -90,15 +94,17 @@ LayoutFields kopffelder(const Recordset &kopf, Bestand bestand) {
 }
 
 /// The head of the protocol by its number, never the stage table of another page.
-LayoutFields kopffelder(Bestand bestand, Schlüssel protokollID) {
-    const Recordset kopf = gDatenbank.open(QString("SELECT * FROM Bericht1%1 WHERE ProtokollID = ?")
-                                               .arg(bestand == Bestand::Arbeit ? "neu" : "alt"),
-                                           {protokollID});
+Recordset kopfLesen(Bestand bestand, Schlüssel protokollID) {
+    const Seitendaten &deckblatt = seitendaten(Berichtsseite::Deckblatt);
+    Recordset kopf = gDatenbank.open(
+        "SELECT * FROM " + (bestand == Bestand::Arbeit ? deckblatt.arbeit : deckblatt.archiv) +
+            " WHERE ProtokollID = ?",
+        {protokollID});
     if (kopf.empty()) {
         throw Fehler(fehlernummer::NoCurrentRecord, {"Das Protokoll gibt es nicht mehr.",
                                                      "The protocol does not exist any more."});
     }
-    return kopffelder(kopf, bestand);
+    return kopf;
 }
 
 /// An uncertainty bears two digits that count.
@@ -205,10 +211,8 @@ void ergebnisseErgänzen(LayoutData &daten) {
 
 QString gelesen(const Layout &layout) {
     for (const QString &abschnitt : layout.sections()) {
-        if (blätter.contains(abschnitt))
-            return abschnitt;
-        if (abschnitt == "Leistungsmessung" || abschnitt == "Drehzahlmessung")
-            return "Bericht2";
+        if (const Seitendaten *seite = seiteMitListe(abschnitt))
+            return seite->tabelle;
     }
     throw Fehler(fehlernummer::LayoutBroken,
                  {"Das Layout liest keine der Tabellen Bericht1 bis Bericht4.",
@@ -226,24 +230,26 @@ LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüss
                       "sie noch einmal.",
                       "The page was not prepared for this protocol. Please print it again."});
     }
-    LayoutData daten{kopffelder(bestand, protokollID), {}};
-    daten.fields["Blatt"] = inSprache(blätter.at(stufentabelle));
+    const Seitendaten &seite = *seiteMitListe(stufentabelle);
+    const Recordset kopf = kopfLesen(bestand, protokollID);
+    LayoutData daten{kopffelder(kopf, bestand), {}};
+    daten.fields["Blatt"] = inSprache(seite.blatt);
     LayoutList liste;
     for (int zeile = 0; zeile < zeilen.count(); ++zeile) {
         liste.rows.push_back(felder(zeilen, zeile));
-        if (stufentabelle == "Bericht2")
+        if (seite.seite == Berichtsseite::Messergebnisse)
             ergebnisErgänzen(liste.rows.back(), zeilen, zeile);
         if (liste.rows.back().contains("Drehrichtung"))
             liste.rows.back()["Drehrichtung"] = daten.fields["Drehrichtung"];
     }
-    if (stufentabelle == "Bericht1")
+    if (seite.seite == Berichtsseite::Deckblatt)
         liste.rows.front() = kopffelder(zeilen, bestand);
     liste.columns = liste.rows.front().keys();
     for (const QString &spalte : liste.columns) // the sheets repeat their standard in each row
         if (spalte.endsWith("_BD") || spalte.endsWith("_STK"))
             daten.fields[spalte] = liste.rows.front()[spalte];
     daten.lists[stufentabelle] = std::move(liste);
-    if (stufentabelle == "Bericht2")
+    if (seite.seite == Berichtsseite::Messergebnisse)
         ergebnisseErgänzen(daten);
     return daten;
 }
@@ -261,7 +267,6 @@ bool urteilFolgt(const Ergebniszeile &zeile) {
     const std::optional<double> anteil = unsicherheit(zeile);
     if (!zeile.grenze || !anteil)
         return false;
-    constexpr double spiel = 1e-9;
     const double d = std::fabs(zeile.ergometer - zeile.normal);
     const double t = *zeile.grenze;
     const auto mitFolgt = [&](double u) {
