@@ -6,7 +6,6 @@
 #include "platform/clock.h"
 #include "platform/fehler.h"
 #include "platform/runtime.h"
-#include "records/toleranz.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
@@ -107,6 +106,14 @@ Recordset kopfLesen(Bestand bestand, Schlüssel protokollID) {
     return kopf;
 }
 
+/// As the head kept it; nothing where it has none.
+std::optional<Spezifikation> spezifikationAus(const Recordset &kopf) {
+    if (kopf["Prozent"].isNull() || kopf["Watt"].isNull() || kopf["GrenzAbw"].isNull())
+        return {};
+    return Spezifikation{kopf["Prozent"].number(), kopf["Watt"].number(),
+                         static_cast<std::int16_t>(Round(kopf["GrenzAbw"].number()))};
+}
+
 /// An uncertainty bears two digits that count.
 QString zweiStellen(const std::optional<double> &wert) {
     if (!wert)
@@ -127,7 +134,8 @@ QString mitVorzeichen(double wert) {
 }
 
 /// Numbers with their decimals, and what is reckoned from a row.
-void ergebnisErgänzen(LayoutFields &felder, const Recordset &zeilen, int zeile) {
+void ergebnisErgänzen(LayoutFields &felder, const Recordset &zeilen, int zeile,
+                      const std::optional<Spezifikation> &spezifikation) {
     const auto wert = [&](const char *spalte) -> std::optional<double> {
         const Feld feld(zeilen.at(zeile, zeilen.columnIndex(spalte)));
         return feld.isNull() ? std::optional<double>() : feld.number();
@@ -160,6 +168,7 @@ void ergebnisErgänzen(LayoutFields &felder, const Recordset &zeilen, int zeile)
     felder["Leistung"] = marke(leistung);
     felder["UnsicherheitGroß"] = marke(u && ergebnis.grenze && *u > *ergebnis.grenze / 3);
     felder["Fußnote"] = marke(!urteilFolgt(ergebnis));
+    felder["AndereGrenze"] = marke(andereGrenze(ergebnis, spezifikation));
 }
 
 /// Sums of the page, and the rows apart by what they measured.
@@ -195,7 +204,8 @@ void ergebnisseErgänzen(LayoutData &daten) {
           {"OhneUrteil", urteile("MU_mit", fehlt)},
           {"OhneUnsicherheit", punkte - mit("Unsicherheit")},
           {"UnsicherheitenGroß", mit("UnsicherheitGroß")},
-          {"Fußnoten", mit("Fußnote")}})
+          {"Fußnoten", mit("Fußnote")},
+          {"AndereGrenzen", mit("AndereGrenze")}})
         felder[name] = anzahl(zahl);
     felder["AndereSprache"] = marke(urteile("MU_ohne", fremd) + urteile("MU_mit", fremd) > 0);
     felder["MitAussage"] = marke(mitAussage(alle.rows.front()["Konform"]));
@@ -238,7 +248,7 @@ LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüss
     for (int zeile = 0; zeile < zeilen.count(); ++zeile) {
         liste.rows.push_back(felder(zeilen, zeile));
         if (seite.seite == Berichtsseite::Messergebnisse)
-            ergebnisErgänzen(liste.rows.back(), zeilen, zeile);
+            ergebnisErgänzen(liste.rows.back(), zeilen, zeile, spezifikationAus(kopf));
         if (liste.rows.back().contains("Drehrichtung"))
             liste.rows.back()["Drehrichtung"] = daten.fields["Drehrichtung"];
     }
@@ -252,6 +262,15 @@ LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüss
     if (seite.seite == Berichtsseite::Messergebnisse)
         ergebnisseErgänzen(daten);
     return daten;
+}
+
+bool andereGrenze(const Ergebniszeile &zeile, const std::optional<Spezifikation> &kopf) {
+    if (!zeile.grenze || !kopf)
+        return false;
+    const double genannt = zeile.leistung
+                               ? std::max(zeile.ergometer * kopf->prozent / 100, kopf->watt)
+                               : kopf->grenzAbw;
+    return std::fabs(*zeile.grenze - genannt) > spiel;
 }
 
 std::optional<double> unsicherheit(const Ergebniszeile &zeile) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "records/bericht.h"
+#include "records/toleranz.h"
 #include "windows/layout.h"
 
 #include <optional>
@@ -25,6 +26,10 @@ struct Ergebniszeile {
     std::optional<double> muProz; ///< expanded uncertainty, % of `ergometer`
     QString ohne, mit;            ///< ja, nein, yes, no; ?
 };
+/// Whether the row was judged by another limit than the specification that the head names gives, as
+/// after a change of the specification between two sittings. 1e-9 W or 1/min are no difference. A
+/// row without limit, and a head without specification, name none to differ.
+bool andereGrenze(const Ergebniszeile &zeile, const std::optional<Spezifikation> &kopf);
 /// Expanded uncertainty, W or 1/min. Nothing where none is stored, and at 0 W, where the stored
 /// number is no share of anything.
 std::optional<double> unsicherheit(const Ergebniszeile &zeile);

@@ -123,6 +123,11 @@ TEST_F(Seiten, TellWhatDependsOnTheProtocol) {
     EXPECT_TRUE(zeigt("deckblatt.rpt", 16, "abgelaufen"));
     EXPECT_TRUE(zeigt("messergebnisse.rpt", 16, "\n–\n–\n–\n±3,00\n786,00\nja *\nja *"));
     EXPECT_TRUE(zeigt("messergebnisse.rpt", 16, "enthalten: 1."));
+    // Between two sittings, with GrenzAbw rounded as it is applied.
+    change("UPDATE Protokoll_temp SET Prozent = 4, GrenzAbw = 2.5 WHERE ProtokollID = 16");
+    EXPECT_TRUE(zeigt("messergebnisse.rpt", 16, "±20,00 **"));
+    EXPECT_FALSE(zeigt("messergebnisse.rpt", 16, "±2,00 **"));
+    EXPECT_TRUE(zeigt("messergebnisse.rpt", 16, "So gekennzeichnet: 8."));
     EXPECT_EQ(raised([] {
                   seite("deckblatt.rpt", 16);
                   berichtsdaten("Bericht1", Bestand::Arbeit, 18);
@@ -152,6 +157,7 @@ TEST_F(Seiten, TearNoRow) {
                        "?2 / 4, '121', '0'), 'nein', "
                        "'nein', 0.3 FROM N",
                        {id, schritte});
+                change("UPDATE Messwerte_temp SET ZulAbw = ZulAbw + 1 WHERE ProtokollID = 180");
             }
             const platform::Report bericht =
                 seite(inSitzung("", "eng_") + "messergebnisse.rpt", id);
@@ -209,6 +215,20 @@ TEST(Footnote, MarksVerdictsThatDoNotFollow) {
             urteilFolgt({c.in_(0) == "P", *zahl(1), *zahl(2), zahl(3), zahl(4), wort(5), wort(6)}),
             c.out == "follows")
             << c;
+    }
+}
+
+TEST(Footnote, MarksLimitsThatTheHeadDoesNotName) {
+    // power or speed, ergometer, limit; the head names 5 %, 3 W, 2 1/min
+    for (const Case &c : cases("P, 100, 5 -> same | P, 33.3, 3 -> same | P, 0, 3 -> same "
+                               "| P, 100, 3 -> other | P, 33.3, 1.665 -> other | n, 100, 2 -> same "
+                               "| n, 100, 5 -> other | n, 100, 2.5 -> other")) {
+        Ergebniszeile zeile{
+            c.in_(0) == "P", c.in_(1).toDouble(), 0, c.in_(2).toDouble(), {}, {}, {}};
+        EXPECT_EQ(andereGrenze(zeile, Spezifikation{5, 3, 2}), c.out == "other") << c;
+        EXPECT_FALSE(andereGrenze(zeile, {})) << c;
+        zeile.grenze.reset();
+        EXPECT_FALSE(andereGrenze(zeile, Spezifikation{5, 3, 2})) << c;
     }
 }
 
