@@ -16,18 +16,7 @@ constexpr Beschriftung english[] = {
 
 frmBlutdruckAbfrage::frmBlutdruckAbfrage() {
     ui.setupUi(this);
-    mWahl.verbinden(
-        {ui.obNeu, ui.obVorhanden, ui.txtNeu, ui.lbProtokollID, ui.cmbVorhanden, ui.pbok},
-        offeneProtokolle);
-    onClick(ui.obNeu, [this] { mWahl.neuGewählt(); });
-    onClick(ui.obVorhanden, [this] { obVorhanden_Click(); });
-    for (QRadioButton *wahl : {ui.obNeu, ui.obVorhanden})
-        onEnter(wahl, [wahl] { wahl->click(); });
-    onEnter(ui.txtNeu, [this] { ui.pbok->setFocus(); });
-    on(ui.cmbVorhanden, &QComboBox::activated, [this] { mWahl.cmbVorhanden_Click(); });
-    on(ui.cmbVorhanden, &QComboBox::editTextChanged, [this] { mWahl.cmbVorhanden_Change(); });
-    onEnter(ui.cmbVorhanden, [this] { cmbVorhanden_KeyPress(); });
-    onClick(ui.pbok, [this] { pbok_Click(); });
+    wahlVerbinden(ui, offeneProtokolle);
     onClick(ui.pbexit, [this] { unload(); });
     onEscape([this] { unload(); });
 }

@@ -9,7 +9,7 @@
 
 class Prüfblatt;
 
-class frmBlutdruckAbfrage : public Screen {
+class frmBlutdruckAbfrage : public Wahldialog<Screen> {
   public:
     static constexpr frm id = frm::BlutdruckAbfrage;
     frmBlutdruckAbfrage();
@@ -28,12 +28,11 @@ class frmBlutdruckAbfrage : public Screen {
     void fnc_ProtokollNrNeu();
     void fnc_VorschlagLaden();
 
-    void obVorhanden_Click();
-    void cmbVorhanden_KeyPress();
-    void pbok_Click();
+    void obVorhanden_Click() override;
+    void cmbVorhanden_KeyPress() override;
+    void pbok_Click() override;
 
     Ui::frmBlutdruckAbfrage ui;
-    Protokollwahl mWahl;
     frm mBlatt = frm::Blutdruck;
     bool mGewählt = false; ///< the sheet has its protocol
 };

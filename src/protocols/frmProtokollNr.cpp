@@ -25,21 +25,11 @@ constexpr int zeileLetztes = 2;
 } // namespace
 
 frmProtokollNr::frmProtokollNr()
-    : Protokolldialog({"       Prüfprotokoll: ", "       Test Protocol: "}) {
+    : Wahldialog({"       Prüfprotokoll: ", "       Test Protocol: "}) {
     ui.setupUi(this);
-    mWahl.verbinden(
-        {ui.obNeu, ui.obVorhanden, ui.txtNeu, ui.lbProtokollID, ui.cmbVorhanden, ui.pbok},
-        leereProtokolle);
-    onClick(ui.obNeu, [this] { mWahl.neuGewählt(); });
-    onClick(ui.obVorhanden, [this] { obVorhanden_Click(); });
+    wahlVerbinden(ui, leereProtokolle);
     onClick(ui.obLetztes, [this] { obLetztes_Click(); });
-    for (QRadioButton *wahl : {ui.obNeu, ui.obVorhanden, ui.obLetztes})
-        onEnter(wahl, [wahl] { wahl->click(); });
-    onEnter(ui.txtNeu, [this] { ui.pbok->setFocus(); });
-    on(ui.cmbVorhanden, &QComboBox::activated, [this] { mWahl.cmbVorhanden_Click(); });
-    on(ui.cmbVorhanden, &QComboBox::editTextChanged, [this] { mWahl.cmbVorhanden_Change(); });
-    onEnter(ui.cmbVorhanden, [this] { cmbVorhanden_KeyPress(); });
-    onClick(ui.pbok, [this] { pbok_Click(); });
+    onEnter(ui.obLetztes, [this] { ui.obLetztes->click(); });
     onClick(ui.pbexit, [this] { abschließen(abgebrochen); });
 }
 
@@ -111,6 +101,8 @@ void frmProtokollNr::cmbVorhanden_KeyPress() try {
 // gProtokollID takes another number only once its head is known to be there: the new number stays
 // good for another try, and leaving after a failure cannot clear away a foreign head.
 void frmProtokollNr::pbok_Click() try {
+    if (!spezifikationVorhanden())
+        return;
     if (ui.obVorhanden->isChecked()) {
         if (!mWahl.gewählterEintrag()) // it may have been typed without Enter
             return;

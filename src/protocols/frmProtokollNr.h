@@ -7,7 +7,7 @@
 #include "session/session.h"
 #include "ui_frmProtokollNr.h"
 
-class frmProtokollNr : public Protokolldialog {
+class frmProtokollNr : public Wahldialog<Protokolldialog> {
   public:
     static constexpr frm id = frm::ProtokollNr;
     frmProtokollNr();
@@ -22,13 +22,12 @@ class frmProtokollNr : public Protokolldialog {
     void fnc_ProtokollNrNeu();
     void listeLegen(int zeile);
 
-    void obVorhanden_Click();
+    void obVorhanden_Click() override;
     void obLetztes_Click();
-    void cmbVorhanden_KeyPress();
-    void pbok_Click();
+    void cmbVorhanden_KeyPress() override;
+    void pbok_Click() override;
 
     Ui::frmProtokollNr ui;
-    Protokollwahl mWahl;
     Schlüssel mnLetztesProtokoll = 0;   // highest with measured values
     Schlüssel mnLetztesProtokollID = 0; // the same once it may be continued
     QString msLetzterName;

@@ -44,6 +44,8 @@ void frmProtokollNr_1::fnc_ProtokollNrNeu() {
 }
 
 void frmProtokollNr_1::pbok_Click() try {
+    if (!spezifikationVorhanden())
+        return;
     if (ui.txtProtoName->text().isEmpty())
         ui.txtProtoName->setText(" ");
     kopfAnlegen(gProtokollID, ui.txtProtoName->text());

@@ -1,11 +1,27 @@
 #include "protocols/protokolldialog.h"
 
+#include "records/toleranz.h"
 #include "session/session.h"
 #include "session/sprache.h"
+#include "windows/msgbox.h"
 
 void Protokolldialog::messfensterVerbergen() {
     if (Screen *messen = loaded(frm::Messen))
         messen->hide();
+}
+
+// Judged by limits of 0, every value would be out of them.
+bool Protokolldialog::spezifikationVorhanden() {
+    if (spezifikationMitID(gToleranzID))
+        return true;
+    meldung({"Die Spezifikation dieses Rezepts wurde gelöscht, ohne sie kann nicht gemessen "
+             "werden.\rBitte brechen Sie ab und wählen Sie ein anderes Rezept, oder geben Sie die "
+             "Spezifikation neu ein und ordnen Sie sie dem Rezept zu.",
+             "The specification of this recipe has been deleted; without it nothing can be "
+             "measured.\rPlease cancel and choose another recipe, or enter the specification again "
+             "and assign it to the recipe."},
+            platform::Exclamation, {"Meldung", "Message"});
+    return false;
 }
 
 void Protokolldialog::abschließen(Messstatus messStatus) {

@@ -18,6 +18,9 @@ class Protokolldialog : public Screen {
     static constexpr Messstatus abgebrochen = Messstatus::Ende;
 
     static void messfensterVerbergen();
+    /// Whether there is a specification to judge by; says so when there is none. Raises what the
+    /// store raises.
+    static bool spezifikationVorhanden();
     /// Closes the dialog with this outcome.
     void abschließen(Messstatus messStatus);
     /// The chosen protocol for captions: its number and name.

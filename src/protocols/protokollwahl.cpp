@@ -1,11 +1,5 @@
 #include "protocols/protokollwahl.h"
 
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QRadioButton>
-
 #include "records/protokollnummer.h"
 #include "session/session.h"
 #include "session/sprache.h"

@@ -1,17 +1,18 @@
 // The choice of a protocol: a new one under the next number, or one of those that the list offers,
-// whose number may be typed. A part of the dialogs that ask for it; the screen wires the events.
+// whose number may be typed. A part of the dialogs that ask for it.
 // The number that stands in the list's box is kept in gProtokollWahl.
 #pragma once
 
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QStringList>
 
 #include <optional>
 
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
+#include "windows/screen.h"
 
 class Protokollwahl {
   public:
@@ -52,4 +53,35 @@ class Protokollwahl {
   private:
     Felder mFelder{};
     QStringList (*mEinträge)() = nullptr;
+};
+
+/// A dialog, Screen or one derived from it, with this choice: its controls and their events.
+template <class Dialog>
+class Wahldialog : public Dialog {
+  protected:
+    using Dialog::Dialog;
+
+    /// `ui` has the controls of the choice under their names. As Protokollwahl::verbinden().
+    template <class Ui>
+    void wahlVerbinden(Ui &ui, QStringList (*einträge)()) {
+        mWahl.verbinden(
+            {ui.obNeu, ui.obVorhanden, ui.txtNeu, ui.lbProtokollID, ui.cmbVorhanden, ui.pbok},
+            einträge);
+        this->onClick(ui.obNeu, [this] { mWahl.neuGewählt(); });
+        this->onClick(ui.obVorhanden, [this] { obVorhanden_Click(); });
+        for (QRadioButton *wahl : {ui.obNeu, ui.obVorhanden})
+            this->onEnter(wahl, [wahl] { wahl->click(); });
+        this->onEnter(ui.txtNeu, [&ui] { ui.pbok->setFocus(); });
+        this->on(ui.cmbVorhanden, &QComboBox::activated, [this] { mWahl.cmbVorhanden_Click(); });
+        this->on(ui.cmbVorhanden, &QComboBox::editTextChanged,
+                 [this] { mWahl.cmbVorhanden_Change(); });
+        this->onEnter(ui.cmbVorhanden, [this] { cmbVorhanden_KeyPress(); });
+        this->onClick(ui.pbok, [this] { pbok_Click(); });
+    }
+
+    virtual void obVorhanden_Click() = 0;
+    virtual void cmbVorhanden_KeyPress() = 0;
+    virtual void pbok_Click() = 0;
+
+    Protokollwahl mWahl;
 };

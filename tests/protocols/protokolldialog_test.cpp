@@ -133,6 +133,21 @@ JOURNEY_P(ProtokollDialog, LastProtocolIsContinuedAsItIs) {
     EXPECT_EQ(grid("SELECT * FROM Protokoll_temp"), vorher);
 }
 
+JOURNEY_P(ProtokollDialog, NothingIsMeasuredWithoutASpecification) {
+    kopf(7, "Station");
+    messwert(7);
+    kopf(9, "leer");
+    change("DELETE FROM Toleranzen WHERE ID = 5");
+    const QString vorher = grid("SELECT * FROM Protokoll_temp");
+    co_await open();
+    for (const QString choice : {"obLetztes", "obVorhanden", "obNeu"})
+        co_await go(choice + " ; ? noSpecification ; pbok ; front == ProtokollNr");
+    co_await go("pbexit ; @Messfenster ; outcome == over 4 new 1 Messen.");
+    co_await open(frm::ProtokollNr_1);
+    co_await go("? noSpecification ; pbok ; pbexit ; @Messfenster");
+    EXPECT_EQ(grid("SELECT * FROM Protokoll_temp"), vorher);
+}
+
 JOURNEY_P(ProtokollDialog, ReducedForm) {
     kopf(4);
     co_await open(frm::ProtokollNr_1);

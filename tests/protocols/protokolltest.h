@@ -17,6 +17,7 @@ class ProtokollTest : public support::Way {
         gDatenbank.execute("DELETE FROM Normalkalibrierdaten");
         gDatenbank.execute("INSERT INTO Normalkalibrierdaten (NK_ID, SerienNr) "
                            "VALUES (5, 'N1'), (6, 'N1'), (7, 'N2')");
+        gDatenbank.execute("INSERT INTO Toleranzen (ID, Prozent) VALUES (5, 5)");
         gPrüfer = "O'Neill";
         gMessverfahren = "Verfahren";
         gSeriennummer = "N1";
