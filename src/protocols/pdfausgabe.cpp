@@ -3,6 +3,7 @@
 #include <QDir>
 
 #include "platform/fehler.h"
+#include "records/berichtsdateien.h"
 #include "records/system.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -55,7 +56,7 @@ bool fnc_PrintPDF(Umschalten modus) {
 }
 
 QString pdfOrdner(Schlüssel protokollID) {
-    return QDir(gPDFOrdner).filePath("PDF/" + QString::number(protokollID));
+    return protokollordner(gPDFOrdner, protokollID);
 }
 
 void pdfSpeichern(const QByteArray &pdf, const Seitenausgabe &seite, Schlüssel protokollID) {

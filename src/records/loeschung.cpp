@@ -52,9 +52,7 @@ void protokolleLöschen(const Löschplan &plan, Bestand bestand, Schlüssel schl
     for (const Löschgang &gang : löschgänge)
         gangAusführen(gang, plan, bestand, schlüssel, zwischendurch);
     if (plan.auchLeereKöpfe)
-        gDatenbank.execute("DELETE FROM " + kopftabelle(bestand) + " WHERE " + plan.schlüssel +
-                               " = ?",
-                           {schlüssel});
+        gangAusführen({}, plan, bestand, schlüssel, [] {});
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "records/berichtsdateien.h"
 #include "store/database.h"
 
 namespace {
@@ -50,4 +51,7 @@ void inhaltLöschen(Bestand bestand, Inhalt inhalt, Schlüssel protokollID) {
 
 void kopfLöschen(Bestand bestand, Schlüssel protokollID) {
     zeilenLöschen(kopftabelle(bestand), protokollID);
+    const Bestand anderer = bestand == Bestand::Arbeit ? Bestand::Archiv : Bestand::Arbeit;
+    if (!kopfVorhanden(anderer, protokollID))
+        seitenAblegen(protokollID);
 }

@@ -20,4 +20,5 @@ bool kopfVorhanden(Bestand bestand, Schlüssel protokollID);
 bool inhaltslos(Bestand bestand, Schlüssel protokollID);
 
 void inhaltLöschen(Bestand bestand, Inhalt inhalt, Schlüssel protokollID);
+/// With it go the PDF files of its pages, unless the other table has the head, too.
 void kopfLöschen(Bestand bestand, Schlüssel protokollID);

@@ -1,5 +1,6 @@
 #include "records/protokollnummer.h"
 
+#include "records/berichtsdateien.h"
 #include "records/blatt.h"
 #include "records/spalte.h"
 
@@ -47,6 +48,8 @@ void kopfSchreiben(Schlüssel nummer, const QString &name, const Messeinstellung
         if (!archiviert)
             inhaltLöschen(Bestand::Archiv, inhalt, nummer);
     }
+    if (!archiviert)
+        seitenAblegen(nummer);
 }
 
 } // namespace

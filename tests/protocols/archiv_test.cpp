@@ -1,6 +1,13 @@
 // The move into the archive, and what a failure leaves where.
 #include "protocols/archivieren.h"
+
+#include <QDir>
+
+#include <functional>
+
 #include "protokolltest.h"
+#include "records/blatt.h"
+#include "records/loeschung.h"
 #include "records/protokollnummer.h"
 
 namespace {
@@ -59,6 +66,49 @@ TEST_F(Archiv, AFreedNumberMeetsNoForeignRows) {
     EXPECT_EQ(grid("SELECT Prüfschritt, KennNr_STK FROM Messwerte JOIN SecControl"), "9|neu");
     EXPECT_EQ(grid("SELECT * FROM Blutdruck"), "");
     EXPECT_EQ(bestand(), "1/0 3/0 1/0 2/0") << "the other protocol stays";
+}
+
+TEST_F(Archiv, AFreedNumberMeetsNoForeignPages) {
+    change("UPDATE System SET PDFOrdner = 'Ablage'");
+    const auto liegen = [](const QString &wo) {
+        return QDir("Ablage/PDF/5/" + wo).entryList(QDir::Files).join(' ');
+    };
+    const QString alle = "5_EST.pdf 5_Messergebnisse.pdf Brief.pdf";
+    QDir().mkpath("Ablage/PDF/5");
+    for (const std::function<void()> &weg : std::initializer_list<std::function<void()>>{
+             [] { kopfLöschen(Bestand::Arbeit, 5); }, [] { datensatzLöschen(Löschziel::Kunde, 3); },
+             [] { datensatzLöschen(Löschziel::Gerät, 4); }, // an empty head, too
+             [] { blattLöschen(Inhalt::SecControl, 5); },
+             [] {
+                 change("DELETE FROM Protokoll_temp");
+                 kopfAnlegen(5, "ein anderes");
+             }}) {
+        change("DELETE FROM Messwerte_temp");
+        change("DELETE FROM Blutdruck_temp");
+        change("DELETE FROM Protokoll_temp");
+        kopf(5);
+        for (const QString &datei : alle.split(' '))
+            EXPECT_TRUE(QFile("Ablage/PDF/5/" + datei).open(QIODevice::WriteOnly));
+        weg();
+        EXPECT_EQ(liegen("."), "Brief.pdf");
+    }
+    static const QRegularExpression abgelegt("^(5_EST(_[\\d-]+){2,3}.pdf ){5}5_Mess");
+    EXPECT_TRUE(abgelegt.match(liegen("ersetzt")).hasMatch()) << liegen("ersetzt");
+
+    // One that is archived keeps its pages, and where they cannot be moved they stay.
+    gPDFOrdner = "Sitzung";
+    QDir().mkpath("Sitzung/PDF/5");
+    const QString seite = "Sitzung/PDF/5/5_STK.pdf";
+    EXPECT_TRUE(QFile(seite).open(QIODevice::WriteOnly));
+    fnc_Archivieren();
+    change("INSERT INTO Protokoll_temp SELECT * FROM Protokoll");
+    kopfLöschen(Bestand::Arbeit, 5);
+    EXPECT_TRUE(QFile::exists(seite));
+    QFile imWeg("Sitzung/PDF/5/ersetzt");
+    EXPECT_TRUE(imWeg.open(QIODevice::WriteOnly));
+    kopfLöschen(Bestand::Archiv, 5);
+    EXPECT_TRUE(QFile::exists(seite));
+    EXPECT_FALSE(kopfVorhanden(Bestand::Archiv, 5));
 }
 
 TEST_F(Archiv, SkipsWhatTheProtocolDoesNotHave) {
