@@ -5,7 +5,6 @@
 #include <QLineEdit>
 
 #include "session/sprache.h"
-#include "windows/msgbox.h"
 
 using platform::Text;
 
@@ -37,12 +36,11 @@ frmBlutdruck::frmBlutdruck()
                  .verlassen = "9802- ",
                  .speichern = "9803- ",
                  .gelöscht = {"Bestätigung!", "Confirmation!"},
-                 .normalFehlt = {"Um das Protokoll speichern zu können ist die Nummer des Normals "
-                                 "erforderlich!",
-                                 "In order to be able to save the protocol, the number of the "
-                                 "working standard has to be provided!"},
-                 .normal = {"NormalNr_BD", "KennNr_BD", "kalibriertVon_BD", "kalibriertBis_BD",
-                            "kalScheinNr_BD"}}) {
+                 .normalFehlt = "Um das Protokoll speichern zu können ist die Nummer des Normals "
+                                "erforderlich!",
+                 .gespeichert = "Data have been saved!",
+                 .bestätigung = "Confirmation!",
+                 .erstSchließen = true}) {
     const auto kopf = [this](const Text &worte, int zeile, int spalte, int breite = 1) {
         raster().addWidget(text(worte), zeile, spalte, 1, breite, Qt::AlignCenter);
     };
@@ -62,24 +60,11 @@ void frmBlutdruck::zeileAnlegen(int stufe) {
     for (int spalte = 0; spalte < 3; ++spalte) {
         const auto &[name, kopf] = spalten[spalte];
         QLineEdit *wert =
-            wertfeld("txt" + druck + name, stufe, name,
-                     {kopf.german + ", " + druck + " mmHg", kopf.english + ", " + druck + " mmHg"});
+            wertfeld("txt" + druck + name, stufe, name, kopf, {druck + " mmHg", druck + " mmHg"});
         raster().addWidget(wert, kopfzeilen + stufe, spalte + 1);
         if (spalte == 0)
             raster().addWidget(text({druck, druck}, wert), kopfzeilen + stufe, 0, Qt::AlignCenter);
         if (stufe > 0 && istMesswert(name))
             onLostFocus(wert, [wert] { fnc_OhnePunkt(*wert); });
     }
-}
-
-void frmBlutdruck::fnc_BlutdruckSpeichern() {
-    schreiben();
-    schließen();
-    meldung({" Daten wurden gespeichert. ", "Data have been saved!"}, platform::Information,
-            {" Bestätigung", "Confirmation!"});
-}
-
-void frmBlutdruck::leerAblegen() {
-    verwerfen();
-    schließen();
 }

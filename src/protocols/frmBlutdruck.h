@@ -8,11 +8,6 @@ class frmBlutdruck : public Prüfblatt {
     static constexpr frm id = frm::Blutdruck;
     frmBlutdruck();
 
-  protected:
-    void speichern() override { fnc_BlutdruckSpeichern(); }
-    void leerAblegen() override;
-
   private:
     void zeileAnlegen(int stufe);
-    void fnc_BlutdruckSpeichern();
 };

@@ -4,8 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 
-#include "session/sprache.h"
-#include "windows/msgbox.h"
+#include "platform/fehler.h"
 
 using platform::Text;
 
@@ -43,12 +42,11 @@ frmSecControl::frmSecControl()
                  .verlassen = "9902- ",
                  .speichern = "9903- ",
                  .gelöscht = {"Meldung", "Message"},
-                 .normalFehlt = {"Um das Protokoll speichern zu können, ist die Nummer des "
-                                 "verwendeten Normals erforderlich!",
-                                 "In order to be able to save the protocol, the number of the "
-                                 "working standard has to be provided!"},
-                 .normal = {"NormalNr_STK", "KennNr_STK", "kalibriertVon_STK", "kalibriertBis_STK",
-                            "KalScheinNr_STK"}}) {
+                 .normalFehlt = "Um das Protokoll speichern zu können, ist die Nummer des "
+                                "verwendeten Normals erforderlich!",
+                 .gespeichert = " Data have been saved. ",
+                 .bestätigung = " Confirmation",
+                 .erstSchließen = false}) {
     QLineEdit *verfahren = textfeld("txtMessverfahren", "Messverfahren_STK");
     raster().addWidget(text({"Messverfahren", "Measuring method"}, verfahren), 0, 0);
     raster().addWidget(verfahren, 0, 1, 1, 3);
@@ -62,10 +60,8 @@ frmSecControl::frmSecControl()
         const auto &[name, spalte, kopf] = größen[größe];
         for (int element = 0; element < 3; ++element) {
             const auto &[endung, elementkopf] = elemente[element];
-            felder[größe][element] =
-                wertfeld(QString("%1_%2").arg(name).arg(element), 0, QString(spalte) + endung,
-                         {elementkopf.german + ", " + kopf.german,
-                          elementkopf.english + ", " + kopf.english});
+            felder[größe][element] = wertfeld(QString("%1_%2").arg(name).arg(element), 0,
+                                              QString(spalte) + endung, elementkopf, kopf);
             raster().addWidget(felder[größe][element], größe + 3, element + 1);
         }
         raster().addWidget(text(kopf, felder[größe][0]), größe + 3, 0);
@@ -74,13 +70,6 @@ frmSecControl::frmSecControl()
     for (int element = 0; element < 3; ++element) // all limits, all values, ... are typed in a go
         enterChain({felder[0][element], felder[1][element], felder[2][element], pbok()},
                    Qt::TabFocusReason);
-}
-
-void frmSecControl::fnc_SecControlSpeichern() {
-    schreiben();
-    meldung({" Daten wurden gespeichert. ", " Data have been saved. "}, platform::Information,
-            {" Bestätigung", " Confirmation"});
-    schließen();
 }
 
 // A unit is not shown as checked by a sheet without values, nor does the sheet go unasked.

@@ -9,10 +9,6 @@ class frmSecControl : public Prüfblatt {
     frmSecControl();
 
   protected:
-    void speichern() override { fnc_SecControlSpeichern(); }
     void leerAblegen() override;
     void vorhandenesVerlassen() override;
-
-  private:
-    void fnc_SecControlSpeichern();
 };

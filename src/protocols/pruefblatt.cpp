@@ -41,8 +41,9 @@ Prüfblatt::Prüfblatt(const Art &art) : mArt(art) {
     setCaption(mArt.titel.german);
     QWidget *const normal[] = {ui.txtNormalNr, ui.txtKennNr, ui.txtkalibriertVon,
                                ui.dtpkalibriertBis, ui.txtKalScheinNr};
-    for (size_t i = 0; i < mArt.normal.size(); ++i)
-        mFelder.push_back({normal[i], 0, mArt.normal[i], {}});
+    const QStringList spalten = normalspalten(mArt.inhalt);
+    for (qsizetype i = 0; i < spalten.size(); ++i)
+        mFelder.push_back({normal[i], 0, spalten[i], {}});
     onClick(ui.pbok, gefangen(mArt.speichern, [this] { pbok_Click(); }));
     onClick(ui.pbexit, gefangen(mArt.verlassen, [this] { pbexit_Click(); }));
     onClick(ui.pbDelete, gefangen(mArt.löschen, [this] { pbDelete_Click(); }));
@@ -70,12 +71,13 @@ QLineEdit *Prüfblatt::textfeld(const QString &name, const QString &spalte) {
 }
 
 QLineEdit *Prüfblatt::wertfeld(const QString &name, int stufe, const QString &spalte,
-                               const Text &bedeutung) {
+                               const Text &kopf, const Text &nebenkopf) {
     QLineEdit *neu = textfeld(name, spalte);
     neu->setAlignment(Qt::AlignRight);
     neu->setMinimumWidth(104);
     mFelder.back().stufe = stufe;
-    mFelder.back().bedeutung = bedeutung;
+    mFelder.back().bedeutung = {kopf.german + ", " + nebenkopf.german,
+                                kopf.english + ", " + nebenkopf.english};
     return neu;
 }
 
@@ -170,9 +172,20 @@ bool Prüfblatt::gemessen() const {
     });
 }
 
-void Prüfblatt::schreiben() {
+void Prüfblatt::speichern() {
     blattSpeichern(mArt.inhalt, mProtokollID, werte());
     mbGespeichert = true;
+    if (mArt.erstSchließen)
+        schließen();
+    meldung({" Daten wurden gespeichert. ", mArt.gespeichert}, Information,
+            {" Bestätigung", mArt.bestätigung});
+    if (!mArt.erstSchließen)
+        schließen();
+}
+
+void Prüfblatt::leerAblegen() {
+    verwerfen();
+    schließen();
 }
 
 void Prüfblatt::schließen() {
@@ -185,7 +198,9 @@ void Prüfblatt::pbok_Click() {
     if (gemessen()) {
         if (mitNormal)
             return speichern();
-        meldung(mArt.normalFehlt, Exclamation, {"Message!", "Message!"});
+        meldung({mArt.normalFehlt, "In order to be able to save the protocol, the number of the "
+                                   "working standard has to be provided!"},
+                Exclamation, {"Message!", "Message!"});
         ui.txtNormalNr->setFocus();
         return;
     }

@@ -3,7 +3,6 @@
 // column of its table, and what their ends look like.
 #pragma once
 
-#include <array>
 #include <vector>
 
 #include "platform/text.h"
@@ -36,9 +35,9 @@ class Prüfblatt : public Screen {
         platform::Text titel;
         const char *löschen, *verlassen, *speichern; ///< tags of the failure boxes
         platform::Text gelöscht;                     ///< title of the box
-        platform::Text normalFehlt;                  ///< text of the box
-        /// For number, identification, who calibrated it, until when, certificate of the standard.
-        std::array<const char *, 5> normal;
+        QString normalFehlt;                         ///< text of the box, in German
+        const char *gespeichert, *bestätigung;       ///< text and title of the box, in English
+        bool erstSchließen;                          ///< before the box
     };
     explicit Prüfblatt(const Art &art);
 
@@ -49,9 +48,9 @@ class Prüfblatt : public Screen {
     QGridLayout &raster() { return *ui.gridWerte; }
     /// A field, behind those before it.
     QLineEdit *textfeld(const QString &name, const QString &spalte);
-    /// One of a table; `bedeutung` says what its place says.
+    /// One of a table; the two heads of its place say what it means.
     QLineEdit *wertfeld(const QString &name, int stufe, const QString &spalte,
-                        const platform::Text &bedeutung);
+                        const platform::Text &kopf, const platform::Text &nebenkopf);
     /// Words in both languages, which name a field.
     QLabel *text(const platform::Text &worte, QWidget *feld = nullptr);
     /// Once all fields are there: Tab and Enter go through them and on to the buttons.
@@ -59,17 +58,8 @@ class Prüfblatt : public Screen {
     QPushButton *pbok() { return ui.pbok; }
 
     Schlüssel protokollID() const { return mProtokollID; }
-    // Both raise what fails.
-    void schreiben();
-    /// Deletes the sheet, and a head on which nothing else hangs.
-    void verwerfen() { blattLöschen(mArt.inhalt, mProtokollID); }
-    /// Closes the sheet; nothing of it is left to be cleared away.
-    void schließen();
-
-    /// Writes the sheet, tells so and closes it.
-    virtual void speichern() = 0;
-    /// Is to be left with nothing measured.
-    virtual void leerAblegen() = 0;
+    /// Is to be left with nothing measured: by deleting it.
+    virtual void leerAblegen();
     /// Is left without saving, under a head that was there before.
     virtual void vorhandenesVerlassen() {}
 
@@ -85,6 +75,11 @@ class Prüfblatt : public Screen {
     void datumZeigen(const QString &text);
     Blatt werte() const;
     bool gemessen() const;
+    void speichern();
+    /// Deletes the sheet, and a head on which nothing else hangs. Raises what fails.
+    void verwerfen() { blattLöschen(mArt.inhalt, mProtokollID); }
+    /// Closes the sheet; nothing of it is left to be cleared away.
+    void schließen();
     void verlassen();
 
     void pbok_Click();

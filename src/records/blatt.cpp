@@ -1,7 +1,5 @@
 #include "records/blatt.h"
 
-#include <QStringList>
-
 #include <algorithm>
 
 #include "store/database.h"
@@ -9,7 +7,7 @@
 namespace {
 
 struct Form {
-    QStringList gemeinsam; ///< columns that all rows share
+    QStringList gemeinsam; ///< columns that all rows share, the standard's first
     QStringList jeStufe;   ///< columns of a row's own
     int stufen;            ///< rows
 };
@@ -94,6 +92,10 @@ Schlüssel neuestes(Bestand bestand, Inhalt blatt) {
 bool istMesswert(const QString &spalte) {
     static const QStringList gemessen{"auf", "ab", "SchutzleiterR", "IsolationsR", "GeräteableitI"};
     return gemessen.contains(spalte);
+}
+
+QStringList normalspalten(Inhalt blatt) {
+    return form(blatt).gemeinsam.first(5);
 }
 
 Blatt blattLesen(Bestand bestand, Inhalt blatt, Schlüssel protokollID) {

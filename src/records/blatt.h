@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include <array>
 #include <map>
@@ -18,6 +19,10 @@ using Blatt = std::map<std::pair<int, QString>, QString>;
 
 /// Whether the column holds what was measured, other than the standard, limits, uncertainties.
 bool istMesswert(const QString &spalte);
+
+/// Columns of the working standard: number, identification, who calibrated it, until when,
+/// certificate.
+QStringList normalspalten(Inhalt blatt);
 
 /// Empty without rows. Raises what the store raises, as all of these.
 Blatt blattLesen(Bestand bestand, Inhalt blatt, Schlüssel protokollID);
