@@ -130,11 +130,11 @@ FROM Messwert{form} W
 JOIN Protokoll{temp} P ON P.ProtokollID = W.ProtokollID
 LEFT JOIN Toleranzen T ON T.ID = P.PrüfungsArt;
 
--- A row that brings its own, as into the archive, keeps them.
+-- A row that brings its own, as into the archive, keeps them. One that does not is written once
+-- more, for the trigger of the changes.
 CREATE TRIGGER Messwerte{temp}Neu AFTER INSERT ON Messwerte{temp} WHEN NEW.ZulAbw IS NULL
 BEGIN
-    UPDATE Messwerte{temp} SET ZulAbw = (SELECT ZulAbw FROM Grenze{form} WHERE Zeile = NEW.rowid)
-    WHERE rowid = NEW.rowid;
+    UPDATE Messwerte{temp} SET Soll_P = Soll_P WHERE rowid = NEW.rowid;
 END;
 CREATE TRIGGER Messwerte{temp}Anders
 AFTER UPDATE OF Soll_P, Ist_n_torvena, Ist_P_torvena, Ist_n_ergom ON Messwerte{temp}
@@ -145,11 +145,7 @@ END;
 
 CREATE TRIGGER Protokoll{temp}Neu AFTER INSERT ON Protokoll{temp} WHEN NEW.Spezifikation IS NULL
 BEGIN
-    UPDATE Protokoll{temp}
-    SET (Spezifikation, Prozent, Watt, GrenzAbw, GKlasse) =
-        (SELECT Bezeichnung, Prozent, Watt, GrenzAbw, GKlasse FROM Toleranzen
-         WHERE ID = NEW.PrüfungsArt)
-    WHERE ProtokollID = NEW.ProtokollID;
+    UPDATE Protokoll{temp} SET PrüfungsArt = PrüfungsArt WHERE ProtokollID = NEW.ProtokollID;
 END;
 CREATE TRIGGER Protokoll{temp}Anders AFTER UPDATE OF PrüfungsArt ON Protokoll{temp}
 BEGIN

@@ -48,13 +48,7 @@ END;
 -- Customer and unit stay with an archived head as they were.
 CREATE TRIGGER ProtokollArchiviert AFTER INSERT ON Protokoll WHEN NEW.Kunde IS NULL
 BEGIN
-    UPDATE Protokoll
-    SET (Kunde, Straße, PLZ, Ort) =
-            (SELECT Name, Straße, PLZ, Ort FROM Kunden WHERE KundenID = NEW.KundenID),
-        (Gerätetyp, Hersteller, SerienNr, IdentNr) =
-            (SELECT Gerätetyp, Hersteller, SerienNr, IFNULL(IdentNr, '') FROM Ergometer
-             WHERE GerätID = NEW.GerätID)
-    WHERE ProtokollID = NEW.ProtokollID;
+    UPDATE Protokoll SET KundenID = KundenID WHERE ProtokollID = NEW.ProtokollID;
 END;
 CREATE TRIGGER ProtokollUmgehängt AFTER UPDATE OF KundenID, GerätID ON Protokoll
 BEGIN
