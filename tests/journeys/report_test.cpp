@@ -50,11 +50,19 @@ class Reports : public Workplace {
             layout(QString(language) + "Blutdruck", "B {{#Bericht4}}{{auf}}{{/Bericht4}}");
             layout(QString(language) + "SecControl", "S {{#Bericht3}}{{KennNr_STK}}{{/Bericht3}}");
         }
-        platform::setPrinterStandIn(
-            {{"Büro"}, "Büro", [this](const QString &printer, const platform::Report &report) {
-                 mPrinted += printer + ": " + report.title().section(" - ", 0, 0).section(' ', 1) +
-                             ' ' + report.text().simplified();
-             }});
+        const auto there = [this](const QStringList &names) { // the first one is the default
+            platform::setPrinterStandIn(
+                {names, names.value(0), [this](const QString &printer, const auto &report) {
+                     mPrinted += printer + ": " +
+                                 report.title().section(" - ", 0, 0).section(' ', 1) + ' ' +
+                                 report.text().simplified();
+                 }});
+        };
+        there({"Büro"});
+        roads["printers"] = [there](const QString &names) -> Journey {
+            there(names.split(' ', Qt::SkipEmptyParts));
+            co_return;
+        };
         views["pages"] = [] { // that can be chosen, the chosen one in brackets
             QStringList pages;
             const Screen *screen = platform::frontScreen();
@@ -162,6 +170,21 @@ JOURNEY_P(Reports, AreFilesUnderTheirNames) {
         OKButton ; printed ~ Büro ; ? archive? no ; CancelButton ; @Desktop)");
     EXPECT_TRUE(QFile::exists("Brief.pdf")) << "not of this program";
     EXPECT_EQ(platform::currentPrinter(), "Büro");
+}
+
+JOURNEY(Reports, GoToThePrintersThatAreThere) {
+    change("UPDATE System SET DruckerPDF = 'Etage', PDFOrdner = '.'");
+    co_await go(R"(
+        printers ; login ; ? printerGone ; mnuPDF ; @PrinterPDF ; Combo1 rows torvena PDF ; pbexit ; @Desktop
+        pbProtokoll ; @Bericht ; ? failed(1085, 482) ; OKButton ; ? failed(1085, 482) ; pbSichern ; printed ==
+        # They are switched on while the program runs, and off again.
+        printers Büro Etage ; pbSichern ; printed ~ ^Etage: 12 R ; ? archive? no ; cmbBericht ^
+        OKButton ; printed ~ ^Büro: 12 R ; ? archive? no ; cmbBericht ^
+        printers Büro ; ? failed(1085, 482) ; pbSichern ; OKButton ; printed ~ ^Büro: 12 R
+        printers Etage Büro ; ? archive? no ; CancelButton ; @Desktop ; mnuPDF ; @PrinterPDF
+        Combo1 rows Etage+Büro+torvena PDF ; Combo1 == Etage ; Combo1 > Büro ; pbok ; @Desktop
+        pbProtokoll ; @Bericht ; pbSichern ; printed ~ ^Büro: 12 R ; OKButton ; printed ~ ^Etage: 12 R
+        ? archive? no ; CancelButton ; @Desktop)");
 }
 
 JOURNEY(Reports, KeepTheLayoutOfTheLastClass) {

@@ -1,5 +1,9 @@
 // The sheets that are entered by hand: whose head, what they begin with, and every way out.
+#include <QCoreApplication>
+#include <QTimer>
+
 #include "app/screentable.h"
+#include "app/start.h"
 #include "protocols/frmBlutdruckAbfrage.h"
 #include "protokolltest.h"
 #include "records/blatt.h"
@@ -99,6 +103,50 @@ JOURNEY(Blätter, EveryWayOut) {
         co_await go(out + " ; front ==");
         EXPECT_FALSE(loaded(frm::SecControl));
     }
+}
+
+// What stood there before the sheet was opened stands there again, but for what was saved.
+JOURNEY(Blätter, AreLeftWithoutAWordAtTheEndOfTheProcess) {
+    const auto alles = [] {
+        return grid("SELECT * FROM Protokoll_temp") + '\n' + grid("SELECT * FROM Blutdruck_temp") +
+               '\n' + grid("SELECT * FROM SecControl_temp");
+    };
+    const auto beenden = [] {
+        beendenOhneFrage();
+        gDatenbank.openFile(datenbankName); // to look
+    };
+    kopf(5);
+    for (const Case &c : cases(R"(
+            Blutdruck, , txtNeu = N -> - | Blutdruck, , obNeu ; pbok ; @Blutdruck ; txt0auf = 9 -> -
+            | Blutdruck, , pbok ; @Blutdruck ; txt0auf = 9 -> - | SecControl, , pbok ; @SecControl ; txtOhm_1 = 9 -> -
+            | Blutdruck, BD STK, pbok ; @Blutdruck ; txt0auf = 9 -> - | SecControl, BD STK, pbok ; @SecControl ; txtOhm_1 = 9 -> -
+            | SecControl, BD STK, obNeu ; pbok ; @SecControl ; spoil DELETE Protokoll_temp -> 2 2 0 7
+            | Blutdruck, , pbok ; @Blutdruck ; txtKennNr = K ; txt0auf = 9 ; ?pressureSaved -> 1 7 0 0)")) {
+        SCOPED_TRACE(c.in.toStdString());
+        for (const QString sheet : {"BD", "STK"}) {
+            if (c.in_(1).contains(sheet))
+                blatt(5, sheet, "x");
+        }
+        const QString vorher = alles();
+        co_await open(c.in_(0));
+        co_await go(c.in_(2).section(" ; ?", 0, 0));
+        if (c.in.contains('?')) { // with its box
+            expectKnown("pressureSaved", platform::OK, beenden);
+            co_await go("pbok ; front ==");
+        } else {
+            beenden();
+        }
+        const QString danach = alles();
+        EXPECT_TRUE(c.out == "-" ? danach == vorher : bestand(c.in_(0)) == c.out) << danach;
+        co_await go(views["front"]().isEmpty() ? "" : "close ; front ==");
+        EXPECT_EQ(alles(), danach) << "the closing window goes on for nobody";
+        co_await go(c.in.contains("spoil") ? "mend" : "");
+        for (const char *table :
+             {"Blutdruck_temp", "SecControl_temp", "Protokoll_temp WHERE ProtokollID > 5"})
+            gDatenbank.execute(QString("DELETE FROM ") + table);
+    }
+    QTimer::singleShot(0, [] { QCoreApplication::exit(); });
+    QCoreApplication::exec(); // else that end ends the boxes of the cases behind this one
 }
 
 JOURNEY_P(Blätter, BloodPressure) {
