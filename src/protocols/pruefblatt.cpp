@@ -38,7 +38,6 @@ QDate datumVon(const QString &text) {
 
 Prüfblatt::Prüfblatt(const Art &art) : mArt(art) {
     ui.setupUi(this);
-    setCaption(mArt.titel.german);
     QWidget *const normal[] = {ui.txtNormalNr, ui.txtKennNr, ui.txtkalibriertVon,
                                ui.dtpkalibriertBis, ui.txtKalScheinNr};
     const QStringList spalten = normalspalten(mArt.inhalt);

@@ -77,7 +77,7 @@ class Prüfblatt : public Screen {
     bool gemessen() const;
     void speichern();
     /// Deletes the sheet, and a head on which nothing else hangs. Raises what fails.
-    void verwerfen() { blattLöschen(mArt.inhalt, mProtokollID); }
+    void verwerfen() const { blattLöschen(mArt.inhalt, mProtokollID); }
     /// Closes the sheet; nothing of it is left to be cleared away.
     void schließen();
     void verlassen();

@@ -3,6 +3,8 @@
 #include <QTest>
 
 #include "app/arbeitsweg.h"
+#include "link/motorlampe.h"
+#include "painted.h"
 #include "session/auswahl.h"
 #include "session/motorfenster.h"
 #include "session/session.h"
@@ -110,6 +112,26 @@ JOURNEY_P(Desktop, DirectionOfRotation) {
         @Desktop ; lbDrehrichtung == Rechtslauf | Right ; cannot pbMotein
         pbDrehR ; @MotorDrehR ; ? noDirection ; pbAbbrechen ; @Desktop ; chosen == 0
         pbDrehR ; @MotorDrehR ; cannot pbok ; close ; @Desktop ; chosen == 0)");
+}
+
+TEST_F(Workshop, LampAndArrowTurnAsTheShaftDoes) { // left | right, off and on, then the arrow
+    for (const Case &c : cases("0 -> _k_k|k_k_ _A.A|A_ _|_ | 1 -> _k_k|k_k_ _A.A|A_ _T_|_"
+                               " | 2 -> _k_k|k_k_ _A|A.A_ _|_T_")) {
+        gDrehrichtung = c.in.toShort();
+        platform::Bild lamp, arrow;
+        QStringList halves;
+        for (const bool on : {false, true}) {
+            gMotorEin = on;
+            motorZeigen(lamp);
+            const QImage image = painted(lamp, {200, 200});
+            halves += along(image, 0.62, 0, 0.5) + '|' + along(image, 0.62, 0.5);
+        }
+        richtungZeigen(arrow);
+        const QImage image = painted(arrow, {200, 200});
+        halves += along(image, 0.65, 0, 0.5) + '|' + along(image, 0.65, 0.5);
+        EXPECT_EQ(halves.join(' '), c.out) << c;
+    }
+    gMotorEin = false;
 }
 
 } // namespace

@@ -82,6 +82,14 @@ class Reports : public Workplace {
             }
             return titles.join(' ');
         };
+        roads["previewPrint"] = [](const QString &) -> Journey {
+            for (const QWidget *window : QApplication::topLevelWidgets()) {
+                if (auto *button = window->findChild<QAbstractButton *>("pbPrint"))
+                    button->click();
+            }
+            co_return;
+        };
+        views["title"] = [] { return platform::frontScreen()->caption(); };
         views["printed"] = [this] { return std::exchange(mPrinted, {}).join(" + "); };
         views["files"] = [] { // below PDF, former ones too
             QStringList names;
@@ -119,7 +127,8 @@ class Reports : public Workplace {
 
 JOURNEY_P(Reports, OfferWhatAProtocolHasAndAskForTheArchive) {
     co_await go(R"(
-        login ; pbProtokoll ; @Bericht ; cmbBericht == 04.03.2026   12 - Alles
+        login ; pbProtokoll ; @Bericht ; cmbBericht == 04.03.2026   12 - Alles 
+        OKButton == &Drucken | Pr&int ; title == Protokoll drucken | Print Protocol
         pages == 1 2_0 (2_1) 3 4 ; can OKButton pbSichern ; hidden cmbKunde pbDelete
         cmbBericht > 2 ; pages == 1 2_0 (2_1) ; cmbBericht > 3 ; pages == (4)
         cmbBericht = 04.03.2026   12 - Alle ; ? noSuchReport ; OKButton ; cannot OKButton ; pages ==
@@ -139,13 +148,17 @@ JOURNEY_P(Reports, OfferWhatAProtocolHasAndAskForTheArchive) {
         printed == Büro: 12 R 1:ja,ja,mit 2:ja,?,mit | Büro: 12 R 1:ja,ja,with 2:ja,?,with
         rbDruck2_0 ; OKButton
         printed == Büro: 12 R 1:ja,ja,ohne 2:ja,?,ohne | Büro: 12 R 1:ja,ja,out 2:ja,?,out
-        cbKomplett ; rbDruck2_1 ; OKButton
+        cbKomplett ; rbDruck2_1 ; spoil INSERT Bericht2 ; ? failed(1113, 3022) ; OKButton ; mend
+        printed ~ 12 C [^+]*\+ Büro: 12 B y \+ Büro: 12 S K$ ; OKButton
         printed ~ 12 C .* \+ Büro: 12 R 1:ja.* \+ Büro: 12 B y \+ Büro: 12 S K$
-        ? deleteReport?(12 - Alles) no ; pbDelete ; ? deleteReport?(12 - Alles) yes ; pbDelete
+        ? deleteReport?(12 - Alles) no ; pbDelete ; spoil DELETE Protokoll
+        ? deleteReport?(12 - Alles) yes ; ? failed(1116, 3022) ; pbDelete ; mend
+        ? deleteReport?(12 - Alles) yes ; pbDelete
         cmbBericht == 7 - nur Blutdruck ; pages == (4)
         ? deleteReport?(7 - nur Blutdruck) yes ; pbDelete ; cannot OKButton pbDelete ; pages ==
         sql SELECT (SELECT count(*) FROM Protokoll), count(*) FROM Blutdruck == 0|0
-        key Escape ; @Desktop ; ? noProtocols ; mnuProtVerw ; @Desktop)");
+        key Escape ; @Desktop ; ? noProtocols ; mnuProtVerw ; @Desktop
+        archived 8 ; ? noProtocols ; pbProtokoll ; @Desktop)");
 }
 
 JOURNEY_P(Reports, AreFilesUnderTheirNames) {
@@ -157,11 +170,11 @@ JOURNEY_P(Reports, AreFilesUnderTheirNames) {
         ? page1 ; ? page2 ; ? page3 ; ? page4 ; pbSichern ; printed ==
         files == 12_Blutdruck.pdf 12_Deckblatt.pdf 12_Messergebnisse.pdf 12_STK.pdf 0 kept | 12_BloodPressure.pdf 12_CoverSheet.pdf 12_EST.pdf 12_MeasuringResults.pdf 0 kept
         cbKomplett ; cbVorschau ; OKButton ; windows ~ ^12 - (Messergebnisse|Measuring Results)$
-        front == Bericht ; printed == ; ? archive? no ; cmbBericht ^ ; rbDruck3 ; ? page4 ; pbSichern ; files ~ 1 kept
+        front == Bericht ; printed == ; previewPrint ; printed ~ ^Büro: 12 R ; ? archive? no ; cmbBericht ^ ; rbDruck3 ; ? page4 ; pbSichern ; files ~ 1 kept
         OKButton ; printed == Büro: 12 S K ; ? archive? no ; CancelButton ; @Desktop
         change UPDATE System SET PDFOrdner = '' ; pbProtokoll ; @Bericht ; ? noFolder ; pbSichern
         change UPDATE System SET PDFOrdner = '/nirgends' ; CancelButton ; @Desktop
-        ? failed(frmPDF01, 53) ; mnuPDF ; @PrinterPDF ; pbok ; @Desktop ; sql SELECT PDFOrdner FROM System == /nirgends
+        ? failed(frmPDF01, 53) ; mnuPDF ; @PrinterPDF ; lbOrdner == &Ordner: | &Folder: ; pbok ; @Desktop ; sql SELECT PDFOrdner FROM System == /nirgends
         pbProtokoll ; @Bericht
         change UPDATE System SET PDFOrdner = '/dev/null' ; ? failed(1085, 70) ; pbSichern
         CancelButton ; @Desktop ; pbProtokoll ; @Bericht    # nothing to ask for
@@ -175,14 +188,16 @@ JOURNEY_P(Reports, AreFilesUnderTheirNames) {
 JOURNEY(Reports, GoToThePrintersThatAreThere) {
     change("UPDATE System SET DruckerPDF = 'Etage', PDFOrdner = '.'");
     co_await go(R"(
-        printers ; login ; ? printerGone ; mnuPDF ; @PrinterPDF ; Combo1 rows torvena PDF ; pbexit ; @Desktop
+        printers ; login ; ? printerGone ; mnuPDF ; @PrinterPDF ; Combo1 rows torvena PDF
+        laCurrentPrinter == Kein PDF-Drucker ausgewählt! ; pbexit ; @Desktop
         pbProtokoll ; @Bericht ; ? failed(1085, 482) ; OKButton ; ? failed(1085, 482) ; pbSichern ; printed ==
         # They are switched on while the program runs, and off again.
         printers Büro Etage ; pbSichern ; printed ~ ^Etage: 12 R ; ? archive? no ; cmbBericht ^
         OKButton ; printed ~ ^Büro: 12 R ; ? archive? no ; cmbBericht ^
         printers Büro ; ? failed(1085, 482) ; pbSichern ; OKButton ; printed ~ ^Büro: 12 R
         printers Etage Büro ; ? archive? no ; CancelButton ; @Desktop ; mnuPDF ; @PrinterPDF
-        Combo1 rows Etage+Büro+torvena PDF ; Combo1 == Etage ; Combo1 > Büro ; pbok ; @Desktop
+        Combo1 rows Etage+Büro+torvena PDF ; Combo1 == Etage ; laCurrentPrinter ~ : +Etage$
+        Combo1 > Büro ; laCurrentPrinter ~ : +Büro$ ; pbok ; @Desktop
         pbProtokoll ; @Bericht ; pbSichern ; printed ~ ^Büro: 12 R ; OKButton ; printed ~ ^Etage: 12 R
         ? archive? no ; CancelButton ; @Desktop)");
 }
@@ -192,7 +207,12 @@ JOURNEY(Reports, KeepTheLayoutOfTheLastClass) {
         login ; pbProtokoll ; @Bericht ; cmbBericht > 2 ; ? failed(1085, 321) ; OKButton ; printed ==
         cmbBericht > 1 ; rbDruck2_1 ; OKButton ; printed ~ 12 R ; ? archive? no ; cmbBericht ^
         cmbBericht > 2 ; rbDruck2_1 ; OKButton
-        printed == Büro: 8 R 1:nein,nein,mit ; ? archive? no ; close ; @Desktop)");
+        printed == Büro: 8 R 1:nein,nein,mit ; ? archive? no ; cmbBericht ^ ; cmbBericht == 04.03.2026   8 - A-B
+        close ; @Desktop)");
+    gBerichtProtokoll = 8; // as whoever sends the operator here leaves it
+    gBerichtWahl = "A-B";
+    co_await go("pbProtokoll ; @Bericht ; cmbBericht == 8 - A-B ; can OKButton ; close ; @Desktop");
+    EXPECT_EQ(gBerichtProtokoll, 0);
 }
 
 } // namespace

@@ -101,8 +101,9 @@ JOURNEY_ROWS(Startup, DueDateOfTheLeverArm, "2024-01-15 100", "2024-04-15 50", "
     EXPECT_EQ(frame->property("title"), "Nächste Hebelarmkalibrierung fällig am 15.07.2024");
     EXPECT_EQ(frame->palette().color(QPalette::WindowText) == QColor(255, 0, 0),
               day > "2024-07-15");
-    EXPECT_EQ(control<QProgressBar>(frm::Desktop, "ProgressBar1")->value(),
-              givenRow.section(' ', 1).toInt());
+    const auto *bar = control<QProgressBar>(frm::Desktop, "ProgressBar1");
+    EXPECT_EQ(bar->value(), givenRow.section(' ', 1).toInt());
+    EXPECT_EQ(bar->property("ton") == "alarm", day > "2024-07-15");
     EXPECT_EQ(hebelarmRest(clock.now().date(), clock.now().date(), clock.now().date()), 0);
 }
 

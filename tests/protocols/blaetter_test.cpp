@@ -4,6 +4,7 @@
 
 #include "app/screentable.h"
 #include "app/start.h"
+#include "protocols/berichtsmaske.h"
 #include "protocols/frmBlutdruckAbfrage.h"
 #include "protokolltest.h"
 #include "records/blatt.h"
@@ -18,6 +19,12 @@ class Blätter : public ProtokollTest {
     Blätter() {
         bindScreens();
         views["title"] = [] { return platform::frontScreen()->caption(); };
+        views["words"] = [] { // of the table
+            QStringList words;
+            for (const auto *label : platform::frontScreen()->findChildren<QLabel *>())
+                words += label->text();
+            return words.join('|');
+        };
     }
 
     static void blatt(int nummer, const QString &endung, const QString &wert) {
@@ -167,6 +174,7 @@ JOURNEY_P(Blätter, BloodPressure) {
         obVorhanden ; cannot pbok ; cmbVorhanden ! ; focus pbok ; cmbVorhanden = 7
         ? noProtocol ; cmbVorhanden ! ; cannot pbok ; obNeu ; hidden cmbVorhanden ; txtNeu = O'Neill ; txtNeu ! ; pbok
         @Blutdruck ; title ~ (Protokoll|Protocol) 4 - O'Neill$ ; focus txt0auf ; cannot pbDelete ; txtKennNr == altK ; dtpkalibriertBis == 31.12.2031
+        words ~ (Anzeige des Prüflings|Display of the unit under test)[|]auf[|]ab[|] | (Display on the working standard).*[|]Up[|]Down[|]
         txt0auf == ; txt300ab == ; txt0MU == altMU0 ; txt300MU == altMU6
         txt0auf = 1.0 ; txt0auf ! ; focus txt0ab ; txt50auf = 5.1 ; txt50auf ! ; txt100auf = 1.000
         txt50MU = 0.5 ; txt300ab = 3.01 ; txt300MU ! ; focus pbok ; ? pressureSaved ; pbok ; front ==
@@ -224,6 +232,21 @@ JOURNEY_ROWS(Blätter, Failures, "Blutdruck 980 BD txt0ab", "SecControl 990 STK 
     expectKnown("failed(9701, 3078)");
     co_await open(words[0]);
     co_await go("cannot obNeu obVorhanden pbok ; pbexit ; front ==");
+}
+
+// A number behind a "-" of its own, a name that begins with a blank, none at all.
+TEST(Reports, AreCalledByWhatStandsBehindTheLastDash) {
+    for (const Case &c :
+         cases(R"(12 - Alles -> "Alles" | 8 - A-B -> "B" | 3 -   x -> "  x" | 3 - -> " "
+                                  | 12 -> " " | 4 -y -> "y")"))
+        EXPECT_EQ(berichtsname(c.in), c.out) << c;
+}
+
+JOURNEY_ROWS(Blätter, AskForThePrint, "vbYes 6 6", "vbSec 11 6", "vbNo 0 0", "close 0 0") {
+    form(frm::BerichtSichern).showModal();
+    co_await go("@BerichtSichern ; " + givenRow.section(' ', 0, 0) + " ; front ==");
+    EXPECT_EQ(QString("%1 %2").arg(gBerichtAntwort).arg(int(gDesktopFolge)),
+              givenRow.section(' ', 1));
 }
 
 } // namespace

@@ -3,6 +3,9 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPdfWriter>
+#include <QProcess>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "cases.h"
@@ -92,6 +95,44 @@ TEST_F(Print, ReportsArePdfOfPagesWithHeadAndFoot) {
     for (const char *part : {"pdfaid:part=\"1\"", "/OutputIntents", "/FontFile"})
         EXPECT_TRUE(pdf.contains(part)) << part;
     EXPECT_FALSE(pdf.contains("/EmbeddedFiles"));
+}
+
+TEST_F(Print, PagesAreTheSameOnEveryDeviceAndPartNoShortTable) {
+    QString lines;
+    for (int line = 1; line <= 50; ++line)
+        lines += QString("<p>line%1</p>").arg(line);
+    const Report report("<header>Kopf</header><footer>@page@/@pages@</footer>" + lines +
+                            "<table class='lines'><tr><td>first</td></tr><tr><td>2</td></tr>"
+                            "<tr><td>3</td></tr><tr><td>4</td></tr><tr><td>last</td></tr></table>",
+                        "Protokoll 12");
+    QMap<QString, QPointF> before; // words behind the number of their page, their places in points
+    for (const int dotsPerInch : {600, 150}) {
+        const QString path = directory.filePath("pages.pdf");
+        {
+            QPdfWriter device(path);
+            device.setResolution(dotsPerInch);
+            report.paint(device);
+        }
+        QProcess reader;
+        reader.start("pdftotext", {"-bbox", path, "-"});
+        EXPECT_TRUE(reader.waitForFinished()) << "needs poppler-utils";
+        QMap<QString, QPointF> places;
+        int page = 0;
+        for (const QString &row : QString::fromUtf8(reader.readAll()).split('\n')) {
+            static const QRegularExpression word("xMin=.([0-9.]+).*yMin=.([0-9.]+).*>(.*)</word>");
+            page += row.contains("<page");
+            if (const auto found = word.match(row); found.hasMatch())
+                places[QString("%1 %2").arg(page).arg(found.captured(3))] = {
+                    found.captured(1).toDouble(), found.captured(2).toDouble()};
+        }
+        for (const char *word :
+             {"1 Kopf", "1 line50", "1 1/2", "2 Kopf", "2 first", "2 last", "2 2/2"})
+            EXPECT_TRUE(places.contains(word)) << word;
+        EXPECT_GT(places["1 1/2"].y(), places["1 line50"].y());
+        for (const QString &word : before.keys())
+            EXPECT_LT((places[word] - before[word]).manhattanLength(), 2) << word;
+        before = places;
+    }
 }
 
 TEST_F(Print, AFileIsWholeUnderItsNameAndTheFormerOneKept) {

@@ -8,8 +8,10 @@
 
 #include <cmath>
 
+#include "painted.h"
 #include "windows/stil.h"
 #include "windows/waiting.h"
+#include "windows/zeichen.h"
 
 namespace {
 
@@ -126,6 +128,53 @@ TEST_P(Look, EveryStateOfAControlShowsAndIsItsOwn) {
     setFreeInput(&open, false);
     EXPECT_EQ(painted(open), painted(shown));
     EXPECT_EQ(open.palette().color(QPalette::Text), farben().text);
+}
+
+TEST_P(Look, SignsAreTheirOwnAndArrowsTurnTheirWay) {
+    using support::along, support::painted;
+    for (const auto &[zeichen, height, row] :
+         std::initializer_list<std::tuple<Zeichen, double, const char *>>{
+             {Zeichen::Gut, 0.4, "_+.+_"},
+             {Zeichen::Gut, 0.69, "_+.+_"},
+             {Zeichen::Schlecht, 0.35, "_-.-.-_"},
+             {Zeichen::Schlecht, 0.65, "_-.-.-_"},
+             {Zeichen::Offen, 0.45, "_?.?.?_"},
+             {Zeichen::Offen, 0.82, "_?.?_"},
+             {Zeichen::Achtung, 0.45, "_?.?_"},
+             {Zeichen::Achtung, 0.82, "_?.?_"},
+             {Zeichen::Kein, 0.06, "_k_k_k_"}})
+        EXPECT_EQ(along(painted({200, 200},
+                                [z = zeichen](QPainter &painter, const QRectF &rect) {
+                                    zeichenMalen(painter, rect, z);
+                                }),
+                        height),
+                  row)
+            << int(zeichen) << ' ' << height;
+    for (const bool frage : {false, true})
+        EXPECT_EQ(along(painted({200, 200},
+                                [&](QPainter &painter, const QRectF &rect) {
+                                    hinweisMalen(painter, rect, frage);
+                                }),
+                        0.39),
+                  frage ? "_A.A.A_" : "_A_")
+            << frage;
+    for (const bool rechts : {false, true}) {
+        const QImage arrow = painted({200, 200}, [&](QPainter &painter, const QRectF &rect) {
+            drehpfeilMalen(painter, rect, rechts, farben().text);
+        });
+        EXPECT_EQ(along(arrow, 0.65, 0, 0.5) + '|' + along(arrow, 0.65, 0.5),
+                  rechts ? "_T_|_" : "_|_T_");
+        EXPECT_EQ(along(arrow, 0.3), "_T_T_");
+    }
+    const QImage on = painted(
+        {200, 200}, [](QPainter &painter, const QRectF &rect) { weiterMalen(painter, rect, "1"); });
+    EXPECT_EQ(along(on, 0.1) + along(on, 0.5), "_A__A.A_");
+    EXPECT_EQ(along(painted({200, 200},
+                            [](QPainter &painter, const QRectF &rect) {
+                                strichMalen(painter, rect, Zeichen::Gut, farben().text);
+                            }),
+                    0.3),
+              "_T_");
 }
 
 } // namespace
