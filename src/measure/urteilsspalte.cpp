@@ -29,8 +29,8 @@ void Urteilsspalte::paint(QPainter *painter, const QStyleOptionViewItem &option,
     // In the middle as if each word were the longest: the signs stand below one another.
     const int column = sign + gap + QFontMetrics(schrift(0, true)).horizontalAdvance("nein");
     const int left = option.rect.center().x() - column / 2;
-    zeichenMalen(*painter, QRectF(left, option.rect.center().y() - sign / 2 + 1, sign, sign),
-                 zeichenZu(spruch));
+    const int top = option.rect.center().y() - sign / 2 + 1;
+    zeichenMalen(*painter, QRectF(left, top, sign, sign), zeichenZu(spruch));
     painter->setFont(font);
     painter->setPen(f.text);
     painter->drawText(QRect(left + sign + gap, option.rect.top(),

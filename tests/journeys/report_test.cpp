@@ -211,7 +211,10 @@ JOURNEY(Reports, KeepTheLayoutOfTheLastClass) {
         close ; @Desktop)");
     gBerichtProtokoll = 8; // as whoever sends the operator here leaves it
     gBerichtWahl = "A-B";
-    co_await go("pbProtokoll ; @Bericht ; cmbBericht == 8 - A-B ; can OKButton ; close ; @Desktop");
+    co_await go(R"(
+        pbProtokoll ; @Bericht ; cmbBericht == 8 - A-B ; can OKButton ; close ; @Desktop
+        archived 8 12 ; change UPDATE Protokoll SET KundenID = 2 WHERE ProtokollID = 8
+        mnuProtVerw ; @Bericht1 ; cmbKunde == ; pages == ; cannot OKButton ; close ; @Desktop)");
     EXPECT_EQ(gBerichtProtokoll, 0);
 }
 
