@@ -14,7 +14,7 @@ constexpr Beschriftung english[] = {
     {"lbOberfl", "&Gravity:"},
     {"lbHinweis", "Where the stand is, from 9.8 to 9.82 m/s²."},
     {"pbWeiter", "&Continue"},
-    {"pbAbbrechen", "&Cancel"},
+    {"pbAbbrechen", "C&ancel"},
 };
 } // namespace
 
