@@ -1,4 +1,4 @@
-// The three decoders of the controller line, on streams as the controller sends them.
+// The decoders of the controller line, on streams as the controller sends them.
 #include <benchmark/benchmark.h>
 
 #include <chrono>
@@ -8,6 +8,7 @@
 #include "counting.h"
 #include "figures.h"
 #include "link/frames.h"
+#include "measure/dynamik.h"
 #include "measure/sechsrunden.h"
 #include "measure/statik.h"
 
@@ -33,7 +34,8 @@ Bytes frames(const Bytes &head, int values) {
 
 /// `feed` answers how many values the byte completed.
 template <class Feed>
-void decode(benchmark::State &state, const char *name, const Bytes &stream, Feed feed) {
+void decode(benchmark::State &state, const char *name, const Bytes &stream, Feed feed,
+            double wanted = framesPerSecond) {
     long completed = 0;
     const long before = bench::allocations();
     const auto from = std::chrono::steady_clock::now();
@@ -54,7 +56,7 @@ void decode(benchmark::State &state, const char *name, const Bytes &stream, Feed
         state.SkipWithError("allocations are not counted");
     using bench::Wanted;
     bench::figure(std::string(name) + ", frames a second", total / took.count(), "1/s",
-                  Wanted::AtLeast, framesPerSecond);
+                  Wanted::AtLeast, wanted);
     bench::figure(std::string(name) + ", allocations a frame", allocated, "", Wanted::Below, 1e-6);
 }
 
@@ -98,5 +100,21 @@ void sechsRundenDecoder(benchmark::State &state) {
     });
 }
 BENCHMARK(sechsRundenDecoder)->Name("Decoder/SechsRunden");
+
+void dynamikDecoder(benchmark::State &state) {
+    DynamikDecoder decoder;
+    double sum = 0;
+    decode(
+        state, "DynamikDecoder", frames({0xFF, 0xFE}, 4),
+        [&](std::uint8_t byte) {
+            if (!decoder.feed(byte))
+                return 0;
+            sum += decoder.drehzahl() + decoder.leistung();
+            benchmark::DoNotOptimize(sum);
+            return 1;
+        },
+        5 * framesPerSecond);
+}
+BENCHMARK(dynamikDecoder)->Name("Decoder/Dynamik");
 
 } // namespace

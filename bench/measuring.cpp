@@ -1,5 +1,6 @@
 // bench-measuring DIR [SECONDS]: takes the program in real time to a step that is being measured,
-// one frame a second, and tells what it costs; on the way, what the idle desktop holds.
+// one frame a second, and tells what it costs; on the way, what the idle desktop holds, and behind
+// it the charts of the dynamic measurement with 120 frames a second.
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -161,9 +162,15 @@ class Road {
                  countFrames();
                  rest(seconds);
              }},
-            {"the end of the measurement", front(frm::Messen),
+            {"the charts", front(frm::Messen),
              [this] {
                  tellMeasuring();
+                 press(frm::Messen, "pbDynMess");
+             }},
+            {"the first picture", ready(frm::GraphLite, "pbZahlen"), [this] { rest(idleSeconds); }},
+            {"the end of the measurement", front(frm::GraphLite),
+             [this] {
+                 tellCharts();
                  beendenOhneFrage();
              }},
         };
@@ -195,6 +202,12 @@ class Road {
         bench::figure("Measuring, frames a second", mFrames / mSpan.seconds(), "1/s");
         bench::figure("Measuring, of one core", percent, "%", Wanted::Below, 2);
         bench::figure("Measuring, resident", resident(), "MB");
+    }
+
+    void tellCharts() const {
+        const double percent = mSpan.percent();
+        std::printf("charts: 120 frames a second, %.2f %% of a core\n", percent);
+        bench::figure("Charts at 120 frames a second, of one core", percent, "%", Wanted::Below, 5);
     }
 
     std::vector<Station> mStations;

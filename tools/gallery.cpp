@@ -217,6 +217,33 @@ class Gallery : public Workplace {
         gGerätID = unit;
     }
 
+    /// Of the dynamic measurement: still empty, running, full, and with a silent controller.
+    Journey charts() {
+        press(frm::Messen, "pbDynMess");
+        co_await arrive(frm::GraphLite);
+        picture("graphlite-leer");
+        for (const auto &[load, name] : {std::pair{102, "graphlite"}, {97, "graphlite-voll"}}) {
+            line.stand().setLoad(load);
+            co_await pass(load == 102 ? 9000 : 25'000);
+            picture(name);
+        }
+        press(frm::GraphLite, "pbSkalaP");
+        co_await arrive(frm::SetScale);
+        picture("setscale");
+        press(frm::SetScale, "pbok");
+        co_await arrive(frm::GraphLite);
+        press(frm::GraphLite, "pbZahlen");
+        picture("graphlite-gespeichert");
+        line.stand().setFaults({.silent = true});
+        co_await pass(4000);
+        picture("graphlite-still");
+        line.stand().setFaults({});
+        line.stand().setLoad(100);
+        press(frm::GraphLite, "pbBeenden");
+        co_await arrive(frm::Messen);
+        co_await until("the step anew", [] { return canPress(frm::Messen, "pbSpeichern"); });
+    }
+
     Journey rounds() {
         start();
         co_await pass(100);
@@ -309,6 +336,7 @@ class Gallery : public Workplace {
             co_await pass(22'000);
             picture(name);
         }
+        co_await charts();
         press(frm::Messen, "pbSpeichern");
         co_await arrive(frm::Meldung);
         picture("meldung");

@@ -24,9 +24,11 @@
 #include "masterdata/frmRezeptKopie.h"
 #include "masterdata/frmRezepte.h"
 #include "masterdata/frmToleranzen.h"
+#include "measure/frmGraphLite.h"
 #include "measure/frmMeldung.h"
 #include "measure/frmMessen.h"
 #include "measure/frmNachStatNPK.h"
+#include "measure/frmSetScale.h"
 #include "measure/frmStatMessen.h"
 #include "measure/frmVorStatNPK.h"
 #include "protocols/frmBericht.h"
@@ -65,6 +67,8 @@ void bindScreens() {
     bindScreen<frmNachStatNPK>();
     bindScreen<frmMessen>();
     bindScreen<frmMeldung>();
+    bindScreen<frmGraphLite>();
+    bindScreen<frmSetScale>();
     bindScreen<frmKalibrierung>();
     bindScreen<frmOberfl>();
     bindScreen<frmMomentKal>();

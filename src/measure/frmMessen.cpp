@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "link/controller.h"
+#include "measure/band.h"
 #include "platform/runtime.h"
 #include "session/motorfenster.h"
 #include "session/session.h"
@@ -65,6 +66,7 @@ frmMessen::frmMessen() {
     onClick(ui.pbNext, [this] { navigieren(dataRezept.position() + 1); });
     onClick(ui.pbPrevious, [this] { navigieren(dataRezept.position() - 1); });
     onClick(ui.pbMessen, [this] { pbMessen_Click(); });
+    onClick(ui.pbDynMess, [this] { pbDynMess_Click(); });
     onClick(ui.pbSpeichern, [this] { schrittAbschließen(); });
     onClick(ui.pbAbbrechen, [this] { pbAbbrechen_Click(); });
     eingabenVerdrahten();
@@ -144,6 +146,8 @@ bool frmMessen::Form_QueryUnload() try {
 }
 
 void frmMessen::Form_Unload() {
+    if (Screen *bild = loaded(frm::GraphLite))
+        bild->unload();
     motorfenster().enableFront();
     motorfenster().focusBeenden();
 }
@@ -164,6 +168,7 @@ void frmMessen::zustandZeigen() {
     for (QPushButton *knopf : {ui.pbPlus, ui.pbMinus})
         zeigen(knopf, !ist.freiGewählt);
     zeigen(ui.pbFreieEing, ist.freiErlaubt);
+    zeigen(ui.pbDynMess, ist.gemessen);
     zeigen(ui.pbDrehzNull, ist.nullErlaubt);
     zeigen(ui.pbAbbrechen, true, ist.abgearbeitet && !ist.beendet);
     streifenZeigen();
@@ -180,8 +185,14 @@ void frmMessen::fnc_PrüfschrittAnzeigen() try {
     const int art = dataRezept["Prüfart"].whole();
     mEingabe.artZeigen(art);
     ergometerFeldZeigen(art != Prüfart::Leistung);
+    grenzenSetzen();
 } catch (const Fehler &fehler) {
     fehlerBox("3017 - ", fehler);
+}
+
+void frmMessen::grenzenSetzen() {
+    const QString soll_P = ui.txtSoll_P->text();
+    fnc_GraphGrenzenSetzen(ui.txtSoll_n->text(), soll_P, messablauf().leistungsToleranz(soll_P));
 }
 
 void frmMessen::fnc_MesswerteAnzeigen() {
@@ -253,6 +264,12 @@ void frmMessen::pbMessen_Click() {
     fnc_MesswerteLeeren();
     fnc_PrüfschrittAnzeigen();
     form(frm::Meldung).show();
+}
+
+// Ends the stream of this step; the pass shows the charts.
+void frmMessen::pbDynMess_Click() {
+    if (gMessStatus == Messstatus::Messen && mWerte == Werte::Eigene)
+        gMessStatus = Messstatus::Dynamisch;
 }
 
 void frmMessen::pbAbbrechen_Click() {

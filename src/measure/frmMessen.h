@@ -41,6 +41,7 @@ class frmMessen : public Screen, private Messfenster {
     void fnc_Messzyklus();
     void durchgang();
     void verteilen();
+    void dynamischMessen();
     void sollwertAblehnen();
     bool fnc_SollwertSenden();
     void zeige(SechsRundenDecoder::Ereignis was, double wert);
@@ -51,6 +52,7 @@ class frmMessen : public Screen, private Messfenster {
     void ersteAktivierung();
     void zustandZeigen();
     void fnc_PrüfschrittAnzeigen();
+    void grenzenSetzen();
     void fnc_MesswerteAnzeigen();
     SchrittTexte texte() const override;
     void zeigeErgometer(const QString &drehzahl) override { ui.txtIST_n_ergom->setText(drehzahl); }
@@ -59,6 +61,7 @@ class frmMessen : public Screen, private Messfenster {
     void fnc_MesswertSpeichern();
     void pbAbbrechen_Click();
     void pbMessen_Click();
+    void pbDynMess_Click();
     void navigieren(int zeile);
 
     // Set-points and free input (frmMessen_eingabe.cpp)
@@ -98,6 +101,7 @@ class frmMessen : public Screen, private Messfenster {
     /// What the buttons follow from.
     struct Zustand {
         bool vollständig = false;  ///< the step can be saved
+        bool gemessen = false;     ///< a complete result of the set-point shown has come
         bool ungesendet = false;   ///< the set-points shown wait to be carried out
         bool korrigiert = false;   ///< the speed was corrected by a button
         bool neuZuSenden = false;  ///< the speed was corrected by a key

@@ -77,7 +77,7 @@ void frmMessen::fnc_MesswerteLeeren() {
          {ui.txtIST_n_torvena, ui.txtIST_D_torvena, ui.txtIST_P_torvena, ui.txtIST_n_ergom})
         box->clear();
     ui.lblMessSchritte->clear();
-    mZustand.vollständig = false;
+    mZustand.vollständig = mZustand.gemessen = false;
     zustandZeigen();
 }
 
@@ -108,7 +108,7 @@ void frmMessen::korrekturErledigt() {
 // Everything that changes the set-point comes by here: what was measured is of another one.
 void frmMessen::werteVerwerfen() {
     mWerte = Werte::Fremde;
-    mZustand.vollständig = mZustand.abgearbeitet = false;
+    mZustand.vollständig = mZustand.abgearbeitet = mZustand.gemessen = false;
     zustandZeigen();
 }
 
@@ -124,6 +124,7 @@ void frmMessen::pbAusführen_Click() {
 // The notice closes, and the pass begins.
 void frmMessen::neuMessen() {
     gMessStatus = Messstatus::Messen;
+    grenzenSetzen();
     fnc_EingabeSperren();
     form(frm::Meldung).show();
 }

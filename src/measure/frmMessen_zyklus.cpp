@@ -4,6 +4,7 @@
 #include <QScopeGuard>
 
 #include "link/controller.h"
+#include "measure/dynamikmessung.h"
 #include "platform/runtime.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -67,6 +68,8 @@ void frmMessen::durchgang() try {
         }
         if (abgelöst())
             return;
+        mZustand.gemessen = false;
+        zustandZeigen();
     }
     gMessenFreigabe = false;
     gefangen("3014 - ", datenstromBeenden)(); // what was asked for goes on
@@ -91,6 +94,9 @@ void frmMessen::verteilen() {
         fnc_MesswerteLeeren();
         fnc_FreieEingabe();
         break;
+    case Messstatus::Dynamisch:
+        dynamischMessen();
+        break;
     case Messstatus::Verweigert:
         meldung({"Fehler im Gerät oder in der Kommunikation",
                  "Error in the unit under test, or communication error"},
@@ -107,6 +113,14 @@ void frmMessen::verteilen() {
     default:
         break;
     }
+}
+
+// What stands in the boxes was measured before; behind the charts the step begins anew.
+void frmMessen::dynamischMessen() {
+    werteVerwerfen();
+    fnc_DynamikMessen([this] { return abgelöst(); });
+    if (!unloaded())
+        fnc_MesswerteLeeren();
 }
 
 // Nothing goes out and the shaft turns on as it does; another speed or another step leads on.
@@ -144,8 +158,14 @@ void frmMessen::zeige(SechsRundenDecoder::Ereignis was, double wert) {
                      : was == Ereignis::Drehmoment ? ui.txtIST_D_torvena
                                                    : ui.txtIST_P_torvena;
     box->setText(Format(wert, "0.00"));
-    if (was == Ereignis::Leistung)
-        mTakt.rahmen();
-    if (was == Ereignis::Leistung && mWerte == Werte::Eigene)
-        messablauf().nachRahmen(*this);
+    if (was != Ereignis::Leistung)
+        return;
+    mTakt.rahmen();
+    if (mWerte != Werte::Eigene)
+        return;
+    if (!mZustand.gemessen) {
+        mZustand.gemessen = true;
+        zustandZeigen();
+    }
+    messablauf().nachRahmen(*this);
 }

@@ -69,6 +69,12 @@ class Messablauf {
     /// within a pass, shows no box. Nothing to compare when it cannot be told; what it raises
     /// counts as that.
     virtual Vorschau vorschau(const SchrittTexte &schritt) = 0;
+    /// The permitted deviation of power in W at this set-point, as its box shows it: for the lines
+    /// of the charts, which a person alone can ask for.
+    virtual double leistungsToleranz(const QString &soll_P) const {
+        static_cast<void>(soll_P);
+        return 0;
+    }
     /// Judges and stores. Writes into `schritt` what the judgement sets there. False when it has
     /// told that nothing can be stored. Raises what the store raises; then nothing was stored.
     virtual bool speichern(SchrittTexte &schritt) = 0;

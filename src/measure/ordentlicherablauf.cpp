@@ -22,6 +22,9 @@ class OrdentlicherAblauf final : public Messablauf {
     void vorSollwert(const Recordset &) override;
     void nachRahmen(Messfenster &) override {}
     Vorschau vorschau(const SchrittTexte &schritt) override;
+    double leistungsToleranz(const QString &soll_P) const override {
+        return fnc_LeistungsToleranz(mSpezifikation.prozent, mSpezifikation.watt, soll_P);
+    }
     bool speichern(SchrittTexte &schritt) override;
     void rezeptEnde() override;
     void abbruch() override {}

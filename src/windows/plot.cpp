@@ -50,6 +50,15 @@ void Plot::setLook(const Look &look) {
     mPlot->legend->setBorderPen(QPen(look.grid));
 }
 
+void Plot::setLegendAbove() {
+    mPlot->plotLayout()->insertRow(0);
+    mPlot->plotLayout()->addElement(0, 0, mPlot->legend);
+    mPlot->plotLayout()->setRowStretchFactor(0, 0.001);
+    mPlot->plotLayout()->setRowSpacing(0);
+    mPlot->legend->setFillOrder(QCPLegend::foColumnsFirst);
+    mPlot->legend->setBorderPen(Qt::NoPen);
+}
+
 void Plot::setAxisLabel(Axis axis, const QString &label) {
     this->axis(axis)->setLabel(label);
 }

@@ -31,6 +31,8 @@ class Plot : public QWidget {
     explicit Plot(QWidget *parent = nullptr);
 
     void setLook(const Look &look);
+    /// In a row of its own, so that it covers no curve; otherwise it lies in the corner.
+    void setLegendAbove();
     void setAxisLabel(Axis axis, const QString &label);
     void setRange(Axis axis, Range range);
     Range range(Axis axis) const;

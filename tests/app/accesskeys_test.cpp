@@ -219,6 +219,8 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
         stop == Ende der statischen Nullpunktkorrektur | End Of The Static Zero-point Correction
         pbok ; @ProtokollNr ; stop == Protokollnummer | Protocol Number ; obNeu
         stop == Protokollnummer | Protocol Number ; txtNeu = Keys ; pbok ; @Messen ; stand load 100
+        step 1 60 ; pbDynMess ; @GraphLite ; stop == Messdaten | Measuring Data ; pbSkalaN ; @SetScale
+        stop == Eingabe Skalierung | Scaling Input ; pbAbbrechen ; @GraphLite ; pbBeenden ; @Messen
         step 1 60 ; pbSpeichern ; step 2 80
         stop == Sechs Runden - Messen       Prüfprotokoll: 22 - Keys | Six Rounds - Measuring       Test Protocol: 22 - Keys
         pbFreieEing ; pass 100

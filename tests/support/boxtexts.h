@@ -56,6 +56,8 @@ inline constexpr KnownBox boxTexts[] = {
     // the desktop, the line and the motor
     {"end", YesNo + Question, "Programmende", "End Of Program", "Wollen Sie das Programm wirklich beenden?", "Do you really want to terminate the program?"},
     {"endAnyway", YesNo + Exclamation + SecondButtonDefault, "Programmende", "End Of Program", "Der Motor konnte nicht ausgeschaltet werden und dreht sich vielleicht noch.\rSoll das Programm trotzdem beendet werden?", "The motor could not be switched off and may still be turning.\rShall the program be terminated all the same?"},
+    {"scaleEnd", Critical, "Eingabefehler", "Input Error", "Skalenende liegt außerhalb des gültigen Bereiches", "End of scale is outside the valid range."},
+    {"scaleNumber", Critical, "Eingabefehler", "Input Error", "Skalenbeginn muss ein nummerischer Wert sein!", "Beginning of scale has to be a numeric value!"},
     {"login", Critical, "Anmeldung", "Registration", "Ungültige Anmeldung! Bitte versuchen Sie es noch einmal!", "Invalid registration! Please try it again!"},
     {"noDirection", Exclamation, "Meldung", "Message", "Sie haben keine Drehrichtung gewählt!\r\nDer Motor kann nicht eingeschaltet werden.", "Please select a direction of rotation for the motor!\r\nIt is not possible to switch the motor on."},
     {"directionFirst", Exclamation, "Vorbereiten der Messung", "Preparation For The Measurement", "Bitte wählen Sie zuerst eine Motor-Drehrichtung", "Please select a direction of rotation for the motor first!"},

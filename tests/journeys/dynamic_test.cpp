@@ -1,0 +1,122 @@
+// The charts above the measurement: what they show, how they are left, what becomes of the step.
+#include <QDir>
+#include <QImage>
+
+#include "measure/band.h"
+#include "measuring.h"
+#include "windows/plot.h"
+
+namespace {
+
+using namespace support;
+
+class Dynamic : public Measuring {
+  protected:
+    Dynamic() {
+        views["axes"] = [] {
+            QStringList axes;
+            for (const char *chart : {"glDrehzahl", "glLeistung"}) {
+                const auto y = plot(chart)->range(platform::Plot::Y);
+                axes += QString("%1..%2").arg(y.from).arg(y.to);
+            }
+            return axes.join(' ');
+        };
+        views["lines"] = [] {
+            const Band &n = grafikband(Diagramm::Drehzahl), &p = grafikband(Diagramm::Leistung);
+            return QString("%1..%2 %3..%4").arg(n.min).arg(n.max).arg(p.min).arg(p.max);
+        };
+        views["doubleClick"] = [] {
+            plot("glLeistung")->onDoubleClick();
+            return "done";
+        };
+        views["files"] = [] {
+            QStringList kinds;
+            for (const QFileInfo &file : QDir("Export").entryInfoList(QDir::Files))
+                kinds += file.suffix();
+            kinds.sort();
+            return kinds.join(' ');
+        };
+        views["charts"] = [] {
+            return loaded(frm::GraphLite) || loaded(frm::SetScale) ? "there" : "gone";
+        };
+        roads["dynamic"] = [this](const QString &) {
+            return go("step 1 60 ; can pbDynMess pbSpeichern ; pbDynMess ; @GraphLite");
+        };
+    }
+    static platform::Plot *plot(const char *name) {
+        return control<platform::Plot>(frm::GraphLite, name);
+    }
+    static QStringList lines() {
+        for (const QFileInfo &file : QDir("Export").entryInfoList({"*.csv"})) {
+            QFile table(file.filePath());
+            if (table.open(QIODevice::ReadOnly))
+                return QString::fromUtf8(table.readAll()).split("\r\n");
+        }
+        return {};
+    }
+};
+
+JOURNEY_P(Dynamic, ShowsTheStepAndMeasuresItAnew) {
+    co_await go(R"(
+        measure ; stand load 100 ; cannot pbDynMess ; until can pbDynMess ; live ~ \d[|].*\d[|].*\d$
+        step 1 60 ; wire ~ . ; pbDynMess ; @GraphLite ; wire == --c ; title == Messdaten | Measuring Data
+        cannot Messen.pbAbbrechen pbBild pbZahlen ; released == no ; axes == 0..62 -1..105
+        pass 1200 ; can pbBild pbZahlen ; pass 1000 ; axes == 0..62 -1..105 ; laInfo ==
+        # Data go on while the scale is asked for.
+        pbSkalaN ; @SetScale ; cannot GraphLite.pbBeenden ; txtBegin == 0 ; txtEnde == 62
+        txtBegin = -1 ; txtEnde = 131 ; ? scaleEnd ; pbok ; focus txtEnde ; txtEnde = 130 ; pbok ; @GraphLite
+        axes == -1..130 -1..105 ; doubleClick == done ; @SetScale ; txtEnde == 105 ; txtBegin = x
+        ? scaleNumber ; pbok ; txtBegin = 50,5 | 50.5 ; txtEnde = 90 ; txtEnde ! ; pbok ; @GraphLite
+        pass 2000 ; axes == -1..130 50..90 ; lines == -1..130 50.5..90
+        pbSkalaP ; @SetScale ; txtEnde = 600 ; key Escape ; @GraphLite ; axes == -1..130 50..90
+        stand fault silent on ; pass 4500 ; laInfo == Keine Daten vom Regler | No data from the controller
+        stand fault none ; pass 200 ; laInfo ==
+        pbZahlen ; pbBild ; pbZahlen ; files == csv csv png ; laInfo ~ ^(Gespeichert|Saved): /.*_2\.csv$
+        wire == ; pbBeenden ; @Messen ; live == || ; cannot pbSpeichern pbDynMess ; lines == 0..62 -1..105
+        dynamic ; wire == --*E-2100+>>>6--c ; close ; @Messen ; step 1 60 ; pbSpeichern
+        step 2 80 ; lines == 0..82 -1..3 ; leave ; idle == yes)");
+    const QStringList table = lines();
+    EXPECT_GT(table.size(), 60);
+    EXPECT_EQ(table.value(0), english()
+                                  ? "No.,Speed (rpm),Speed Min. tolerance (rpm),Speed Max. "
+                                    "tolerance (rpm),Power (W),Power Min. tolerance (W),Power Max. "
+                                    "tolerance (W)"
+                                  : "Nr.;Drehzahl (1/min);Drehzahl Min. Toleranz (1/min);Drehzahl "
+                                    "Max. Toleranz (1/min);Leistung (W);Leistung Min. Toleranz "
+                                    "(W);Leistung Max. Toleranz (W)");
+    const QRegularExpression row(english()
+                                     ? R"(^1,(60|59)\.\d0,-1\.00,130\.00,\d+\.\d\d,50\.50,90\.00$)"
+                                     : R"(^1;(60|59),\d0;-1,00;130,00;\d+,\d\d;50,50;90,00$)");
+    EXPECT_TRUE(row.match(table.value(1)).hasMatch()) << table.value(1);
+}
+
+JOURNEY(Dynamic, ALostLineClosesTheCharts) {
+    co_await go(R"(
+        measure ; stand load 100 ; dynamic ; ? failed(2001, 8020) ; line out ; @Messen
+        charts == gone ; live == || ; cannot pbDynMess pbSpeichern ; pass 30000 ; front == Messen
+        line in ; pbMessen ; dynamic ; pbSkalaP ; @SetScale ; ? failed(2001, 8020) ; line out ; @Messen
+        charts == gone ; line in ; pbMessen ; step 1 60
+        # Gone before the stream was asked for
+        line out ; ? failed(3014, 8020) ; ? lineFailed(5011, 8002) ; pbDynMess ; pass 1000
+        charts == gone ; line in ; pbMessen ; step 1 60 ; pbSpeichern ; step 2 80 ; leave ; idle == yes)");
+}
+
+JOURNEY_ROWS(Dynamic, EndsWithTheSession, "terminated == now",
+             "pbSkalaN ; @SetScale ; terminated == now") {
+    co_await go("measure ; stand load 100 ; dynamic");
+    co_await go(givenRow);
+    co_await go("pass 1000 ; charts == gone ; status == 6 ; shaft ~ ^set=0.00");
+    EXPECT_FALSE(gDesktopAktiv || gDatenbank.isOpen());
+}
+
+JOURNEY(Dynamic, WhatCannotBeWrittenIsTold) {
+    co_await go("measure ; stand load 100 ; dynamic ; pass 1500");
+    QFile inTheWay("Export");
+    EXPECT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    co_await go(R"(? failed(2003, 70) ; pbZahlen ; ? failed(2002, 70) ; pbBild ; laInfo ==)");
+    EXPECT_TRUE(inTheWay.remove());
+    co_await go(
+        "pbBild ; files == png ; pbBeenden ; @Messen ; step 1 60 ; ? emptyProtocol ; leave");
+}
+
+} // namespace
