@@ -96,6 +96,7 @@ void frmGraphLite::einrichten(Diagramm diagramm) {
         bild.addCurve(inSprache(linie), QPen(weiß, 0, Qt::DashLine));
     bild.setAxisLabel(
         Plot::Y, QString("%1 (%2)").arg(inSprache(name(diagramm)), inSprache(einheit(diagramm))));
+    bild.setAxisLabel(Plot::X, inSprache({"Die letzten Messwerte", "The last values"}));
     bild.setRange(Plot::X, {0, Messring::länge - 1});
     bild.setStep(Plot::X, rasterX);
     bild.setAccessibleName(inSprache(name(diagramm)));

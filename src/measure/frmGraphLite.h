@@ -6,8 +6,8 @@
 #include "measure/messring.h"
 #include "platform/clock.h"
 #include "session/screens.h"
-#include "windows/plot.h"
 #include "ui_frmGraphLite.h"
+#include "windows/plot.h"
 
 class frmGraphLite : public Screen {
   public:

@@ -76,6 +76,7 @@ void Plot::setStep(Axis axis, double step) {
     const QSharedPointer<QCPAxisTickerFixed> ticker(new QCPAxisTickerFixed);
     ticker->setTickStep(step);
     this->axis(axis)->setTicker(ticker);
+    this->axis(axis)->setSubTicks(false);
 }
 
 void Plot::showDates(const QString &format) {
