@@ -274,6 +274,7 @@ class Gallery : public Workplace {
         form(frm::Bericht1).unload();
         co_await opened(frm::PrinterPDF, "printerpdf");
         co_await opened(frm::BerichtSichern, "berichtsichern");
+        co_await opened(frm::History, "history");
         gMessStatus = Messstatus::Ruhe; // that dialog was left without a protocol
         gDesktopFolge = {};
 

@@ -6,6 +6,7 @@
 #include "app/frmMeldung1.h"
 #include "app/frmMotorDrehR.h"
 #include "app/frmSplash.h"
+#include "calibration/frmHistory.h"
 #include "calibration/frmKalibrierung.h"
 #include "calibration/frmMomentKal.h"
 #include "calibration/frmOberfl.h"
@@ -81,4 +82,5 @@ void bindScreens() {
     bindScreen<frmBlutdruckAbfrage>();
     bindScreen<frmBlutdruck>();
     bindScreen<frmSecControl>();
+    bindScreen<frmHistory>();
 }

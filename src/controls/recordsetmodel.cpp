@@ -38,6 +38,8 @@ QVariant RecordsetModel::data(const QModelIndex &index, int role) const {
     const QVariant &value = mRows.at(index.row(), column);
     if (spalte.format == "dd.mm.yyyy")
         return datumText(datumAus(value.toString()));
+    if (spalte.format == "General Date")
+        return zeitpunktText(zeitpunktAus(value.toString()));
     if (!spalte.format.isEmpty() && !value.isNull())
         return Format(Feld(value).number(), spalte.format);
     return value.typeId() == QMetaType::Double ? QVariant(CStr(value.toDouble())) : value;

@@ -56,3 +56,12 @@ QDate datumAus(const QString &iso) {
 QString datumText(const QDate &datum) {
     return datum.toString("dd.MM.yyyy");
 }
+
+QDateTime zeitpunktAus(const QString &iso) {
+    return QDateTime::fromString(iso, Qt::ISODate);
+}
+
+QString zeitpunktText(const QDateTime &zeitpunkt) {
+    return zeitpunkt.toString(zeitpunkt.time() == QTime(0, 0) ? "dd.MM.yyyy"
+                                                              : "dd.MM.yyyy HH:mm:ss");
+}

@@ -1,7 +1,7 @@
 // What a person types into a search, and dates and texts of the database as a person reads them.
 #pragma once
 
-#include <QDate>
+#include <QDateTime>
 #include <QString>
 
 /// True when the whole text fits the pattern: `*` any run of letters, `?` exactly one, without
@@ -16,3 +16,9 @@ QDate datumAus(const QString &iso);
 
 /// dd.mm.yyyy; empty for an invalid date.
 QString datumText(const QDate &datum);
+
+/// The same with its time of day, which is midnight when the text has none.
+QDateTime zeitpunktAus(const QString &iso);
+
+/// dd.mm.yyyy hh:mm:ss, at midnight the date alone; empty for an invalid one.
+QString zeitpunktText(const QDateTime &zeitpunkt);

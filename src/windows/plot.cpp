@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 constexpr double reach = 12; // pixels from a value within which the mouse means it
-constexpr double dotSize = 7;
+constexpr double dotSize = 7, ringSize = 15;
 } // namespace
 
 Plot::Plot(QWidget *parent) : QWidget(parent), mPlot(new QCustomPlot(this)) {
@@ -89,9 +89,19 @@ int Plot::addCurve(const QString &name, const QPen &pen, bool dots) {
     QCPGraph *graph = mPlot->addGraph();
     graph->setPen(pen);
     if (dots)
-        graph->setScatterStyle(QCPScatterStyle(QCPScatterStyle::ssDisc, dotSize));
+        setDots(curves() - 1, Dots::Discs);
     renameCurve(curves() - 1, name);
     return curves() - 1;
+}
+
+void Plot::setDots(int curve, Dots dots) {
+    using Style = QCPScatterStyle;
+    constexpr std::pair<Style::ScatterShape, double> styles[] = {{Style::ssNone, 0},
+                                                                 {Style::ssDisc, dotSize},
+                                                                 {Style::ssSquare, dotSize},
+                                                                 {Style::ssCircle, ringSize}};
+    const auto [shape, size] = styles[static_cast<int>(dots)];
+    mPlot->graph(curve)->setScatterStyle(Style(shape, size));
 }
 
 void Plot::renameCurve(int curve, const QString &name) {

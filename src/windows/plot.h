@@ -44,6 +44,9 @@ class Plot : public QWidget {
     /// One more, answered by its number from 0; in the legend unless the name is empty. `dots`
     /// marks its values.
     int addCurve(const QString &name, const QPen &pen, bool dots = false);
+    /// What marks its values, so that curves differ by more than colour.
+    enum class Dots { None, Discs, Squares, Ring };
+    void setDots(int curve, Dots dots);
     void renameCurve(int curve, const QString &name);
     int curves() const;
     /// As many of the one as of the other, X ascending.

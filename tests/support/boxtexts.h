@@ -151,6 +151,11 @@ inline constexpr KnownBox boxTexts[] = {
     {"safetyStandard", Exclamation, "Message!", "Message!", "Um das Protokoll speichern zu können, ist die Nummer des verwendeten Normals erforderlich!", "In order to be able to save the protocol, the number of the working standard has to be provided!"},
     {"safetyEmpty", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler 9903-  3075 Ein Blatt ohne Messwerte wird nicht gespeichert. Bitte tragen Sie die Messwerte ein, oder verlassen Sie das Fenster mit \"Abbrechen\".", "ERROR 9903-  3075 A sheet without measured values is not saved. Please enter the measured values, or leave the window with \"Cancel\"."},
     {"noDate", Exclamation, "Meldung", "Message", "\"%1\" ist kein Datum. Bitte prüfen Sie \"kalibriert bis\", bevor Sie speichern.", "\"%1\" is not a date. Please check \"Calibrated until\" before you save."},
+    // calibration history
+    {"referenceStays", Exclamation, "Achtung!", "Attention!", "Die Referenzdaten können nicht gelöscht werden!", "The reference data can not be deleted!"},
+    {"deleteRecord?", OKCancel + Question + SecondButtonDefault, "Datensatz löschen", "Delete Record", "Wollen Sie den Datensatz wirklich löschen?", "Do you really want to delete this data record?"},
+    {"notOpened", Information, "Export", "Export", "Die Tabelle wurde gespeichert. Hier gibt es kein Programm, das sie öffnet:\r%1", "The spreadsheet has been saved. There is no program here that opens it:\r%1"},
+    {"noExport", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler 5010 -  70 %1 kann nicht geschrieben werden. Bitte prüfen Sie Ordner, Rechte und freien Platz.", "ERROR 5010 -  70 %1 cannot be written. Please check folder, permissions and free space."},
     // zero point and measurement
     {"noStream", Exclamation, "Meldung", "Message", "Nach 15 Sek kein Empfang", "No reception after 15 sec!"},
     {"correctionOff", Exclamation, "Meldung", "Message", "Statische Nullpunkt-Korrektur abgebrochen", "Static zero-point correction has been discontinued!"},

@@ -1,0 +1,209 @@
+#include "calibration/historienblatt.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "calibration/achse.h"
+#include "records/hebelarm.h"
+#include "session/mappe.h"
+#include "session/sprache.h"
+#include "store/sqltext.h"
+
+using namespace platform;
+
+namespace {
+
+constexpr int ersteZeile = 2; // below the heads, from 0
+constexpr int spalten = 6, betragSpalte = 6, diagrammSpalte = 7;
+constexpr int zeilenhöhe = 20, diagrammbreite = 720; // pixels
+constexpr int wenigsteZeilen = 18, meisteZeilen = 36;
+constexpr double große = 0.05, kleine = 0.01; // units of the value axis, N m
+constexpr int meisteStriche = 20;
+constexpr int randTage = 30;
+
+enum Format { Titel, Kopf, Datum, Drei, Vier };
+
+struct Seite {
+    Text blatt;
+    Text titel;
+    Text wert, betrag; ///< heads
+    QString diagramm;
+    const char *moment, *streuung; ///< columns of the history
+};
+const Seite seiten[] = {
+    {{"Rechts", "Right"},
+     {"Hebelarmkalibrierung rechts", "Lever Arm Calibration, Right"},
+     {"Rechts in N m", "Right in N m"},
+     {"Betrag rechts in N m", "Magnitude right in N m"},
+     "Diagramm 2",
+     "Nm_rechts",
+     "Streu_R"},
+    {{"Links", "Left"},
+     {"Hebelarmkalibrierung links", "Lever Arm Calibration, Left"},
+     {"Links in N m", "Left in N m"},
+     {"Betrag links in N m", "Magnitude left in N m"},
+     "Diagramm 1",
+     "Nm_links",
+     "Streu_L"},
+};
+
+Sheet vorlagenblatt(const Seite &seite) {
+    Sheet blatt{.name = inSprache(seite.blatt),
+                .widths = {12, 14, 14, 16, 14, 24, 14},
+                .headRows = ersteZeile,
+                .selectedRow = ersteZeile};
+    blatt.cell(0, 0) = {inSprache(seite.titel), Titel};
+    const Text köpfe[] = {{"Datum", "Date"},
+                          seite.wert,
+                          {"Streubreite in N m", "Spread in N m"},
+                          {"Fallbeschleunigung in m/s²", "Gravity in m/s²"},
+                          {"Hebelarm-Nr.", "Lever Arm No."},
+                          {"Prüfer", "Inspector"}};
+    for (int spalte = 0; spalte < spalten; ++spalte)
+        blatt.cell(1, spalte) = {inSprache(köpfe[spalte]), Kopf};
+    blatt.charts.push_back(
+        {.name = seite.diagramm,
+         .title = inSprache(seite.titel),
+         .valueTitle = inSprache(seite.wert),
+         .row = ersteZeile,
+         .column = diagrammSpalte,
+         .width = diagrammbreite,
+         .height = wenigsteZeilen * zeilenhöhe,
+         .series = {
+             {.name = inSprache(seite.wert), .firstRow = ersteZeile, .lastRow = ersteZeile}}});
+    return blatt;
+}
+
+/// The value as it is stored: a number, a text, or nothing.
+Cell zelle(const QVariant &wert, int format = -1) {
+    if (wert.isNull())
+        return {{}, format};
+    if (wert.typeId() == QMetaType::QString)
+        return {wert.toString(), format};
+    return {wert.toDouble(), format};
+}
+
+/// A date that is none stays as the text that it is.
+Cell datumszelle(const QString &text) {
+    const QDateTime zeitpunkt = zeitpunktAus(text);
+    if (zeitpunkt.isValid())
+        return {zeitpunkt, Datum};
+    return {text, Datum};
+}
+
+struct Bereich {
+    double kleinster = std::numeric_limits<double>::infinity();
+    double größter = -kleinster;
+    bool leer() const { return kleinster > größter; }
+    void aufnehmen(double wert) {
+        kleinster = std::min(kleinster, wert);
+        größter = std::max(größter, wert);
+    }
+};
+
+/// What fnc_HistorieExport learns of a side on its way through the rows.
+struct Gesehen {
+    Bereich betrag; ///< of the moments, N m
+    bool negativ = false;
+    QDate erster, letzter;
+};
+
+Gesehen zeilenEintragen(const Recordset &historie, const Seite &seite) {
+    const auto spalte = [&](const char *name) { return historie.columnIndex(name); };
+    const int datum = spalte("Prdatum"), moment = spalte(seite.moment),
+              streuung = spalte(seite.streuung), schwere = spalte("Erdschwere"),
+              hebelarm = spalte("HebelarmNr"), prüfer = spalte("Prüfer");
+    Gesehen gesehen;
+    gBlatt->rows.reserve(static_cast<size_t>(ersteZeile + historie.count()));
+    for (int zeile = 0; zeile < historie.count(); ++zeile) {
+        Cell tag = datumszelle(historie.at(zeile, datum).toString());
+        if (const auto *zeitpunkt = std::get_if<QDateTime>(&tag.value)) {
+            const QDate heute = zeitpunkt->date();
+            gesehen.erster = gesehen.erster.isValid() ? std::min(gesehen.erster, heute) : heute;
+            gesehen.letzter = std::max(gesehen.letzter, heute);
+        }
+        Cell wert = zelle(historie.at(zeile, moment), Drei);
+        if (const auto *zahl = std::get_if<double>(&wert.value)) {
+            gesehen.betrag.aufnehmen(std::abs(*zahl));
+            gesehen.negativ |= *zahl < 0;
+        }
+        gBlatt->rows.push_back(
+            {std::move(tag), std::move(wert), zelle(historie.at(zeile, streuung), Vier),
+             zelle(historie.at(zeile, schwere), Vier), zelle(historie.at(zeile, hebelarm)),
+             zelle(historie.at(zeile, prüfer))});
+    }
+    return gesehen;
+}
+
+ValueAxis wertachse(const Bereich &betrag) {
+    const Achse grenzen = achsengrenzen(betrag.größter, betrag.kleinster);
+    if (grenzen.oben - grenzen.unten > meisteStriche * große)
+        return {grenzen.unten, grenzen.oben}; // the units would lie too close
+    return {grenzen.unten, grenzen.oben, große, kleine};
+}
+
+/// The axis knows no sign: a side whose moments have one is drawn by its magnitudes, from a column
+/// beside the table.
+void beträgeEintragen(const Seite &seite, int letzteZeile) {
+    DateChart &diagramm = gBlatt->charts[0];
+    gBlatt->cell(1, betragSpalte) = {inSprache(seite.betrag), Kopf};
+    for (int zeile = ersteZeile; zeile <= letzteZeile; ++zeile) {
+        if (const auto *zahl = std::get_if<double>(&gBlatt->cell(zeile, 1).value))
+            gBlatt->cell(zeile, betragSpalte) = {std::abs(*zahl), Drei};
+    }
+    diagramm.valueTitle = inSprache(seite.betrag);
+    diagramm.series.push_back({.name = diagramm.valueTitle,
+                               .values = betragSpalte,
+                               .firstRow = ersteZeile,
+                               .lastRow = letzteZeile});
+}
+
+/// Size and source of the chart from the rows in use.
+void fnc_DiagrammAnpassen(int letzteZeile) {
+    DateChart &diagramm = gBlatt->charts[0];
+    diagramm.height = std::clamp(letzteZeile + 1, wenigsteZeilen, meisteZeilen) * zeilenhöhe;
+    diagramm.series[0].lastRow = letzteZeile;
+}
+
+void seiteEintragen(const Recordset &historie, const Seite &seite) {
+    gBlatt = gMappe->sheet(inSprache(seite.blatt));
+    const int letzteZeile = ersteZeile + historie.count() - 1;
+    const Gesehen gesehen = zeilenEintragen(historie, seite);
+    fnc_TabelleFormatieren(ersteZeile, letzteZeile, spalten);
+    DateChart &diagramm = gBlatt->charts[0];
+    if (!gesehen.betrag.leer())
+        diagramm.axis = wertachse(gesehen.betrag);
+    if (gesehen.erster.isValid())
+        diagramm.dates = {gesehen.erster.addDays(-randTage), gesehen.letzter.addDays(randTage)};
+    if (gesehen.negativ)
+        beträgeEintragen(seite, letzteZeile);
+    fnc_DiagrammAnpassen(letzteZeile);
+}
+
+} // namespace
+
+Workbook historienvorlage() {
+    Workbook mappe;
+    mappe.formats = {{.bold = true},
+                     {.frame = true, .bold = true, .centred = true},
+                     {.number = "dd.mm.yyyy"},
+                     {.number = "0.000"},
+                     {.number = "0.0000"}};
+    for (const Seite &seite : seiten)
+        mappe.sheets.push_back(vorlagenblatt(seite));
+    return mappe;
+}
+
+void historieEintragen(const Recordset &historie) {
+    if (historie.empty())
+        return;
+    for (const Seite &seite : seiten)
+        seiteEintragen(historie, seite);
+    gBlatt = gMappe->sheets.data();
+}
+
+void fnc_HistorieExport() {
+    fnc_ExcelÖffnen(inSprache({"Hebelarmkalibrierung", "LeverArmCalibration"}), historienvorlage());
+    historieEintragen(hebelarmHistorie());
+}
