@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -274,7 +275,11 @@ class Gallery : public Workplace {
         form(frm::Bericht1).unload();
         co_await opened(frm::PrinterPDF, "printerpdf");
         co_await opened(frm::BerichtSichern, "berichtsichern");
-        co_await opened(frm::History, "history");
+        form(frm::History).show();
+        co_await arrive(frm::History);
+        control<QTableView>(frm::History, "dbgHistory")->selectRow(3);
+        picture("history");
+        form(frm::History).unload();
         gMessStatus = Messstatus::Ruhe; // that dialog was left without a protocol
         gDesktopFolge = {};
 

@@ -73,7 +73,7 @@ void frmHistory::spaltenSetzen() {
     });
     QHeaderView *head = ui.dbgHistory->horizontalHeader();
     head->setSectionResizeMode(QHeaderView::ResizeToContents);
-    head->setStretchLastSection(true);
+    head->setSectionResizeMode(0, QHeaderView::Stretch);
     head->setHighlightSections(false);
 }
 

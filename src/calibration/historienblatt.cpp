@@ -102,38 +102,55 @@ struct Bereich {
     }
 };
 
-/// What fnc_HistorieExport learns of a side on its way through the rows.
-struct Gesehen {
-    Bereich betrag; ///< of the moments, N m
-    bool negativ = false;
+/// The first column, the same on both sides.
+struct Tage {
+    std::vector<Cell> zellen;
     QDate erster, letzter;
 };
 
-Gesehen zeilenEintragen(const Recordset &historie, const Seite &seite) {
+Tage tageLesen(const Recordset &historie) {
+    const int spalte = historie.columnIndex("Prdatum");
+    Tage tage;
+    tage.zellen.reserve(static_cast<size_t>(historie.count()));
+    for (int zeile = 0; zeile < historie.count(); ++zeile) {
+        tage.zellen.push_back(datumszelle(historie.at(zeile, spalte).toString()));
+        if (const auto *zeitpunkt = std::get_if<QDateTime>(&tage.zellen.back().value)) {
+            const QDate tag = zeitpunkt->date();
+            tage.erster = tage.erster.isValid() ? std::min(tage.erster, tag) : tag;
+            tage.letzter = std::max(tage.letzter, tag);
+        }
+    }
+    return tage;
+}
+
+/// The moments of a side, N m.
+struct Momente {
+    Bereich betrag;
+    bool negativ = false;
+};
+
+Momente zeilenEintragen(const Recordset &historie, const Tage &tage, const Seite &seite) {
     const auto spalte = [&](const char *name) { return historie.columnIndex(name); };
-    const int datum = spalte("Prdatum"), moment = spalte(seite.moment),
-              streuung = spalte(seite.streuung), schwere = spalte("Erdschwere"),
-              hebelarm = spalte("HebelarmNr"), prüfer = spalte("Prüfer");
-    Gesehen gesehen;
+    const int moment = spalte(seite.moment), streuung = spalte(seite.streuung),
+              schwere = spalte("Erdschwere"), hebelarm = spalte("HebelarmNr"),
+              prüfer = spalte("Prüfer");
+    Momente momente;
     gBlatt->rows.reserve(static_cast<size_t>(ersteZeile + historie.count()));
     for (int zeile = 0; zeile < historie.count(); ++zeile) {
-        Cell tag = datumszelle(historie.at(zeile, datum).toString());
-        if (const auto *zeitpunkt = std::get_if<QDateTime>(&tag.value)) {
-            const QDate heute = zeitpunkt->date();
-            gesehen.erster = gesehen.erster.isValid() ? std::min(gesehen.erster, heute) : heute;
-            gesehen.letzter = std::max(gesehen.letzter, heute);
+        std::vector<Cell> &zellen = gBlatt->rows.emplace_back();
+        zellen.reserve(spalten + 1);
+        zellen.push_back(tage.zellen[static_cast<size_t>(zeile)]);
+        zellen.push_back(zelle(historie.at(zeile, moment), Drei));
+        zellen.push_back(zelle(historie.at(zeile, streuung), Vier));
+        zellen.push_back(zelle(historie.at(zeile, schwere), Vier));
+        zellen.push_back(zelle(historie.at(zeile, hebelarm)));
+        zellen.push_back(zelle(historie.at(zeile, prüfer)));
+        if (const auto *zahl = std::get_if<double>(&zellen[1].value)) {
+            momente.betrag.aufnehmen(std::abs(*zahl));
+            momente.negativ |= *zahl < 0;
         }
-        Cell wert = zelle(historie.at(zeile, moment), Drei);
-        if (const auto *zahl = std::get_if<double>(&wert.value)) {
-            gesehen.betrag.aufnehmen(std::abs(*zahl));
-            gesehen.negativ |= *zahl < 0;
-        }
-        gBlatt->rows.push_back(
-            {std::move(tag), std::move(wert), zelle(historie.at(zeile, streuung), Vier),
-             zelle(historie.at(zeile, schwere), Vier), zelle(historie.at(zeile, hebelarm)),
-             zelle(historie.at(zeile, prüfer))});
     }
-    return gesehen;
+    return momente;
 }
 
 ValueAxis wertachse(const Bereich &betrag) {
@@ -166,17 +183,17 @@ void fnc_DiagrammAnpassen(int letzteZeile) {
     diagramm.series[0].lastRow = letzteZeile;
 }
 
-void seiteEintragen(const Recordset &historie, const Seite &seite) {
+void seiteEintragen(const Recordset &historie, const Tage &tage, const Seite &seite) {
     gBlatt = gMappe->sheet(inSprache(seite.blatt));
     const int letzteZeile = ersteZeile + historie.count() - 1;
-    const Gesehen gesehen = zeilenEintragen(historie, seite);
+    const Momente momente = zeilenEintragen(historie, tage, seite);
     fnc_TabelleFormatieren(ersteZeile, letzteZeile, spalten);
     DateChart &diagramm = gBlatt->charts[0];
-    if (!gesehen.betrag.leer())
-        diagramm.axis = wertachse(gesehen.betrag);
-    if (gesehen.erster.isValid())
-        diagramm.dates = {gesehen.erster.addDays(-randTage), gesehen.letzter.addDays(randTage)};
-    if (gesehen.negativ)
+    if (!momente.betrag.leer())
+        diagramm.axis = wertachse(momente.betrag);
+    if (tage.erster.isValid())
+        diagramm.dates = {tage.erster.addDays(-randTage), tage.letzter.addDays(randTage)};
+    if (momente.negativ)
         beträgeEintragen(seite, letzteZeile);
     fnc_DiagrammAnpassen(letzteZeile);
 }
@@ -198,8 +215,9 @@ Workbook historienvorlage() {
 void historieEintragen(const Recordset &historie) {
     if (historie.empty())
         return;
+    const Tage tage = tageLesen(historie);
     for (const Seite &seite : seiten)
-        seiteEintragen(historie, seite);
+        seiteEintragen(historie, tage, seite);
     gBlatt = gMappe->sheets.data();
 }
 

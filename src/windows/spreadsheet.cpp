@@ -14,6 +14,8 @@ namespace platform {
 namespace {
 
 constexpr int longestText = 32'767; // that a cell takes
+constexpr int mostCached =
+    1000; // values that a chart has a copy of, for viewers that do not reckon
 constexpr uint8_t markerSize = 6;
 const char dateFormat[] = "dd.mm.yyyy";
 
@@ -35,6 +37,10 @@ lxw_datetime lxwDate(const QDate &date, const QTime &time = {0, 0}) {
 double serial(const QDate &date) {
     lxw_datetime lxw = lxwDate(date);
     return lxw_datetime_to_excel_datetime(&lxw);
+}
+
+QByteArray shown(const QString &text) {
+    return text.size() > longestText ? text.left(longestText).toUtf8() : text.toUtf8();
 }
 
 class Writer {
@@ -99,8 +105,7 @@ class Writer {
             lxw_datetime lxw = lxwDate(date->date(), date->time());
             worksheet_write_datetime(page, row, column, &lxw, format);
         } else if (const auto *text = std::get_if<QString>(&cell.value); text && !text->isEmpty()) {
-            worksheet_write_string(page, row, column, text->left(longestText).toUtf8().constData(),
-                                   format);
+            worksheet_write_string(page, row, column, shown(*text).constData(), format);
         } else if (format) {
             worksheet_write_blank(page, row, column, format);
         }
@@ -119,6 +124,8 @@ class Writer {
             chart_series_set_values(series, sheet.constData(), lxwRow(one.firstRow),
                                     lxwColumn(one.values), lxwRow(one.lastRow),
                                     lxwColumn(one.values));
+            if (one.lastRow - one.firstRow >= mostCached)
+                series->categories->ignore_cache = series->values->ignore_cache = LXW_TRUE;
             chart_series_set_marker_type(series, LXW_CHART_MARKER_CIRCLE);
             chart_series_set_marker_size(series, markerSize);
         }
