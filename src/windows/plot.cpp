@@ -101,7 +101,10 @@ void Plot::setDots(int curve, Dots dots) {
                                                                  {Style::ssSquare, dotSize},
                                                                  {Style::ssCircle, ringSize}};
     const auto [shape, size] = styles[static_cast<int>(dots)];
-    mPlot->graph(curve)->setScatterStyle(Style(shape, size));
+    Style style(shape, size);
+    if (dots == Dots::Ring)
+        style.setPen(QPen(mPlot->graph(curve)->pen().color(), 2));
+    mPlot->graph(curve)->setScatterStyle(style);
 }
 
 void Plot::renameCurve(int curve, const QString &name) {

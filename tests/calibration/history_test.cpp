@@ -11,6 +11,7 @@
 #include "records/hebelarm.h"
 #include "session/mappe.h"
 #include "way.h"
+#include "windows/plot.h"
 
 namespace {
 
@@ -43,6 +44,11 @@ class History : public Way {
         views["row"] = [] { // that is current
             return QString::number(
                 control<QTableView>(frm::History, "dbgHistory")->currentIndex().row());
+        };
+        views["tip"] = [] { // of the second value to the right
+            auto *plot =
+                static_cast<platform::Plot *>(control<QWidget>(frm::History, "anzVerlauf"));
+            return plot->toolTipOf(0, 1).replace('\n', '|');
         };
         views["files"] = [] { return QDir("Export").entryList(QDir::Files).join(' '); };
     }
@@ -90,6 +96,7 @@ JOURNEY_P(History, ListsDeletesAndExports) {
         @History ; row == 0
         dbgHistory rows Referenz|01.03.2024 09:00:00|9,8107|30,000|0,0063|-30,000|0,0040+=1+1|23.11.2026 14:32:05|9,8107|30,016|0,0063|-29,900|0,0040+Jürgen Groß|02.06.2025|9,8107|29,983|0,0063||0,0040 | Referenz|01.03.2024 09:00:00|9.8107|30.000|0.0063|-30.000|0.0040+=1+1|23.11.2026 14:32:05|9.8107|30.016|0.0063|-29.900|0.0040+Jürgen Groß|02.06.2025|9.8107|29.983|0.0063||0.0040
         ? referenceStays ; pbDSLöschen
+        tip ~ ^23.11.2026 14:32:05.=1.1.Rechts: 0,016 N m$ | ^23.11.2026 14:32:05.=1.1.Right: 0.016 N m$
         pbExcel ; can pbExcel ; focus pbExcel ; laDatei ~ ^Gespeichert: Export/Hebelarmkalibrierung_.*xlsx$ | ^Saved: Export/LeverArmCalibration_.*xlsx$)");
     EXPECT_TRUE(QFile::exists(opened));
     opens = false;
