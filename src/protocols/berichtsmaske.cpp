@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "platform/fehler.h"
-#include "platform/runtime.h"
 #include "protocols/pdfausgabe.h"
+#include "records/protokollnummer.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
@@ -100,7 +100,7 @@ void Berichtsmaske::eintragen(const QStringList &einträge, bool ersterGewählt)
 }
 
 Schlüssel Berichtsmaske::nummer(int ab) const {
-    return static_cast<Schlüssel>(Val(ui.cmbBericht->currentText().mid(ab)));
+    return protokollNrAus(ui.cmbBericht->currentText().mid(ab));
 }
 
 void Berichtsmaske::seitenSperren() {

@@ -20,8 +20,8 @@ frmBericht1::frmBericht1()
 }
 
 void frmBericht1::Form_Load() {
+    ui.pbDelete->setEnabled(false); // until a protocol is chosen, at once where there is one alone
     Berichtsmaske::Form_Load();
-    ui.pbDelete->setEnabled(false);
     ui.pbDeleteExt->setEnabled(exists(frm::DeleteExtended));
 }
 

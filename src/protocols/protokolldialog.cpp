@@ -15,11 +15,11 @@ bool Protokolldialog::spezifikationVorhanden() {
     if (spezifikationMitID(gToleranzID))
         return true;
     meldung({"Die Spezifikation dieses Rezepts wurde gelöscht, ohne sie kann nicht gemessen "
-             "werden.\rBitte brechen Sie ab und wählen Sie ein anderes Rezept, oder geben Sie die "
-             "Spezifikation neu ein und ordnen Sie sie dem Rezept zu.",
+             "werden.\rBitte brechen Sie ab und wählen Sie ein anderes Rezept, oder legen Sie "
+             "dieses mit einer Spezifikation neu an.",
              "The specification of this recipe has been deleted; without it nothing can be "
-             "measured.\rPlease cancel and choose another recipe, or enter the specification again "
-             "and assign it to the recipe."},
+             "measured.\rPlease cancel and choose another recipe, or enter this one anew with "
+             "a specification."},
             platform::Exclamation, {"Meldung", "Message"});
     return false;
 }

@@ -136,8 +136,9 @@ void blattLöschen(Inhalt blatt, Schlüssel protokollID) {
     gDatenbank.together([&] {
         inhaltLöschen(Bestand::Arbeit, blatt, protokollID);
         if (inhaltslos(Bestand::Arbeit, protokollID))
-            kopfLöschen(Bestand::Arbeit, protokollID);
+            kopfzeileLöschen(Bestand::Arbeit, protokollID);
     });
+    seitenOhneKopfAblegen(protokollID);
 }
 
 void sicherheitszeileAnlegen(Schlüssel protokollID) {

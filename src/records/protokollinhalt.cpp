@@ -49,9 +49,17 @@ void inhaltLöschen(Bestand bestand, Inhalt inhalt, Schlüssel protokollID) {
     zeilenLöschen(tabelle(bestand, inhalt), protokollID);
 }
 
-void kopfLöschen(Bestand bestand, Schlüssel protokollID) {
+void kopfzeileLöschen(Bestand bestand, Schlüssel protokollID) {
     zeilenLöschen(kopftabelle(bestand), protokollID);
-    const Bestand anderer = bestand == Bestand::Arbeit ? Bestand::Archiv : Bestand::Arbeit;
-    if (!kopfVorhanden(anderer, protokollID))
+}
+
+void seitenOhneKopfAblegen(Schlüssel protokollID) {
+    if (std::none_of(std::begin(alleBestände), std::end(alleBestände),
+                     [&](Bestand bestand) { return kopfVorhanden(bestand, protokollID); }))
         seitenAblegen(protokollID);
+}
+
+void kopfLöschen(Bestand bestand, Schlüssel protokollID) {
+    kopfzeileLöschen(bestand, protokollID);
+    seitenOhneKopfAblegen(protokollID);
 }

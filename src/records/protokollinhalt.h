@@ -20,5 +20,9 @@ bool kopfVorhanden(Bestand bestand, Schlüssel protokollID);
 bool inhaltslos(Bestand bestand, Schlüssel protokollID);
 
 void inhaltLöschen(Bestand bestand, Inhalt inhalt, Schlüssel protokollID);
-/// With it go the PDF files of its pages, unless the other table has the head, too.
+/// With it go the PDF files of its pages, unless the other table has the head, too. Not within
+/// statements that hold together: files do not come back with them.
 void kopfLöschen(Bestand bestand, Schlüssel protokollID);
+// The two halves of it, for such statements: within them, and behind them.
+void kopfzeileLöschen(Bestand bestand, Schlüssel protokollID);
+void seitenOhneKopfAblegen(Schlüssel protokollID);

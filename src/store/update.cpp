@@ -125,7 +125,8 @@ class Update {
             mStore.execute(
                 QString("UPDATE Messwerte%1 SET Soll_P = Soll_P WHERE ZulAbw IS NULL").arg(temp));
         }
-        mStore.execute("UPDATE Protokoll SET KundenID = KundenID WHERE Kunde IS NULL");
+        mStore.execute("UPDATE Protokoll SET KundenID = KundenID "
+                       "WHERE Kunde IS NULL AND IdentNr IS NULL"); // one of them is kept always
     }
 
     static Fehler outOfOrder(const QString &name) {

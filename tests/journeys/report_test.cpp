@@ -154,6 +154,7 @@ JOURNEY_P(Reports, OfferWhatAProtocolHasAndAskForTheArchive) {
         ? deleteReport?(12 - Alles) no ; pbDelete ; spoil DELETE Protokoll
         ? deleteReport?(12 - Alles) yes ; ? failed(1116, 3022) ; pbDelete ; mend
         ? deleteReport?(12 - Alles) yes ; pbDelete
+        key Escape ; @Desktop ; mnuProtVerw ; @Bericht1 ; can pbDelete OKButton
         cmbBericht == 7 - nur Blutdruck ; pages == (4)
         ? deleteReport?(7 - nur Blutdruck) yes ; pbDelete ; cannot OKButton pbDelete ; pages ==
         sql SELECT (SELECT count(*) FROM Protokoll), count(*) FROM Blutdruck == 0|0

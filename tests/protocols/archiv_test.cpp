@@ -95,6 +95,21 @@ TEST_F(Archiv, AFreedNumberMeetsNoForeignPages) {
     static const QRegularExpression abgelegt("^(5_EST(_[\\d-]+){2,3}.pdf ){5}5_Mess");
     EXPECT_TRUE(abgelegt.match(liegen("ersetzt")).hasMatch()) << liegen("ersetzt");
 
+    // A sheet that cannot be deleted keeps its head and its pages.
+    change("DELETE FROM Messwerte_temp");
+    change("DELETE FROM Blutdruck_temp");
+    gDatenbank.execute("INSERT INTO SecControl_temp (ProtokollID) VALUES (5)");
+    EXPECT_TRUE(QFile("Ablage/PDF/5/5_STK.pdf").open(QIODevice::WriteOnly));
+    {
+        Datenbank leser;
+        leser.openFile(datenbankName);
+        leser.execute("BEGIN");
+        leser.open("SELECT * FROM Protokoll_temp");
+        EXPECT_THROW(blattLöschen(Inhalt::SecControl, 5), Fehler);
+    }
+    EXPECT_EQ(bestand(), "1/0 0/0 1/0 0/0");
+    EXPECT_EQ(liegen("."), "5_STK.pdf Brief.pdf");
+
     // One that is archived keeps its pages, and where they cannot be moved they stay.
     gPDFOrdner = "Sitzung";
     QDir().mkpath("Sitzung/PDF/5");

@@ -140,7 +140,7 @@ inline constexpr KnownBox boxTexts[] = {
     {"torque", OKOnly, "Drehmoment<=60Nm", "Torque<=60Nm", "Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!", "The permissible torque has been exeeded!\r\nPlease enter other values!"},
     // protocols
     {"noProtocol", Exclamation, "Meldung", "Message", "Dieses Protokoll gibt es nicht!", "This protocol does not exist!"},
-    {"noSpecification", Exclamation, "Meldung", "Message", "Die Spezifikation dieses Rezepts wurde gelöscht, ohne sie kann nicht gemessen werden.\rBitte brechen Sie ab und wählen Sie ein anderes Rezept, oder geben Sie die Spezifikation neu ein und ordnen Sie sie dem Rezept zu.", "The specification of this recipe has been deleted; without it nothing can be measured.\rPlease cancel and choose another recipe, or enter the specification again and assign it to the recipe."},
+    {"noSpecification", Exclamation, "Meldung", "Message", "Die Spezifikation dieses Rezepts wurde gelöscht, ohne sie kann nicht gemessen werden.\rBitte brechen Sie ab und wählen Sie ein anderes Rezept, oder legen Sie dieses mit einer Spezifikation neu an.", "The specification of this recipe has been deleted; without it nothing can be measured.\rPlease cancel and choose another recipe, or enter this one anew with a specification."},
     {"protocolFailed", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1-  %2 …", "ERROR %1-  %2 …"},
     {"saveSheet", YesNo + Question, "Protokoll speichern", "Save", "Soll das Protokoll gespeichert werden?", "Shall the protocol be saved?"},
     {"pressureSaved", Information, " Bestätigung", "Confirmation!", " Daten wurden gespeichert. ", "Data have been saved!"},
