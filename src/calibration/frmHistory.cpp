@@ -90,6 +90,7 @@ void frmHistory::kurvenAnlegen() {
     plot.setDots(Links, Plot::Dots::Squares);
     plot.setDots(Marke, Plot::Dots::Ring);
     plot.setAccessibleName(inSprache({"Verlauf der Abweichungen", "Differences over time"}));
+    plot.setLegendAbove(); // it would hide the newest values
     plot.showDates("dd.MM.yyyy");
     plot.setAxisLabel(Plot::Y, inSprache({"Abweichung von der Referenz in N m",
                                           "Difference to the reference in N m"}));

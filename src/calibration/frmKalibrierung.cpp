@@ -76,6 +76,7 @@ void frmKalibrierung::Form_Load() try {
     ui.pbHistory->setEnabled(exists(frm::History));
     for (Bild *zeichen : {ui.anzEinlaufen, ui.anzKorrektur, ui.anzSeite1, ui.anzSeite2})
         zeichen->zeige(Zeichen::Kein, inSprache({"offen", "open"}));
+    tiEinlauf.setEnabled(false); // of the desktop: only pbStart leads on, behind its checks
     gDrehrichtung = 1;
     hauptfenster().showDrehrichtung(inSprache({"Rechtslauf", "Right"}));
     ui.laDrehrichtung->setText(inSprache({"Rechtslauf", "Right-Handed Rotation"}));

@@ -91,7 +91,7 @@ void frmMomentKal::Form_Activate() try {
     }
     setFocus();
     const Lauf lauf = fnc_MomentMessen();
-    if (!unloaded())
+    if (!unloaded() && gDesktopAktiv)
         ergebnisZeigen(lauf);
 } catch (const Fehler &fehler) {
     fehlerBox("4030 - ", fehler);
@@ -132,6 +132,7 @@ frmMomentKal::Lauf frmMomentKal::fnc_MomentMessen() try {
     else
         gRechts = letzte.rechts;
     mSeiten[platz(urteil.seite)] = urteil;
+    mZuletzt = urteil.seite;
     seiteZeigen(urteil);
     if (urteil.inOrdnung())
         return Lauf::InOrdnung;
@@ -226,24 +227,29 @@ void frmMomentKal::pbWeiter_Click() {
         return;
     }
     gFormStatus = Formstatus::ZweiteSeite;
-    montieren({"Montieren Sie den Hebelarm auf der anderen Seite.",
-               "Mount lever arm on the other side."});
+    montieren(
+        {"Montieren Sie den Hebelarm auf der anderen Seite.", "Mount lever arm on the other side."},
+        mSeiten[platz(Seite::Links)] ? Seite::Rechts : Seite::Links);
 }
 
 void frmMomentKal::pbWiederholen_Click() {
+    const Seite seite = außerhalb(Seite::Links)    ? Seite::Links
+                        : außerhalb(Seite::Rechts) ? Seite::Rechts
+                                                   : mZuletzt;
     gFormStatus = gemessen() == 2 ? Formstatus::ZweiteSeite : Formstatus::KorrekturFertig;
     montieren({"Montieren Sie den Hebelarm wie in der Bedienungsanleitung beschrieben.",
-               "Mount the lever arm as described in the Operating Instructions."});
+               "Mount the lever arm as described in the Operating Instructions."},
+              seite);
 }
 
 // Its closing brings the activation here, which measures.
-void frmMomentKal::montieren(const Text &text) {
+void frmMomentKal::montieren(const Text &text, Seite seite) {
     beep();
     auto &hinweis = form<frmNachStatNPK>();
     hinweis.anzeigen(
         vorbereitung,
         {text.german + '\r' + waagerecht.german, text.english + '\r' + waagerecht.english},
-        Anweisung::Hebelarm);
+        seite == Seite::Rechts ? Anweisung::HebelarmRechts : Anweisung::Hebelarm);
     hinweis.showModal();
 }
 
@@ -255,7 +261,7 @@ void frmMomentKal::speichern() {
                        ValBeider(ui.laStreu_R->text()),
                        ValBeider(ui.laStreu_L->text())});
     mErledigt = true;
-    fnc_HebelarmDatumLesen();
+    gefangen("4032 - ", [] { fnc_HebelarmDatumLesen(); })(); // the row is stored all the same
     if (auto *ablauf = loaded<frmKalibrierung>())
         ablauf->seitenZeigen(gemessen());
     unload();
@@ -280,6 +286,8 @@ void frmMomentKal::abbrechen() {
 void frmMomentKal::korrekturLaden() {
     disable();
     do {
+        if (!gDesktopAktiv)
+            return; // the end of the process does what is left
         if (!fnc_MotorAus() || !fnc_Reset())
             gStopMessung = true;
         if (gStopMessung &&

@@ -39,7 +39,7 @@ class frmMomentKal : public Screen {
     void weiterBeschriften();
     bool außerhalb(Seite seite) const;
     int gemessen() const;
-    void montieren(const platform::Text &text);
+    void montieren(const platform::Text &text, Seite seite);
     void speichern();
     void abbrechen();
     void korrekturLaden();
@@ -50,5 +50,6 @@ class frmMomentKal : public Screen {
 
     Ui::frmMomentKal ui;
     std::array<std::optional<Seitenurteil>, 2> mSeiten; ///< left, right
-    bool mErledigt = false; ///< closes without being cancelled: stored, or nothing to be had
+    Seite mZuletzt = Seite::Links; ///< measured last; before the first the arm is told to hang left
+    bool mErledigt = false;        ///< closes without being cancelled: stored, or nothing to be had
 };

@@ -18,8 +18,6 @@ constexpr int ersteZeile = 2; // below the heads, from 0
 constexpr int spalten = 6, betragSpalte = 6, diagrammSpalte = 7;
 constexpr int zeilenhöhe = 20, diagrammbreite = 720; // pixels
 constexpr int wenigsteZeilen = 18, meisteZeilen = 36;
-constexpr double große = 0.05, kleine = 0.01; // units of the value axis, N m
-constexpr int meisteStriche = 20;
 constexpr int randTage = 30;
 
 enum Format { Titel, Kopf, Datum, Drei, Vier };
@@ -155,9 +153,7 @@ Momente zeilenEintragen(const Recordset &historie, const Tage &tage, const Seite
 
 ValueAxis wertachse(const Bereich &betrag) {
     const Achse grenzen = achsengrenzen(betrag.größter, betrag.kleinster);
-    if (grenzen.oben - grenzen.unten > meisteStriche * große)
-        return {grenzen.unten, grenzen.oben}; // the units would lie too close
-    return {grenzen.unten, grenzen.oben, große, kleine};
+    return {grenzen.unten, grenzen.oben};
 }
 
 /// The axis knows no sign: a side whose moments have one is drawn by its magnitudes, from a column

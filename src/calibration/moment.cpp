@@ -50,11 +50,11 @@ double fnc_Streuung(const std::vector<double> &momente, double mittelwert) {
 
 Seitenurteil seiteBeurteilen(double mittel, double streuung, const Hebelarmmomente &referenz,
                              double grenzwert) {
-    if (std::fabs(mittel) < kleinstesMoment)
+    if (!(std::fabs(mittel) >= kleinstesMoment)) // nor is what is no number
         return {};
     Seitenurteil urteil{mittel < 0 ? Seite::Links : Seite::Rechts, mittel, streuung, 0, {}, false};
     urteil.differenz = mittel - (mittel < 0 ? referenz.links : referenz.rechts);
     urteil.balken = driftBalken(urteil.differenz * mNmJeNm, momentGrenze, false);
-    urteil.streuungZuGroß = streuung > grenzwert;
+    urteil.streuungZuGroß = !(streuung <= grenzwert);
     return urteil;
 }

@@ -112,6 +112,7 @@ void controllerVorbereiten() {
 
 bool fnc_BefehlSenden(const QString &command, std::int16_t direction, const QString &value) try {
     const Exchange exchange;
+    MSComm1.recover();
     if (!MSComm1.PortOpen())
         MSComm1.setPortOpen(true);
     send("-");
@@ -194,6 +195,7 @@ bool fnc_TimeoutAbfragen() {
 }
 
 void fnc_PortÖffnen() try {
+    MSComm1.recover();
     if (!MSComm1.PortOpen())
         MSComm1.setPortOpen(true);
 } catch (const Fehler &fehler) {

@@ -71,9 +71,16 @@ void joined(QPainter &painter) {
     arrow(painter, 138, 88, axis - 30);
 }
 
-void leverArm(QPainter &painter) {
-    constexpr double x = 164, y = 62;
-    machine(painter, QRectF(116, y - 46, 96, 92), inSprache({"Normal", "Normal"}));
+/// `mirrored`: all but the word.
+void leverArm(QPainter &painter, bool mirrored = false) {
+    constexpr double x = 164, y = 62, sheet = 220;
+    const QRectF body(116, y - 46, 96, 92);
+    const QRectF there(sheet - body.right(), body.top(), body.width(), body.height());
+    machine(painter, mirrored ? there : body, inSprache({"Normal", "Normal"}));
+    if (mirrored) {
+        painter.translate(sheet, 0);
+        painter.scale(-1, 1);
+    }
     painter.setPen(line(10, farben().text));
     painter.drawLine(QPointF(24, y), QPointF(x, y));
     painter.setPen(line(3, farben().text));
@@ -102,6 +109,9 @@ void anweisungZeigen(Bild &bild, Anweisung anweisung) {
     case Anweisung::Hebelarm:
         return bild.zeige([](QPainter &painter, const QRectF &) { leverArm(painter); },
                           inSprache({"Hebelarm waagerecht", "Lever arm level"}));
+    case Anweisung::HebelarmRechts:
+        return bild.zeige([](QPainter &painter, const QRectF &) { leverArm(painter, true); },
+                          inSprache({"Hebelarm waagerecht, rechts", "Lever arm level, right"}));
     case Anweisung::Halt:
         return bild.zeige(
             [](QPainter &painter, const QRectF &rect) {

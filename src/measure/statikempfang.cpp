@@ -25,6 +25,7 @@ std::optional<std::vector<double>> statikEmpfangen(const Statikstrom &strom,
         Timer1.setEnabled(false);
         gTimeoutTimer1 = false;
     });
+    fnc_PortÖffnen();
     countedDelay(kurzeVerzögerung);
     Timer1.setEnabled(false);
     Timer1.setInterval(streamMilliseconds);

@@ -171,11 +171,24 @@ void MSComm::setPortOpen(bool open) {
         throw Fehler(fehlernummer::PortIsOpen,
                      {"Der Anschluss ist bereits offen.", "The port is already open."});
     }
+    mDevice = opened();
+}
+
+std::unique_ptr<SerialDevice> MSComm::opened() const {
     const SerialSettings settings = SerialSettings::parse(mSettings);
     const QString location = serialLocation(mPort);
     auto device = deviceMaker ? deviceMaker(location) : std::make_unique<SystemPort>(location);
     device->open(settings);
-    mDevice = std::move(device);
+    return device;
+}
+
+void MSComm::recover() {
+    if (!mDevice || !mDevice->lost())
+        return;
+    try {
+        mDevice = opened();
+    } catch (const Fehler &) { // it is away still
+    }
 }
 
 SerialDevice &MSComm::device() {

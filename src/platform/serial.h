@@ -55,6 +55,9 @@ class MSComm {
     void setSettings(const QString &settings);
 
     bool PortOpen() const { return mDevice != nullptr; }
+    /// Opens an open port anew whose device vanished while nobody talked and is back by now. One
+    /// that is not stays as it is: the next use tells it.
+    void recover();
     /// Opening a closed port raises NoSuchPort, PortInUse or PortSettings.
     void setPortOpen(bool open);
 
@@ -66,6 +69,7 @@ class MSComm {
 
   private:
     SerialDevice &device();
+    std::unique_ptr<SerialDevice> opened() const;
 
     std::unique_ptr<SerialDevice> mDevice;
     QString mSettings = "19200,N,8,1";

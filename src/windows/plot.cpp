@@ -22,7 +22,9 @@ Plot::Plot(QWidget *parent) : QWidget(parent), mPlot(new QCustomPlot(this)) {
     mPlot->setFocusPolicy(Qt::NoFocus);
     mPlot->setMouseTracking(true);
     mPlot->installEventFilter(this);
-    mPlot->setLocale(numberLocale());
+    // With the decimal sign that all other numbers have.
+    mPlot->setLocale(numberLocale().decimalPoint() == "," ? QLocale(QLocale::German)
+                                                          : QLocale::c());
     mPlot->legend->setVisible(true);
     setLook({farben().feld, farben().text, farben().linie});
 }

@@ -139,10 +139,6 @@ class Writer {
             chart_axis_set_min(chart->y_axis, model.axis->from);
             chart_axis_set_max(chart->y_axis, model.axis->to);
             chart_axis_set_crossing(chart->y_axis, model.axis->from);
-            if (model.axis->major > 0)
-                chart_axis_set_major_unit(chart->y_axis, model.axis->major);
-            if (model.axis->minor > 0)
-                chart_axis_set_minor_unit(chart->y_axis, model.axis->minor);
         }
         QByteArray name = model.name.toUtf8();
         lxw_chart_options options{};

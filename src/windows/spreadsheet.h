@@ -36,8 +36,7 @@ struct ScatterSeries {
 };
 
 struct ValueAxis {
-    double from = 0, to = 0;     ///< the dates cross it at `from`
-    double major = 0, minor = 0; ///< units; 0 leaves them to the spreadsheet program
+    double from = 0, to = 0; ///< the dates cross it at `from`
 };
 
 /// A scatter chart, so that distances in time hold.

@@ -149,7 +149,6 @@ TEST_F(History, FillsBothSheetsCellByCell) {
         EXPECT_DOUBLE_EQ(chart(right).axis->from, 29.956);
         EXPECT_DOUBLE_EQ(chart(left).axis->from, 29.84);
         EXPECT_DOUBLE_EQ(chart(left).axis->to, 30.06);
-        EXPECT_DOUBLE_EQ(chart(left).axis->major, 0.05);
         EXPECT_EQ(chart(right).series.size(), 1u);
         EXPECT_EQ(chart(right).series[0].lastRow, 4);
         EXPECT_EQ(chart(left).series[1].values, 6); // below the axis the values would not be seen

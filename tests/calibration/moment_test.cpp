@@ -51,7 +51,7 @@ TEST(Moment, SpreadIsTheDeviationOfTheMean) {
 TEST(Moment, SideAndLimits) {
     const Hebelarmmomente reference{30.1, -29.9};
     // mean, spread -> side, difference in mN m, red, spread too great; limit of the spread 0.02
-    for (const auto &c : cases("-19.999, 0 -> none "
+    for (const auto &c : cases("-19.999, 0 -> none | nan, 0 -> none | 30.1, nan -> right, 0, wide "
                                "| 19.999, 0 -> none "
                                "| -20, 0 -> left, 9900, red "
                                "| 20, 0 -> right, -10100, red "

@@ -177,6 +177,25 @@ JOURNEY_P(LeverArm, ReferenceAndStoreThatFailLater) {
         pbWeiter ; @Kalibrierung ; new == 1)");
 }
 
+// What the desktop's running-in left does not lead past the checks of the start, and a line that
+// was away between two sides is found again.
+JOURNEY_P(LeverArm, RunningInOfTheDesktopAndALineThatWasAway) {
+    co_await go(R"(
+        select ; direction ; pbMotein ; pass 3000 ; mnuKalibrierung ; @Kalibrierung ; pass 620000
+        front == Kalibrierung ; stage == 2 ; notice == ; motor ~ ^on.*60$ ; pbAbbrechen ; @Desktop ; motor ~ off
+        mounted left ; run ; pbWeiter ; @NachStatNPK ; line out ; pass 500 ; line in
+        picture == Hebelarm waagerecht, rechts | Lever arm level, right
+        hang right ; run ; can pbWeiter ; pbWeiter ; @Kalibrierung ; new == 1)");
+}
+
+// Told to end while the question stands, the process ends.
+JOURNEY(LeverArm, EndOfTheProcessUnderTheQuestion) {
+    co_await go("login ; mounted left ; run ; stand fault silent on");
+    boxes.expect("Die Kalibrierung wurde abgebrochen", "", -1, platform::OK, beendenOhneFrage);
+    co_await go("pbAbbrechen ; pass 100 ; wireNow ~ ^.{0,200}$");
+    EXPECT_FALSE(gDesktopAktiv);
+}
+
 // The running-in ends under another screen; a start that fails; a direction taken back.
 JOURNEY_P(LeverArm, TheStart) {
     co_await go(R"(

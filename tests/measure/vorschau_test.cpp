@@ -165,7 +165,8 @@ TEST_F(Picture, OfARing) { // above and below the middle, left | right
 TEST_F(Picture, OfAnInstruction) { // its arrow, the axis, and below
     for (const Case &c : cases("0 -> T.T_ T.T.T.T.T_T.T.T.T.T T.T.T_T_T.T.T.T"
                                " | 1 -> T.T_A_ T.T.T.T.T.T.T.T.T T.T.T_T.T.T.T"
-                               " | 2 -> _ _T.T.T_ _T_T.T.T_ | 3 -> _- _-.-_ _-.-_")) {
+                               " | 2 -> _ _T.T.T_ _T_T.T.T_ | 3 -> _T.T_ _T.T.T_ _T.T.T_T_ "
+                               "| 4 -> _- _-.-_ _-.-_")) {
         platform::Bild picture;
         anweisungZeigen(picture, Anweisung(c.in.toInt()));
         const QImage image = painted(picture, {220, 150});

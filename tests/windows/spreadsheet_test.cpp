@@ -46,7 +46,7 @@ Workbook example() {
                      .title = "Wärme",
                      .width = 480,
                      .height = 288,
-                     .axis = ValueAxis{9.98, 10.02, 0.05, 0.01},
+                     .axis = ValueAxis{9.98, 10.02},
                      .dates = std::pair{QDate(2026, 1, 1), QDate(2027, 1, 1)},
                      .series = {{.name = "Werte", .firstRow = 2, .lastRow = 3}}}};
     book.sheets = {sheet, {.name = "Leer"}};
@@ -74,8 +74,7 @@ TEST(Spreadsheet, AnotherProgramReadsWhatWasWritten) {
     holds("xl/charts/chart1.xml",
           {"<c:scatterChart>", "<c:f>'Rückblick'!$A$3:$A$4</c:f>",
            "<c:f>'Rückblick'!$B$3:$B$4</c:f>", "<c:max val=\"10.02\"/>", "<c:min val=\"9.98\"/>",
-           "<c:crossesAt val=\"9.98\"/>", "<c:majorUnit val=\"0.05\"/>",
-           "<c:minorUnit val=\"0.01\"/>", "formatCode=\"dd.mm.yyyy\"", "<c:min val=\"46023\"/>",
+           "<c:crossesAt val=\"9.98\"/>", "formatCode=\"dd.mm.yyyy\"", "<c:min val=\"46023\"/>",
            "<c:max val=\"46388\"/>", "Wärme"});
     holds("xl/drawings/drawing1.xml", {"descr=\"Diagramm 2\""});
 }
