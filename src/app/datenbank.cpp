@@ -8,6 +8,7 @@
 #include "session/sprache.h"
 #include "store/database.h"
 #include "store/scripts.h"
+#include "store/swap.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -32,7 +33,9 @@ void aufStandBringen() {
 } // namespace
 
 std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) try {
+    recoverDatabaseName();
     gDatenbank.openFile(datenbankName);
+    clearLeftovers(); // of a swap that was stopped
     if (datenbankVeraltet(gDatenbank))
         aufStandBringen();
     return 0;

@@ -28,8 +28,10 @@ namespace fehlernummer {
 inline constexpr int Overflow = 6;
 inline constexpr int DivisionByZero = 11;
 inline constexpr int TypeMismatch = 13;
+inline constexpr int UserInterrupt = 18;
 inline constexpr int FileNotFound = 53;
 inline constexpr int PermissionDenied = 70;
+inline constexpr int PathAccess = 75;
 inline constexpr int InvalidUseOfNull = 94;
 inline constexpr int LayoutBroken = 321;
 inline constexpr int NoSuchScreen = 401;

@@ -9,6 +9,7 @@
 
 #include "platform/fehler.h"
 #include "store/database.h"
+#include "store/rowcopy.h"
 #include "store/scripts.h"
 
 namespace {
@@ -55,6 +56,18 @@ int setUp(const QString &directory, bool demo) {
     return Done;
 }
 
+int makeUpdate(const QString &file, const QString &version) {
+    if (!updateVersions.contains(version))
+        return complain("the versions are " + updateVersions.join(", ") + '.');
+    try {
+        legeUpdateAn(file, version);
+    } catch (const Fehler &fehler) {
+        return complain(fehler.text().english);
+    }
+    QTextStream(stdout) << file << '\n';
+    return Done;
+}
+
 } // namespace
 
 int main(int argc, char **argv) {
@@ -70,13 +83,26 @@ int main(int argc, char **argv) {
         "of this build. Its rows stay as they are.\n"
         "Exit code: 0 done, 1 failed; the database is then as it was.");
     parser.addPositionalArgument("DIR", "The working directory; it is made when it is missing.");
+    parser.addPositionalArgument("VERSION", "With --update: " + updateVersions.join(", ") + '.',
+                                 "[VERSION]");
     const QCommandLineOption demo(
         "demo", "Give a new database sample customers, units, recipes and protocols.");
     parser.addOption(demo);
+    const QCommandLineOption update(
+        "update",
+        "Make an update file instead, by the name of torvena470_neu.mdb as a rule. The version "
+        "says what of a database moves over: 470, every table, unless another is named.",
+        "FILE");
+    parser.addOption(update);
     parser.addHelpOption();
     parser.process(app);
 
     const QStringList directories = parser.positionalArguments();
+    if (parser.isSet(update)) {
+        if (directories.size() > 1)
+            return complain("name one file and one version. --help tells more.");
+        return makeUpdate(parser.value(update), directories.value(0, updateVersions.last()));
+    }
     if (directories.size() != 1)
         return complain("name one directory. --help tells more.");
     return setUp(directories.first(), parser.isSet(demo));

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QScopeGuard>
 
+#include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/SQLiteCpp.h>
 #include <sqlite3.h>
 
@@ -45,6 +46,8 @@ Fehler fehlerOf(const SQLite::Exception &problem) {
         return {fehlernummer::DuplicateKey,
                 {"Der Datensatz verletzt einen Schlüssel: " + words,
                  "The record violates a key: " + words}};
+    case SQLITE_INTERRUPT:
+        return {fehlernummer::UserInterrupt, {"Abgebrochen.", "Cancelled."}};
     default:
         break;
     }
@@ -147,6 +150,24 @@ void Datenbank::createFile(const QString &path, const std::vector<QString> &scri
     });
 }
 
+void Datenbank::copyFile(const QString &from, const QString &to,
+                         const std::function<bool()> &goesOn) {
+    translated([&] {
+        constexpr int pages = 500; // of 4 KB
+        SQLite::Database source(from.toStdString(), SQLite::OPEN_READONLY, busyMilliseconds);
+        source.execAndGet("SELECT count(*) FROM sqlite_master"); // a file of another kind tells now
+        SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+        SQLite::Backup backup(target, source);
+        for (int came = SQLITE_OK; came != SQLITE_DONE;) {
+            if (goesOn && !goesOn())
+                throw SQLite::Exception("cancelled", SQLITE_INTERRUPT);
+            came = backup.executeStep(pages);
+            if (came == SQLITE_BUSY || came == SQLITE_LOCKED)
+                throw SQLite::Exception("locked", came);
+        }
+    });
+}
+
 bool fnc_DateiGeöffnet(const QString &path) {
     if (!QFileInfo::exists(path)) {
         throw Fehler(fehlernummer::FileNotFound, {"Die Datei " + path + " wurde nicht gefunden.",
@@ -242,4 +263,25 @@ void Datenbank::together(const std::function<void()> &statements) {
     statements();
     execute("COMMIT");
     undo.dismiss();
+}
+
+bool Datenbank::inTransaction() {
+    return sqlite3_get_autocommit(database().getHandle()) == 0;
+}
+
+void Datenbank::watch(std::function<bool(int)> goesOn) {
+    constexpr int steps = 20'000; // well below a millisecond
+    mGoesOn = std::move(goesOn);
+    const auto asked = [](void *self) {
+        return static_cast<Datenbank *>(self)->mGoesOn(steps) ? 0 : 1;
+    };
+    sqlite3_progress_handler(database().getHandle(), mGoesOn ? steps : 0,
+                             mGoesOn ? +asked : nullptr, this);
+}
+
+quint32 Datenbank::changeMark() {
+    open("SELECT 1 FROM sqlite_master"); // looks at the file
+    quint32 mark = 0;
+    sqlite3_file_control(database().getHandle(), "main", SQLITE_FCNTL_DATA_VERSION, &mark);
+    return mark;
 }

@@ -36,6 +36,10 @@ class Datenbank {
     void openFile(const QString &path);
     /// Makes a new file by running whole scripts in it, and closes it again.
     static void createFile(const QString &path, const std::vector<QString> &scripts);
+    /// Copies a database, which others and this process may have open, to a name under which there
+    /// is none. What is there of a copy that failed is the caller's to clear. See databasecopy.h.
+    static void copyFile(const QString &from, const QString &to,
+                         const std::function<bool()> &goesOn);
     void close();
     bool isOpen() const { return mDatabase != nullptr; }
 
@@ -50,6 +54,15 @@ class Datenbank {
     /// Runs statements of which all hold or none; they hold no second of these. What they raise
     /// goes on to the caller.
     void together(const std::function<void()> &statements);
+    /// False once a failure has undone what was begun with BEGIN, as a full disk does.
+    bool inTransaction();
+
+    /// Asked again and again while a statement runs, with the engine's steps between two times; it
+    /// raises nothing. False breaks the statement off with UserInterrupt, which undoes what was
+    /// begun. None without a function.
+    void watch(std::function<bool(int steps)> goesOn);
+    /// Another number after each change of the file, by whomever, since this one was opened.
+    quint32 changeMark();
 
   private:
     SQLite::Database &database();
@@ -57,6 +70,7 @@ class Datenbank {
     void registerFunctions();
 
     std::unique_ptr<SQLite::Database> mDatabase;
+    std::function<bool(int)> mGoesOn;
 };
 
 extern Datenbank gDatenbank;

@@ -3,6 +3,7 @@
 #include <QFile>
 
 #include "store/database.h"
+#include "store/rowcopy.h"
 
 using namespace platform;
 
@@ -22,9 +23,8 @@ QString sqlScript(const QString &name) {
     return QString::fromUtf8(file.readAll());
 }
 
-} // namespace
-
-std::vector<QString> databaseScripts(bool demo) {
+/// Tables, stored queries and the rows that every new file has.
+std::vector<QString> emptyScripts() {
     std::vector<QString> scripts{sqlScript("schema.sql")};
     for (const char *table : {"Rezepte", "ÄndRez_temp", "EP_Rezepte"})
         scripts.push_back(sqlScript("steps.sql").replace("{steps}", table));
@@ -32,17 +32,15 @@ std::vector<QString> databaseScripts(bool demo) {
         scripts.push_back(sqlScript("pairs.sql").replace("{temp}", temp).replace("{form}", form));
     scripts.push_back(sqlScript("queries.sql"));
     scripts.push_back(sqlScript("delivered.sql"));
-    if (demo)
-        scripts.push_back(sqlScript("demo.sql"));
     scripts.push_back(QString("PRAGMA user_version = %1").arg(datenbankStand));
     return scripts;
 }
 
-void legeDatenbankAn(const QString &path, bool demo) {
+void createWhole(const QString &path, const std::vector<QString> &scripts) {
     const QString unfinished = path + ".new";
     QFile::remove(unfinished);
     try {
-        Datenbank::createFile(unfinished, databaseScripts(demo));
+        Datenbank::createFile(unfinished, scripts);
     } catch (...) {
         QFile::remove(unfinished);
         throw;
@@ -53,4 +51,28 @@ void legeDatenbankAn(const QString &path, bool demo) {
                      {"Die Datei " + path + " kann nicht angelegt werden.",
                       "The file " + path + " cannot be created."});
     }
+}
+
+} // namespace
+
+std::vector<QString> databaseScripts(bool demo) {
+    std::vector<QString> scripts = emptyScripts();
+    scripts.push_back(sqlScript("instrument.sql"));
+    if (demo)
+        scripts.push_back(sqlScript("demo.sql"));
+    return scripts;
+}
+
+void legeDatenbankAn(const QString &path, bool demo) {
+    createWhole(path, databaseScripts(demo));
+}
+
+void legeUpdateAn(const QString &path, const QString &version) {
+    std::vector<QString> scripts = emptyScripts();
+    scripts.push_back(sqlScript("update.sql"));
+    for (const QString &known : updateVersions) {
+        scripts.push_back(QString("INSERT INTO ToDo (Funktion, ja) VALUES ('%1', %2)")
+                              .arg(known, QString::number(known == version ? -1 : 0)));
+    }
+    createWhole(path, scripts);
 }

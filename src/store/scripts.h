@@ -19,6 +19,10 @@ std::vector<QString> databaseScripts(bool demo);
 /// Fehler when it cannot be written.
 void legeDatenbankAn(const QString &path, bool demo);
 
+/// Makes an update file: a database without the rows of a stand, which asks for this version (one
+/// of updateVersions). Raises as legeDatenbankAn().
+void legeUpdateAn(const QString &path, const QString &version);
+
 /// Gives the database of an older build what is new: views and triggers afresh, tables with their
 /// delivered rows, columns at the end, indexes. Rows that are there stay as they are, but for those
 /// of a staging table whose columns are out of date. All or nothing. Raises Fehler, also for a file
