@@ -280,6 +280,7 @@ class Gallery : public Workplace {
         control<QTableView>(frm::History, "dbgHistory")->selectRow(3);
         picture("history");
         form(frm::History).unload();
+        co_await opened(frm::Refresh, "refresh");
         gMessStatus = Messstatus::Ruhe; // that dialog was left without a protocol
         gDesktopFolge = {};
 

@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "app/datenbank.h"
+#include "app/datenbanktausch.h"
 #include "link/anschluss.h"
 #include "link/controller.h"
 #include "link/einlauf.h"
@@ -297,7 +298,7 @@ void frmDesktop::Form_Unload() {
     tiEinlauf.setEnabled(false);
     Timer1.setEnabled(false);
     MSComm1.setPortOpen(false);
-    gDatenbank.close();
+    datenbankSchließenUndTauschen();
     QCoreApplication::exit(0); // other screens go with the process
 }
 

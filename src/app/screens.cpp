@@ -5,6 +5,7 @@
 #include "app/frmLogin.h"
 #include "app/frmMeldung1.h"
 #include "app/frmMotorDrehR.h"
+#include "app/frmRefresh.h"
 #include "app/frmSplash.h"
 #include "calibration/frmHistory.h"
 #include "calibration/frmKalibrierung.h"
@@ -48,6 +49,7 @@ void bindScreens() {
     bindScreen<frmDesktop>();
     bindScreen<frmMotorDrehR>();
     bindScreen<frmMeldung1>();
+    bindScreen<frmRefresh>();
     bindScreen<frmInterface>();
     bindScreen<frmEinlaufen>();
     bindScreen<frmKunden>();

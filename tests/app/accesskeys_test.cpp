@@ -208,6 +208,7 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
         @Einlaufen ; stop == Einlaufparameter | Running-In Parameters ; pbAbbrechen ; @Desktop
         pbBlutdruck ; @BlutdruckAbfrage ; obNeu ; stop == Protokoll wählen | Select Protocol ; pbok
         @Blutdruck ; stop ~ Protokoll 22 - |Protocol 22 -  ; pbexit ; @Desktop
+        mnuUpdate ; @Refresh ; stop == Datenbank aktualisieren | Update Database ; pbexit ; @Desktop
         pbSecControl ; @BlutdruckAbfrage ; obNeu ; pbok ; @SecControl
         stop ~ Protokoll 22 - |Protocol 22 -  ; pbexit ; @Desktop
         pbDrehR ; @MotorDrehR ; stop == Motor-Drehrichtung | Direction Of Rotation ; obLinks ; pbok

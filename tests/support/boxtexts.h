@@ -18,6 +18,15 @@ using namespace platform;
 // clang-format off
 inline constexpr KnownBox boxTexts[] = {
     {"broughtUp", Information, "Meldung", "Message", "Die Datenbank wurde auf den Stand dieses Programms gebracht.\rWie sie vorher war, liegt als torvena470_vor_…", "The database was brought up to date for this program.\rAs it was before, it lies beside it as torvena470_vor_…"},
+    // update of the database
+    {"noUpdateFile", Exclamation, "Achtung!", "Attention!", "Die ausgewählte Datenbank ist keine Update-Datenbank.\rDas Update kann nicht ausgeführt werden!", "The chosen database can not be used for updating the database.\rChoose another database (on the update disc)!"},
+    {"restart?", OKCancel + Exclamation, "Achtung!", "Restart", "Bitte starten Sie das Programm neu, um die aktualisierte Datenbank zu aktivieren! ", "To activate the new database restart the program, please!"},
+    {"otherUncertainties", Information, "Mitteilung!", "Attention!", "Die Messunsicherheiten der bisherigen Datenbank weichen von den ausgelieferten ab und wurden übernommen: %1", "The uncertainties of the database in use differ from the delivered ones and were taken over: %1"},
+    {"updateLocked", Exclamation, "Datenbank-Update", "Database Update", "Das Update der Datenbank kann nicht ausgeführt werden. Bitte schließen Sie alle Datenbanken und klicken auf 'OK'.", "The update of the database can not be finished. Please close all open databases and push 'OK'."},
+    {"update75", Critical, "Datenbank-Update", " Database Update", "Fehler 75 - Update konnte nicht ordnungsgemäß abgeschlossen werden. Bitte wenden Sie sich an die Hotline!", "Error 75 - The update could not be finished correctly. Please contact the hotline for help!"},
+    {"updateAnyway?", YesNo + Exclamation + SecondButtonDefault, "Datenbank-Update", "Database Update", "Die neue Datenbank stimmt nicht mit der bisherigen überein:\r%1…", "The new database does not match the one in use:\r%1…"},
+    {"updateFailure", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Mitteilung %1 -  %2 …", "ERROR %1 -  %2 …"},
+    {"updateFailed", Critical, "Mitteilung!", "Attention!", "Fehler R_10 -  %1 …", "ERROR R_10 -  %1 …"},
     // reports
     {"noProtocols", Exclamation, "Meldung", "Message", "Es existieren keine Protokolle!", "There are no protocols!"},
     {"noSuchReport", Exclamation, "Eingabefehler", "Input Error", "Dieses Protokoll existiert nicht!", "This protocol does not exist!"},
