@@ -273,6 +273,8 @@ class Gallery : public Workplace {
         control<QComboBox>(frm::Bericht1, "cmbBericht")->setCurrentIndex(0);
         picture("bericht1");
         form(frm::Bericht1).unload();
+        co_await opened(frm::Sort, "sort");
+        co_await opened(frm::DeleteExtended, "deleteextended");
         co_await opened(frm::PrinterPDF, "printerpdf");
         co_await opened(frm::BerichtSichern, "berichtsichern");
         form(frm::History).show();

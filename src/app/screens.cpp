@@ -42,6 +42,8 @@
 #include "protocols/frmProtokollNr.h"
 #include "protocols/frmProtokollNr_1.h"
 #include "protocols/frmSecControl.h"
+#include "recall/frmDeleteExtended.h"
+#include "recall/frmSort.h"
 
 void bindScreens() {
     bindScreen<frmSplash>();
@@ -84,5 +86,7 @@ void bindScreens() {
     bindScreen<frmBlutdruckAbfrage>();
     bindScreen<frmBlutdruck>();
     bindScreen<frmSecControl>();
+    bindScreen<frmSort>();
+    bindScreen<frmDeleteExtended>();
     bindScreen<frmHistory>();
 }

@@ -16,7 +16,10 @@ frmBericht1::frmBericht1()
                      .druckTag = "1115 - "}) {
     on(ui.cmbKunde, &QComboBox::activated, [this] { kundeGewählt(); });
     onClick(ui.pbDelete, [this] { pbDelete_Click(); });
-    onClick(ui.pbDeleteExt, [] { form(frm::DeleteExtended).showModal(); });
+    onClick(ui.pbDeleteExt, [this] {
+        mNeuLesen = true;
+        form(frm::DeleteExtended).showModal();
+    });
 }
 
 void frmBericht1::Form_Load() {
@@ -25,7 +28,19 @@ void frmBericht1::Form_Load() {
     ui.pbDeleteExt->setEnabled(exists(frm::DeleteExtended));
 }
 
+/// Behind the extended deletion only what is left is offered.
+void frmBericht1::Form_Activate() {
+    if (std::exchange(mNeuLesen, false)) {
+        gBerichtProtokoll = 0;
+        fnc_ProtokollListe();
+    }
+    Berichtsmaske::Form_Activate();
+}
+
 void frmBericht1::fnc_ProtokollListe() try {
+    ui.cmbKunde->clear();
+    eintragen({}, false);
+    seitenSperren();
     const QStringList kunden = archivkunden();
     mbKeineProtokolle = kunden.isEmpty();
     ui.cmbKunde->addItems(kunden);

@@ -10,10 +10,13 @@ class frmBericht1 : public Berichtsmaske {
 
   protected:
     void Form_Load() override;
+    void Form_Activate() override;
     void fnc_ProtokollListe() override;
     void auswahlGeändert() override;
 
   private:
     void kundeGewählt();
     void pbDelete_Click();
+
+    bool mNeuLesen = false; ///< the archive may have changed since the lists were filled
 };

@@ -1,11 +1,14 @@
 #include "records/protokollinhalt.h"
 
 #include <algorithm>
+#include <exception>
 
 #include "records/berichtsdateien.h"
 #include "store/database.h"
 
 namespace {
+
+constexpr size_t köpfeJeSchub = 25; // that are written to the disk at once
 
 QString endung(Bestand bestand) {
     return bestand == Bestand::Arbeit ? "_temp" : "";
@@ -62,4 +65,24 @@ void seitenOhneKopfAblegen(Schlüssel protokollID) {
 void kopfLöschen(Bestand bestand, Schlüssel protokollID) {
     kopfzeileLöschen(bestand, protokollID);
     seitenOhneKopfAblegen(protokollID);
+}
+
+void archivköpfeLöschen(std::span<const Schlüssel> protokolle,
+                        const std::function<void(int gelöscht)> &zwischendurch) {
+    for (size_t von = 0, bis = 0; von < protokolle.size(); von = bis) {
+        std::exception_ptr gescheitert;
+        gDatenbank.together([&] {
+            try {
+                for (; bis < std::min(von + köpfeJeSchub, protokolle.size()); ++bis)
+                    kopfzeileLöschen(Bestand::Archiv, protokolle[bis]);
+            } catch (const Fehler &) {
+                gescheitert = std::current_exception(); // what went before it stays gone
+            }
+        });
+        for (size_t weg = von; weg < bis; ++weg)
+            seitenOhneKopfAblegen(protokolle[weg]);
+        if (gescheitert)
+            std::rethrow_exception(gescheitert);
+        zwischendurch(static_cast<int>(bis));
+    }
 }

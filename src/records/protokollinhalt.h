@@ -3,6 +3,9 @@
 
 #include <QString>
 
+#include <functional>
+#include <span>
+
 #include "session/session.h"
 
 enum class Bestand { Arbeit, Archiv };
@@ -26,3 +29,7 @@ void kopfLöschen(Bestand bestand, Schlüssel protokollID);
 // The two halves of it, for such statements: within them, and behind them.
 void kopfzeileLöschen(Bestand bestand, Schlüssel protokollID);
 void seitenOhneKopfAblegen(Schlüssel protokollID);
+/// The same with many archived heads, in turn; `zwischendurch` is told from time to time how many
+/// are gone. A failure is raised and leaves what went before it deleted.
+void archivköpfeLöschen(std::span<const Schlüssel> protokolle,
+                        const std::function<void(int gelöscht)> &zwischendurch);

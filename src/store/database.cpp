@@ -100,6 +100,21 @@ void bind(SQLite::Statement &statement, int index, const QVariant &given) {
         statement.bind(index, value.toString().toStdString());
 }
 
+void bind(sqlite3_stmt *statement, int index, const QVariant &given) {
+    const QVariant value = stored(given);
+    if (value.isNull()) {
+        sqlite3_bind_null(statement, index);
+    } else if (value.typeId() == QMetaType::Double || value.typeId() == QMetaType::Float) {
+        sqlite3_bind_double(statement, index, value.toDouble());
+    } else if (value.canConvert<qlonglong>() && value.typeId() != QMetaType::QString) {
+        sqlite3_bind_int64(statement, index, value.toLongLong());
+    } else {
+        const QByteArray text = value.toString().toUtf8();
+        sqlite3_bind_text(statement, index, text.constData(), static_cast<int>(text.size()),
+                          SQLITE_TRANSIENT);
+    }
+}
+
 QVariant valueOf(const SQLite::Column &column) {
     if (column.isNull())
         return {};
@@ -116,6 +131,53 @@ QString textOf(sqlite3_value *value) {
 }
 
 } // namespace
+
+bool Row::isNull(int column) const {
+    return sqlite3_column_type(mStatement, column) == SQLITE_NULL;
+}
+
+qlonglong Row::whole(int column) const {
+    return sqlite3_column_int64(mStatement, column);
+}
+
+std::string_view Row::bytes(int column) const {
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(mStatement, column));
+    if (!text)
+        return {"", 0};
+    return {text, static_cast<size_t>(sqlite3_column_bytes(mStatement, column))};
+}
+
+QString Row::text(int column) const {
+    const std::string_view text = bytes(column);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+Query::Query(Datenbank &database, const QString &sql) {
+    translated([&] {
+        sqlite3 *handle = database.database().getHandle();
+        const QByteArray text = sql.toUtf8();
+        if (const int came = sqlite3_prepare_v2(
+                handle, text.constData(), static_cast<int>(text.size()), &mStatement, nullptr))
+            throw SQLite::Exception(handle, came);
+    });
+}
+
+Query::~Query() {
+    sqlite3_finalize(mStatement);
+}
+
+void Query::each(const Datenbank::Params &params, const std::function<void(const Row &)> &row) {
+    translated([&] {
+        const auto rest = qScopeGuard([this] { sqlite3_reset(mStatement); });
+        for (size_t i = 0; i < params.size(); ++i)
+            bind(mStatement, static_cast<int>(i) + 1, params[i]);
+        int came = SQLITE_ROW;
+        while ((came = sqlite3_step(mStatement)) == SQLITE_ROW)
+            row(Row(mStatement));
+        if (came != SQLITE_DONE)
+            throw SQLite::Exception(sqlite3_db_handle(mStatement), came);
+    });
+}
 
 Datenbank::Datenbank() = default;
 Datenbank::~Datenbank() = default;
@@ -134,6 +196,7 @@ void Datenbank::openFile(const QString &path) {
         // Reads, so that a damaged file tells now. One without tables was cut off to nothing.
         if (database->execAndGet("SELECT count(*) FROM sqlite_master").getInt() == 0)
             throw SQLite::Exception("no tables", SQLITE_CORRUPT);
+        database->exec("PRAGMA cache_size=-32768");   // KiB; the tables of a search stay in it
         database->exec("PRAGMA journal_mode=DELETE"); // a copy of the file holds all data
         mDatabase = std::move(database);
         registerFunctions();
@@ -243,6 +306,20 @@ Recordset Datenbank::open(const QString &sql, const Params &params) {
         }
         return Recordset(std::move(columns), std::move(rows));
     });
+}
+
+void Datenbank::each(const QString &sql, const Params &params,
+                     const std::function<void(const Row &)> &row) {
+    Query(*this, sql).each(params, row);
+}
+
+void Datenbank::snapshot(const std::function<void()> &statements) {
+    execute("BEGIN");
+    const auto end = qScopeGuard([this] {
+        if (mDatabase)
+            mDatabase->tryExec("COMMIT"); // nothing was written
+    });
+    statements();
 }
 
 int Datenbank::execute(const QString &sql, const Params &params) {

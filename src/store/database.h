@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include "platform/fehler.h"
@@ -20,6 +21,23 @@ namespace SQLite {
 class Database;
 class Statement;
 } // namespace SQLite
+struct sqlite3_stmt;
+
+/// The row at which a running statement stands. Nothing of it is copied: it is gone with the next
+/// one. Columns count from 0.
+class Row {
+  public:
+    explicit Row(sqlite3_stmt *statement) : mStatement(statement) {}
+
+    bool isNull(int column) const;
+    qlonglong whole(int column) const;
+    /// UTF-8 with a zero behind it; empty for null.
+    std::string_view bytes(int column) const;
+    QString text(int column) const;
+
+  private:
+    sqlite3_stmt *mStatement;
+};
 
 class Datenbank {
   public:
@@ -46,6 +64,12 @@ class Datenbank {
     /// A snapshot of the rows. Raises MissingTable, MissingColumn, or StatementFailed with the
     /// engine's words.
     Recordset open(const QString &sql, const Params &params = {});
+    /// Hands over row by row what open() would answer, for results of many rows. Raises as open().
+    void each(const QString &sql, const Params &params,
+              const std::function<void(const Row &)> &row);
+    /// Runs reading statements that all see the same state; many of them run faster so. They hold
+    /// no second of these.
+    void snapshot(const std::function<void()> &statements);
     /// Writes and answers how many rows were touched. Raises DuplicateKey besides those of open().
     int execute(const QString &sql, const Params &params = {});
     /// Writes one new row and answers its key, which may be greater than the session can hold.
@@ -65,12 +89,29 @@ class Datenbank {
     quint32 changeMark();
 
   private:
+    friend class Query;
+
     SQLite::Database &database();
     SQLite::Statement prepare(const QString &sql, const Params &params);
     void registerFunctions();
 
     std::unique_ptr<SQLite::Database> mDatabase;
     std::function<bool(int)> mGoesOn;
+};
+
+/// A reading statement that is prepared once and run many times. It must not outlive the opening of
+/// its database. All raise as Datenbank::open().
+class Query {
+  public:
+    Query(Datenbank &database, const QString &sql);
+    ~Query();
+    Query(const Query &) = delete;
+    Query &operator=(const Query &) = delete;
+
+    void each(const Datenbank::Params &params, const std::function<void(const Row &)> &row);
+
+  private:
+    sqlite3_stmt *mStatement = nullptr;
 };
 
 extern Datenbank gDatenbank;

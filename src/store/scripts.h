@@ -24,10 +24,10 @@ void legeDatenbankAn(const QString &path, bool demo);
 void legeUpdateAn(const QString &path, const QString &version);
 
 /// Gives the database of an older build what is new: views and triggers afresh, tables with their
-/// delivered rows, columns at the end, indexes. Rows that are there stay as they are, but for those
-/// of a staging table whose columns are out of date. All or nothing. Raises Fehler, also for a file
-/// that is none of the program's, and where a new column would stand in another place than rows
-/// are moved or read by.
+/// delivered rows, columns at the end, indexes in the place of those that they supersede. Rows that
+/// are there stay as they are, but for those of a staging table whose columns are out of date. All
+/// or nothing. Raises Fehler, also for a file that is none of the program's, and where a new column
+/// would stand in another place than rows are moved or read by.
 void bringeDatenbankAufStand(const QString &path);
 
 /// Whether an open database is of an older build than this one.

@@ -53,6 +53,22 @@ QDate datumAus(const QString &iso) {
     return QDate::fromString(iso.left(10), Qt::ISODate);
 }
 
+QDate datumAus(std::string_view iso) {
+    constexpr size_t length = 10;
+    if (iso.size() < length || iso[4] != '-' || iso[7] != '-')
+        return {};
+    const auto number = [iso](size_t from, size_t to) {
+        int value = 0;
+        for (; from < to; ++from) {
+            if (iso[from] < '0' || iso[from] > '9')
+                return -1;
+            value = value * 10 + iso[from] - '0';
+        }
+        return value;
+    };
+    return {number(0, 4), number(5, 7), number(8, length)}; // invalid for what is none
+}
+
 QString datumText(const QDate &datum) {
     return datum.toString("dd.MM.yyyy");
 }

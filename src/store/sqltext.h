@@ -4,6 +4,8 @@
 #include <QDateTime>
 #include <QString>
 
+#include <string_view>
+
 /// True when the whole text fits the pattern: `*` any run of letters, `?` exactly one, without
 /// regard to case. Every other character stands for itself.
 bool passtZumMuster(const QString &muster, const QString &text);
@@ -13,6 +15,7 @@ QString musterAusdruck(const QString &muster);
 
 /// The date of an ISO text with or without a time; invalid when there is none.
 QDate datumAus(const QString &iso);
+QDate datumAus(std::string_view iso);
 
 /// dd.mm.yyyy; empty for an invalid date.
 QString datumText(const QDate &datum);

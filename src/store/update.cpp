@@ -19,6 +19,10 @@ namespace {
 // Cleared and filled by position from a view before each print.
 const QStringList stagingTables{"Bericht1", "Bericht2", "Bericht3", "Bericht4", "EP_Bericht5"};
 
+// Others have all that they had, and more.
+const QStringList supersededIndexes{"ErgometerKundenID", "ProtokollKundenID", "ProtokollGerätID",
+                                    "Protokoll_tempKundenID", "Protokoll_tempGerätID"};
+
 // Rows move between them by position.
 const std::pair<const char *, const char *> pairs[] = {
     {"Protokoll_temp", "Protokoll"}, {"Messwerte_temp", "Messwerte"},
@@ -52,6 +56,8 @@ class Update {
             if (!same(columnsOf("main", from), columnsOf("main", to)))
                 throw outOfOrder(to);
         }
+        for (const QString &index : supersededIndexes)
+            mStore.execute("DROP INDEX IF EXISTS main." + index);
         for (const char *type : {"index", "view", "trigger"}) {
             forEach(type, [&](const QString &name, const QString &sql) {
                 if (!exists(type, name))

@@ -4,10 +4,13 @@
 #include <QFile>
 #include <QUrl>
 
+#include <algorithm>
 #include <cmath>
+#include <exception>
 #include <xlsxwriter.h>
 
 #include "platform/export.h"
+#include "platform/fehler.h"
 
 namespace platform {
 
@@ -42,6 +45,43 @@ double serial(const QDate &date) {
 QByteArray shown(const QString &text) {
     return text.size() > longestText ? text.left(longestText).toUtf8() : text.toUtf8();
 }
+
+class Rows : public RowWriter {
+  public:
+    Rows(lxw_worksheet *page, const std::vector<lxw_format *> &formats, size_t row)
+        : mPage(page), mFormats(formats), mRow(static_cast<lxw_row_t>(row)) {}
+
+    void text(std::string_view utf8, int format) override {
+        if (utf8.empty())
+            worksheet_write_blank(mPage, mRow, mColumn++, formatOf(format));
+        else if (utf8.size() <= size_t{longestText})
+            worksheet_write_string(mPage, mRow, mColumn++, utf8.data(), formatOf(format));
+        else
+            worksheet_write_string(
+                mPage, mRow, mColumn++,
+                shown(QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size())))
+                    .constData(),
+                formatOf(format));
+    }
+    void date(const QDate &date, int format) override {
+        lxw_datetime lxw = lxwDate(date);
+        worksheet_write_datetime(mPage, mRow, mColumn++, &lxw, formatOf(format));
+    }
+    void endRow() override {
+        ++mRow;
+        mColumn = 0;
+    }
+
+  private:
+    lxw_format *formatOf(int format) const {
+        return format < 0 ? nullptr : mFormats[static_cast<size_t>(format)];
+    }
+
+    lxw_worksheet *mPage;
+    const std::vector<lxw_format *> &mFormats;
+    lxw_row_t mRow;
+    lxw_col_t mColumn = 0;
+};
 
 class Writer {
   public:
@@ -88,6 +128,10 @@ class Writer {
             for (const Cell &cell : cells)
                 write(page, row, column++, cell);
             ++row;
+        }
+        if (sheet.more) {
+            Rows rows(page, mFormats, sheet.rows.size());
+            sheet.more(rows);
         }
         for (const DateChart &chart : sheet.charts)
             write(page, name, chart);
@@ -173,14 +217,27 @@ Sheet *Workbook::sheet(const QString &name) {
 }
 
 void writeWorkbook(const Workbook &workbook, const QString &path) {
-    lxw_workbook *book = workbook_new(QFile::encodeName(path).constData());
+    // Rows that come one after the other are not kept, either.
+    const bool inTurn = std::any_of(workbook.sheets.begin(), workbook.sheets.end(),
+                                    [](const Sheet &sheet) { return bool(sheet.more); });
+    lxw_workbook_options options{};
+    options.constant_memory = inTurn ? LXW_TRUE : LXW_FALSE;
+    lxw_workbook *book = workbook_new_opt(QFile::encodeName(path).constData(), &options);
     if (!book)
         refuseExport(path);
-    const Writer writer(workbook, book);
-    if (workbook_close(book) != LXW_NO_ERROR) {
-        QFile::remove(path);
-        refuseExport(path);
+    std::exception_ptr raised;
+    try {
+        const Writer writer(workbook, book);
+    } catch (const Fehler &) {
+        raised = std::current_exception(); // the library still has to let go of the file
     }
+    const bool written = workbook_close(book) == LXW_NO_ERROR;
+    if (written && !raised)
+        return;
+    QFile::remove(path);
+    if (raised)
+        std::rethrow_exception(raised);
+    refuseExport(path);
 }
 
 bool openFile(const QString &path) {

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -51,12 +52,25 @@ struct DateChart {
     std::vector<ScatterSeries> series = {};            ///< at least one
 };
 
+/// Takes the cells of a sheet one after the other, each row from its first column on.
+class RowWriter {
+  public:
+    virtual ~RowWriter() = default;
+    /// UTF-8 with a zero behind it. An empty one leaves the cell empty. `format` as in a cell.
+    virtual void text(std::string_view utf8, int format) = 0;
+    virtual void date(const QDate &date, int format) = 0;
+    virtual void endRow() = 0;
+};
+
 struct Sheet {
     QString name = {}; ///< unlike those of the others, up to 31 characters
     std::vector<std::vector<Cell>> rows = {};
     std::vector<double> widths = {}; ///< of the columns, in characters
     int headRows = 0;                ///< stay in sight and are printed on each page
     std::vector<DateChart> charts = {};
+    /// Writes the rows below `rows`, so that there may be any number of them without a copy in
+    /// memory. What it raises keeps the file from being there.
+    std::function<void(RowWriter &)> more = {};
     int selectedRow = 0, selectedColumn = 0;
 
     /// Made when it is not there yet.

@@ -206,6 +206,9 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
         stop == Rezepte | Recipes ; pbok ; @Desktop ; stop == torvena ; mnuSSParameter ; @Interface
         stop == Schnittstellenparameter | Interface Settings ; pbexit ; @Desktop ; mnuEinlaufen
         @Einlaufen ; stop == Einlaufparameter | Running-In Parameters ; pbAbbrechen ; @Desktop
+        mnuRoute ; @Sort ; stop == Kundendatenbank | Customer Database ; pbok ; @Desktop
+        mnuProtVerw ; @Bericht1 ; pbDeleteExt ; @DeleteExtended
+        stop == Erweitertes Löschen | Delete Extended ; pbok ; @Bericht1 ; CancelButton ; @Desktop
         pbBlutdruck ; @BlutdruckAbfrage ; obNeu ; stop == Protokoll wählen | Select Protocol ; pbok
         @Blutdruck ; stop ~ Protokoll 22 - |Protocol 22 -  ; pbexit ; @Desktop
         mnuUpdate ; @Refresh ; stop == Datenbank aktualisieren | Update Database ; pbexit ; @Desktop

@@ -39,6 +39,9 @@ inline constexpr KnownBox boxTexts[] = {
     {"page4", Information, "Sichern", "Save", "Berichtsseite STK wird erstellt!", "'EST' created!"},
     {"printerGone", Critical, "Meldung", "PDF printer", "Bisheriger PDF-Drucker wurde entfernt! - Gibt es nicht mehr.", "PDF printer has been removed or is not available anymore."},
     // failures
+    {"deleteAll?", YesNo + Question, "Protokolle löschen", "Delete Protocols", "Sollen jetzt diese %1 Protokolle gelöscht werden?", "Do you really want to delete these %1 protocols?"},
+    {"deleteLast?", YesNo + Question, "Protokolle löschen", "Delete Protocols", "Soll dieses Protokoll jetzt gelöscht werden?", "Do you really want to delete this protocol?"},
+    {"allDeleted", Information, "Meldung", "Attention", "Protokolle wurden gelöscht!", "Protocols are deleted!"},
     {"failure", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 - …", "ERROR %1 - …"},
     {"failureAt", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1- …", "ERROR %1- …"},
     {"failed", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler %1 -  %2 …", "ERROR %1 -  %2 …"},

@@ -33,8 +33,8 @@ CREATE TABLE Protokoll{temp} (
     SerienNr        TEXT COLLATE NOCASE,
     IdentNr         TEXT COLLATE NOCASE
 );
-CREATE INDEX Protokoll{temp}KundenID ON Protokoll{temp} (KundenID);
-CREATE INDEX Protokoll{temp}GerätID ON Protokoll{temp} (GerätID);
+CREATE INDEX Protokoll{temp}Kunde ON Protokoll{temp} (KundenID, ErstellDatum);
+CREATE INDEX Protokoll{temp}Gerät ON Protokoll{temp} (GerätID, ErstellDatum);
 
 -- Values are the texts of the screen, with the decimal sign of the session that saved them.
 -- No unique key: free steps ('FR') repeat, in the order of MDat.

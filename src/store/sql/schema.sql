@@ -26,6 +26,7 @@ CREATE TABLE Kunden (
 );
 CREATE INDEX KundenName ON Kunden (Name);
 CREATE INDEX KundenOrt ON Kunden (Ort);
+CREATE INDEX KundenPLZ ON Kunden (PLZ);
 
 CREATE TABLE Ergometer (
     GerätID     INTEGER PRIMARY KEY AUTOINCREMENT,
@@ -35,7 +36,9 @@ CREATE TABLE Ergometer (
     SerienNr    TEXT COLLATE NOCASE,
     IdentNr     TEXT COLLATE NOCASE     -- unique over all customers; kept so by the program
 );
-CREATE INDEX ErgometerKundenID ON Ergometer (KundenID);
+CREATE INDEX ErgometerAngaben ON Ergometer (KundenID, IdentNr, Hersteller, Gerätetyp);
+CREATE INDEX ErgometerGerätetyp ON Ergometer (Gerätetyp);
+CREATE INDEX ErgometerHersteller ON Ergometer (Hersteller);
 CREATE INDEX ErgometerIdentNr ON Ergometer (IdentNr);
 
 
