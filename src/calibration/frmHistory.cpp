@@ -1,11 +1,13 @@
 #include "calibration/frmHistory.h"
 
+#include <QDir>
 #include <QHeaderView>
 
 #include <algorithm>
 #include <cmath>
 
 #include "calibration/historienblatt.h"
+#include "calibration/moment.h"
 #include "platform/clock.h"
 #include "platform/runtime.h"
 #include "records/hebelarm.h"
@@ -28,8 +30,9 @@ constexpr Beschriftung english[] = {
 };
 
 const Text rechts{"Rechts", "Right"}, links{"Links", "Left"};
-constexpr double tag = 86'400; // s
-constexpr double höhe = 1.25;  // of the largest value shown, and of the limits
+constexpr double grenze = momentGrenze / 1000; // N m
+constexpr double tag = 86'400;                 // s
+constexpr double höhe = 1.25;                  // of the largest value shown, and of the limits
 
 } // namespace
 
@@ -80,10 +83,10 @@ void frmHistory::spaltenSetzen() {
 void frmHistory::kurvenAnlegen() {
     const Farben &f = farben();
     Plot &plot = *ui.anzVerlauf;
-    const QString grenze = Format(verlaufsgrenze, "0.000") + " N m";
+    const QString wert = Format(grenze, "0.000") + " N m";
     plot.addCurve(inSprache(rechts), QPen(f.akzent, 1));
     plot.addCurve(inSprache(links), QPen(f.text, 1));
-    plot.addCurve(inSprache({"Grenze ±", "Limit ±"}) + grenze, QPen(f.blass, 1, Qt::DashLine));
+    plot.addCurve(inSprache({"Grenze ±", "Limit ±"}) + wert, QPen(f.blass, 1, Qt::DashLine));
     plot.addCurve({}, QPen(f.blass, 1, Qt::DashLine));
     plot.addCurve({}, QPen(f.text, 1, Qt::DotLine));
     plot.setDots(Rechts, Plot::Dots::Discs);
@@ -110,7 +113,7 @@ void frmHistory::verlaufZeigen() {
     mVerlauf[Rechts] = verlauf(dataHistory.recordset(), "Nm_rechts");
     mVerlauf[Links] = verlauf(dataHistory.recordset(), "Nm_links");
     const auto jetzt = static_cast<double>(now().toSecsSinceEpoch());
-    double von = jetzt, bis = jetzt, höchster = verlaufsgrenze;
+    double von = jetzt, bis = jetzt, höchster = grenze;
     for (const Kurve seite : {Rechts, Links}) {
         const auto &[zeit, wert, zeile] = mVerlauf[seite];
         plot.setData(seite, zeit, wert);
@@ -122,8 +125,8 @@ void frmHistory::verlaufZeigen() {
     const double luft = std::max(30 * tag, (bis - von) / 20);
     von -= luft;
     bis += luft;
-    plot.setData(Oben, {von, bis}, {verlaufsgrenze, verlaufsgrenze});
-    plot.setData(Unten, {von, bis}, {-verlaufsgrenze, -verlaufsgrenze});
+    plot.setData(Oben, {von, bis}, {grenze, grenze});
+    plot.setData(Unten, {von, bis}, {-grenze, -grenze});
     plot.setRange(Plot::X, {von, bis});
     plot.setRange(Plot::Y, {-höchster * höhe, höchster * höhe});
     zeileMarkieren();

@@ -262,8 +262,6 @@ void frmMomentKal::speichern() {
                        ValBeider(ui.laStreu_L->text())});
     mErledigt = true;
     gefangen("4032 - ", [] { fnc_HebelarmDatumLesen(); })(); // the row is stored all the same
-    if (auto *ablauf = loaded<frmKalibrierung>())
-        ablauf->seitenZeigen(gemessen());
     unload();
 }
 

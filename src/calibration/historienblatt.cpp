@@ -133,7 +133,7 @@ Momente zeilenEintragen(const Recordset &historie, const Tage &tage, const Seite
               schwere = spalte("Erdschwere"), hebelarm = spalte("HebelarmNr"),
               prüfer = spalte("Prüfer");
     Momente momente;
-    gBlatt->rows.reserve(static_cast<size_t>(ersteZeile + historie.count()));
+    gBlatt->rows.reserve(static_cast<size_t>(ersteZeile) + static_cast<size_t>(historie.count()));
     for (int zeile = 0; zeile < historie.count(); ++zeile) {
         std::vector<Cell> &zellen = gBlatt->rows.emplace_back();
         zellen.reserve(spalten + 1);

@@ -5,9 +5,6 @@
 
 #include "store/recordset.h"
 
-/// What a moment may differ from its reference, in N m.
-inline constexpr double verlaufsgrenze = 0.100;
-
 /// One side, in the order of time.
 struct Verlauf {
     std::vector<double> zeit; ///< seconds since 1970

@@ -20,18 +20,23 @@ void fnc_DynamikEmpfang(const std::function<bool()> &abgelöst) try {
     DynamikDecoder decoder;
     Messring ring;
     MSComm1.discardInput();
-    stromLesen([&] { return gMessStatus == Messstatus::Dynamisch && gDesktopAktiv && !abgelöst(); },
-               [&](std::uint8_t byte) {
-                   if (!decoder.feed(byte))
-                       return;
-                   const bool bildFällig = ring.speichern(decoder.drehzahl(), decoder.leistung());
-                   auto *bild = loaded<frmGraphLite>();
-                   if (!bild)
-                       return;
-                   bild->rahmen();
-                   if (bildFällig)
-                       bild->fnc_GraphZeichnen(ring);
-               });
+    stromLesen(
+        [&] {
+            if (auto *bild = loaded<frmGraphLite>())
+                bild->liest();
+            return gMessStatus == Messstatus::Dynamisch && gDesktopAktiv && !abgelöst();
+        },
+        [&](std::uint8_t byte) {
+            if (!decoder.feed(byte))
+                return;
+            const bool bildFällig = ring.speichern(decoder.drehzahl(), decoder.leistung());
+            auto *bild = loaded<frmGraphLite>();
+            if (!bild)
+                return;
+            bild->rahmen();
+            if (bildFällig)
+                bild->fnc_GraphZeichnen(ring);
+        });
 } catch (const Fehler &fehler) {
     gMessStatus = Messstatus::Ruhe; // there is nothing to measure anew with
     fehlerBox("2001 - ", fehler);

@@ -55,7 +55,7 @@ frmGraphLite::frmGraphLite() : mStille(1000) {
     onClick(ui.pbZahlen, gefangen("2003 - ", [this] { zahlenSpeichern(); }));
     onClick(ui.pbBeenden, [this] { unload(); });
     mStille.onTick = handler([this] {
-        if (++mOhneDaten == sekundenBisStill)
+        if (std::exchange(mLiest, false) && ++mOhneDaten == sekundenBisStill)
             showInfo(inSprache({"Keine Daten vom Regler", "No data from the controller"}));
     });
 }
@@ -66,11 +66,6 @@ void frmGraphLite::Form_Load() {
         einrichten(diagramm);
     mStille.setEnabled(true);
     ui.pbBeenden->setFocus();
-}
-
-bool frmGraphLite::Form_QueryUnload() {
-    mStille.setEnabled(false);
-    return true;
 }
 
 // However it is left, the step is measured anew; not when the session has ended or the line has
@@ -198,6 +193,8 @@ void frmGraphLite::zahlenSpeichern() {
                            (zeilen.join("\r\n") + "\r\n").toUtf8()));
 }
 
+// In place of the notice, which comes again as long as nothing else does.
 void frmGraphLite::gespeichert(const QString &pfad) {
+    mOhneDaten = 0;
     showInfo(inSprache({"Gespeichert: ", "Saved: "}) + QDir::toNativeSeparators(pfad));
 }

@@ -14,8 +14,10 @@ class frmGraphLite : public Screen {
     static constexpr frm id = frm::GraphLite;
     frmGraphLite();
 
-    /// A frame has come; without one for some seconds the screen says so.
-    void rahmen();
+    /// The stream is being read. Without a frame for some seconds of that the screen says so; while
+    /// a box is open nothing is read, and nothing is missing.
+    void liest() { mLiest = true; }
+    void rahmen(); ///< one has come
     /// Shows the picture that is due.
     void fnc_GraphZeichnen(const Messring &ring);
     /// The scale that a person has chosen; the lines go along.
@@ -25,7 +27,6 @@ class frmGraphLite : public Screen {
 
   protected:
     void Form_Load() override;
-    bool Form_QueryUnload() override;
     void Form_Unload() override;
 
   private:
@@ -47,5 +48,6 @@ class frmGraphLite : public Screen {
                                  Achse(grafikband(Diagramm::Leistung))};
     std::array<std::vector<double>, 2> mWerte; ///< shown, from the oldest on
     platform::Timer mStille;
-    int mOhneDaten = 0; ///< s
+    bool mLiest = false; ///< since the last tick
+    int mOhneDaten = 0;  ///< s
 };

@@ -20,9 +20,7 @@ bool Messring::speichern(double drehzahl, double leistung) {
     // Full: from here on the next value overwrites the newest, and a picture comes with each turn.
     schieben(mDrehzahl);
     schieben(mLeistung);
-    mMarke = letzte;
     mStelle = letzte - schub;
-    mGezeigt = länge - schub;
     return true;
 }
 

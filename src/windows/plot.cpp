@@ -87,11 +87,9 @@ void Plot::showDates(const QString &format) {
     mPlot->xAxis->setTicker(ticker);
 }
 
-int Plot::addCurve(const QString &name, const QPen &pen, bool dots) {
+int Plot::addCurve(const QString &name, const QPen &pen) {
     QCPGraph *graph = mPlot->addGraph();
     graph->setPen(pen);
-    if (dots)
-        setDots(curves() - 1, Dots::Discs);
     renameCurve(curves() - 1, name);
     return curves() - 1;
 }

@@ -41,9 +41,8 @@ class Plot : public QWidget {
     /// The values of the X axis are seconds since 1970, shown as dates.
     void showDates(const QString &format);
 
-    /// One more, answered by its number from 0; in the legend unless the name is empty. `dots`
-    /// marks its values.
-    int addCurve(const QString &name, const QPen &pen, bool dots = false);
+    /// One more, answered by its number from 0; in the legend unless the name is empty.
+    int addCurve(const QString &name, const QPen &pen);
     /// What marks its values, so that curves differ by more than colour.
     enum class Dots { None, Discs, Squares, Ring };
     void setDots(int curve, Dots dots);
