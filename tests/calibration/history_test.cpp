@@ -2,6 +2,8 @@
 #include <QDir>
 #include <QFile>
 #include <QTableView>
+#include <QTest>
+#include <QToolTip>
 
 #include "app/screentable.h"
 #include "calibration/achse.h"
@@ -45,10 +47,19 @@ class History : public Way {
             return QString::number(
                 control<QTableView>(frm::History, "dbgHistory")->currentIndex().row());
         };
-        views["tip"] = [] { // of the second value to the right
-            auto *plot =
-                static_cast<platform::Plot *>(control<QWidget>(frm::History, "anzVerlauf"));
-            return plot->toolTipOf(0, 1).replace('\n', '|');
+        views["tips"] = [] { // under the mouse, all over the chart
+            const auto *plot = control(frm::History, "anzVerlauf");
+            QWidget *chart = plot->childAt(plot->rect().center());
+            QStringList told;
+            for (int x = 0; x < chart->width(); x += 8) {
+                for (int y = 0; y < chart->height(); y += 8) {
+                    QTest::mouseMove(chart, {x, y});
+                    told += QToolTip::text().replace('\n', '|');
+                }
+            }
+            told.removeDuplicates();
+            told.sort();
+            return told.join('+');
         };
         views["files"] = [] { return QDir("Export").entryList(QDir::Files).join(' '); };
     }
@@ -93,10 +104,10 @@ class History : public Way {
 JOURNEY_P(History, ListsDeletesAndExports) {
     form(frm::History).show();
     co_await go(R"(
-        @History ; row == 0
+        @History ; row == 0 ; title == Kalibrierhistorie | Calibration History
         dbgHistory rows Referenz|01.03.2024 09:00:00|9,8107|30,000|0,0063|-30,000|0,0040+=1+1|23.11.2026 14:32:05|9,8107|30,016|0,0063|-29,900|0,0040+Jürgen Groß|02.06.2025|9,8107|29,983|0,0063||0,0040 | Referenz|01.03.2024 09:00:00|9.8107|30.000|0.0063|-30.000|0.0040+=1+1|23.11.2026 14:32:05|9.8107|30.016|0.0063|-29.900|0.0040+Jürgen Groß|02.06.2025|9.8107|29.983|0.0063||0.0040
         ? referenceStays ; pbDSLöschen
-        tip ~ ^23.11.2026 14:32:05.=1.1.Rechts: 0,016 N m$ | ^23.11.2026 14:32:05.=1.1.Right: 0.016 N m$
+        tips == +02.06.2025|Jürgen Groß|Rechts: -0,017 N m+23.11.2026 14:32:05|=1+1|Links: 0,100 N m+23.11.2026 14:32:05|=1+1|Rechts: 0,016 N m | +02.06.2025|Jürgen Groß|Right: -0.017 N m+23.11.2026 14:32:05|=1+1|Left: 0.100 N m+23.11.2026 14:32:05|=1+1|Right: 0.016 N m
         pbExcel ; can pbExcel ; focus pbExcel ; laDatei ~ ^Gespeichert: Export/Hebelarmkalibrierung_.*xlsx$ | ^Saved: Export/LeverArmCalibration_.*xlsx$)");
     EXPECT_TRUE(QFile::exists(opened));
     opens = false;
@@ -131,6 +142,19 @@ TEST_F(History, FillsBothSheetsCellByCell) {
         const QString right = english ? "Right" : "Rechts", left = english ? "Left" : "Links";
         const auto number = [&](QString text) { return english ? text : text.replace('.', ','); };
         const QString dated = " dd.mm.yyyy]|[";
+        const auto heads = [](int which) { return sheet(which).section('\n', 0, 1); };
+        EXPECT_EQ(heads(0),
+                  english ? "Lever Arm Calibration, Right\n[Date]|[Right in N m]|[Spread in N "
+                            "m]|[Gravity in m/s²]|[Lever Arm No.]|[Inspector]"
+                          : "Hebelarmkalibrierung rechts\n[Datum]|[Rechts in N m]|[Streubreite in "
+                            "N m]|[Fallbeschleunigung in m/s²]|[Hebelarm-Nr.]|[Prüfer]");
+        EXPECT_EQ(heads(1),
+                  english
+                      ? "Lever Arm Calibration, Left\n[Date]|[Left in N m]|[Spread in N "
+                        "m]|[Gravity in m/s²]|[Lever Arm No.]|[Inspector]|[Magnitude left in N m]"
+                      : "Hebelarmkalibrierung links\n[Datum]|[Links in N m]|[Streubreite in "
+                        "N m]|[Fallbeschleunigung in m/s²]|[Hebelarm-Nr.]|[Prüfer]|[Betrag "
+                        "links in N m]");
         EXPECT_EQ(sheet(0).section('\n', 2),
                   "[01.03.2024 09:00:00" + dated + number("30.000]|[0.0063]|[9.8107]|[") +
                       "HA-1001]|[Referenz]\n" + "[23.11.2026 14:32:05" + dated +

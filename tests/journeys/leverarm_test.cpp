@@ -20,13 +20,26 @@ class LeverArm : public Measuring {
                         "Streu_R < 0.01 AND Streu_L < 0.01, NK_ID FROM Hebelarmkalibrierung "
                         "ORDER BY ID DESC LIMIT 1");
         };
-        views["done"] = [] { // stages
+        views["done"] = [] { // stages, by label and sign
             QString shown;
-            for (const char *label : {"Label7", "Label8", "Label9", "Label10"}) {
-                const auto *widget = loaded(frm::Kalibrierung)->findChild<QWidget *>(label);
-                shown += widget->isVisibleTo(loaded(frm::Kalibrierung)) ? 'x' : '-';
+            const std::pair<const char *, const char *> stages[] = {{"Label7", "anzEinlaufen"},
+                                                                    {"Label8", "anzKorrektur"},
+                                                                    {"Label9", "anzSeite1"},
+                                                                    {"Label10", "anzSeite2"}};
+            for (const auto &[label, sign] : stages) {
+                const bool done =
+                    control(frm::Kalibrierung, label)->isVisibleTo(loaded(frm::Kalibrierung));
+                shown += done ? 'x' : '-';
+                EXPECT_EQ(control(frm::Kalibrierung, sign)->accessibleName(),
+                          done        ? text(frm::Kalibrierung, label)
+                          : english() ? "open"
+                                      : "offen");
             }
             return shown;
+        };
+        views["kept"] = [] { // limits, left and right
+            return control(frm::MomentKal, "anzUrteil_L")->accessibleName() + ", " +
+                   control(frm::MomentKal, "anzUrteil_R")->accessibleName();
         };
         views["due"] = [] {
             return loaded(frm::Desktop)->findChild<QGroupBox *>("FrHebelarm")->title();
@@ -59,6 +72,7 @@ JOURNEY_P(LeverArm, BothSidesInOrder) {
     co_await go(R"(
         due ~ 31.07.2020$ ; stand mode lever ; mnuKalibrierung ; @Kalibrierung ; stage == 2
         title == Hebelarmkalibrierung | Lever Arm Calibration ; done == ---- ; waits pbStart ; focus pbStart
+        pbHistory ; @History ; pbexit ; @Kalibrierung ; stage == 2 ; focus pbStart
         laText == Dieses Programm gestattet Ihnen die turnusmäßige Überprüfung des Mess-Systems mittels Momenteinleitung durch den Hebelarm | This program permits you to inspect the measurement system at regular intervals by means of moment initiation through the lever arm.
         laDrehrichtung == Rechtslauf | Right-Handed Rotation ; Desktop.lbDrehrichtung == Rechtslauf | Right
         pbStart ; pass 2000 ; stage == 3 ; laInfo == Motor ist eingeschaltet | Motor is switched on
@@ -68,13 +82,13 @@ JOURNEY_P(LeverArm, BothSidesInOrder) {
         motor ~ off.*0$ ; pbok ; until can StatMessen.pbWeiter ; pbWeiter ; @NachStatNPK ; stage == 5 ; done == xx--
         title == Vorbereitung der Hebelarmkalibrierung | Preparations For The Lever Arm Calibration
         laText ~ ^Montieren Sie den Hebelarm für Linkskalibrierung | ^Mount the lever arm for left-handed
-        stand lever left ; pbok ; @Oberfl ; stage == 6 ; cannot pbWeiter
+        stand lever left ; pbok ; @Oberfl ; title == Örtliche Fallbeschleunigung | Local Gravity ; stage == 6 ; cannot pbWeiter
         ? gravityText ; close ; txtOberfl = abc ; can pbWeiter ; ? gravityText ; pbWeiter ; txtOberfl == ; focus txtOberfl
         txtOberfl = 9,79 ; ? gravityRange ; pbWeiter ; txtOberfl == ; txtOberfl = 9.82 ; txtOberfl ! ; focus pbWeiter ; pbWeiter
-        @MomentKal ; stage == 7 ; Kalibrierung.Label5 == Fallbeschleunigung in m/s² | Survicial Gravity In m/s²
+        @MomentKal ; title == Momentmessung mit dem Hebelarm | Moment Measurement With The Lever Arm ; stage == 7 ; Kalibrierung.Label5 == Fallbeschleunigung in m/s² | Survicial Gravity In m/s²
         Kalibrierung.lbEinlauf == 9,8200 | 9.8200 ; Kalibrierung.laInfo == Kalibrierung | Calibration
         txtOffset1_L == -30,000 | -30.000 ; txtOffset1_R == 30,000 | 30.000 ; txtOffset2_L == ; cannot pbWeiter pbWiederholen
-        until laInfo ~ ^7.(Messwerte|Measuring Values)$ ; run ; stage == 8 ; done == xxx-
+        until laInfo ~ ^7.(Messwerte|Measuring Values)$ ; kept == noch nicht gemessen, noch nicht gemessen | not measured yet, not measured yet ; key Return ; run ; stage == 8 ; done == xxx-
         laInfo ~ ^Ist die Messung in Ordnung | ^When measurement is o.k. ; pbWeiter == &Wechseln | &Change ; focus pbWeiter ; waits pbWeiter
         txtOffset2_L ~ ^-29,9[67]. | ^-29.9[67]. ; laStreu_L ~ ^0,00 | ^0.00 ; laOffsetDiff_L ~ ^0,02 | ^0.02 ; txtOffset2_R ==
         pbWeiter ; @NachStatNPK ; title == Vorbereitung der Hebelarmkalibrierung | Preparation For The Lever Arm Calibration
@@ -94,6 +108,7 @@ JOURNEY_P(LeverArm, ASideOutOfLimitsBlocksUntilItWasRepeated) {
         change UPDATE Normalkalibrierdaten SET GrenzwStreubreite = 0.05
         login ; stand moment 30.5 ; mounted left ; ? momentOut ; run ; done == xxx- ; stage == 7 ; laOffsetDiff_L ~ ^-0[,.](50|49)
         cannot pbWeiter ; focus pbWiederholen ; laInfo ~ linke Seite | left side
+        kept == nicht eingehalten, noch nicht gemessen | not kept, not measured yet
         # On the other side by mistake: in order, but the first one is not.
         stand moment 30 ; pbWiederholen ; hang right ; run ; cannot pbWeiter ; done == xxxx ; new == 0
         pbWiederholen ; laText ~ wie in der Bedienungsanleitung beschrieben | as described in the Operating Instructions
@@ -101,7 +116,11 @@ JOURNEY_P(LeverArm, ASideOutOfLimitsBlocksUntilItWasRepeated) {
         stand noise 30 ; stand moment 31 ; pbWiederholen ; hang left ; ? bothOut ; run ; cannot pbWeiter
         # Without the arm nothing is measured, and nothing changes.
         stand noise 0.1 ; stand moment 30 ; pbWiederholen ; hang none ; ? noMoment ; run ; cannot pbWeiter ; txtOffset2_L ~ ^-3[01]
-        pbWiederholen ; hang left ; run ; can pbWeiter ; pbWeiter ; @Kalibrierung ; new == 1 ; stored ~ \|30\|-30\|1)");
+        pbWiederholen ; hang left ; run ; can pbWeiter ; kept == eingehalten, eingehalten | kept, kept
+        # The other side, out of limits after all.
+        stand moment 30.5 ; pbWiederholen ; hang right ; ? momentOut ; run ; cannot pbWeiter ; laInfo ~ rechte Seite | right side
+        kept == eingehalten, nicht eingehalten | kept, not kept ; pbWiederholen ; picture == Hebelarm waagerecht, rechts | Lever arm level, right
+        stand moment 30 ; hang right ; run ; can pbWeiter ; pbWeiter ; @Kalibrierung ; new == 1 ; stored ~ \|30\|-30\|1)");
 }
 
 JOURNEY_P(LeverArm, WithoutTheArmAndTwiceOnOneSide) {
@@ -118,7 +137,7 @@ JOURNEY_P(LeverArm, WrongModeIsAskedForAgain) {
     co_await go(R"(
         login ; corrected ; stand lever left ; pbok ; @Oberfl ; txtOberfl = 9,8
         ? wrongMode ; pbWeiter ; @NachStatNPK ; stage == 5
-        stand fault silent on ; ? noMode ; ? wrongMode ; pbok ; pass 21000 ; @NachStatNPK
+        stand fault silent on ; after 500 cannot Kalibrierung.pbAbbrechen ; ? noMode ; ? wrongMode ; pbok ; pass 21000 ; @NachStatNPK
         stand fault none ; stand mode lever ; pbok ; @MomentKal ; run ; can pbWeiter)");
 }
 
@@ -133,6 +152,7 @@ JOURNEY_P(LeverArm, EachWayOutStopsTheMotor) {
         # The correction closed within the sequence does not come around again.
         open ; pass 600000 ; @VorStatNPK ; close ; @StatMessen ; close ; @Kalibrierung ; stage == 10 ; pbAbbrechen ; @Desktop
         # Gravity is not known.
+        corrected ; pbok ; @Oberfl ; key Escape ; @Kalibrierung ; stage == 0 ; pbAbbrechen ; @Desktop
         corrected ; pbok ; @Oberfl ; pbAbbrechen ; @Kalibrierung ; laInfo ~ abgebrochen! | dicontinued! ; pbAbbrechen ; @Desktop ; motor ~ off)");
 }
 
@@ -153,7 +173,7 @@ JOURNEY_P(LeverArm, CancelledUnderARun) {
         mounted left ; run
         stand fault deaf 3 ; ? leverAborted ; ? noController ; ? reallyDiscontinue no ; ? correctionLoaded ; close ; pass 20000 ; @Kalibrierung ; pbAbbrechen ; @Desktop
         mounted left ; run
-        stand fault silent on ; ? leverAborted ; ? noController ; ? reallyDiscontinue yes ; pbAbbrechen ; pass 20000 ; @Kalibrierung ; stage == 10)");
+        stand fault silent on ; ? leverAborted ; ? noController ; ? reallyDiscontinue yes ; after 500 cannot MomentKal.pbAbbrechen ; pbAbbrechen ; pass 20000 ; @Kalibrierung ; stage == 10)");
 }
 
 JOURNEY_ROWS(LeverArm, WhatIsMissingIsToldBeforeTheMotorRuns, "DELETE FROM Hebelarmkalibrierung",
@@ -190,7 +210,8 @@ JOURNEY_P(LeverArm, RunningInOfTheDesktopAndALineThatWasAway) {
 
 // Told to end while the question stands, the process ends.
 JOURNEY(LeverArm, EndOfTheProcessUnderTheQuestion) {
-    co_await go("login ; mounted left ; run ; stand fault silent on");
+    change("UPDATE Normalkalibrierdaten SET AnzahlStreu = 2"); // which do for a spread
+    co_await go("login ; mounted left ; run ; laStreu_L ~ ^0,0 ; stand fault silent on");
     boxes.expect("Die Kalibrierung wurde abgebrochen", "", -1, platform::OK, beendenOhneFrage);
     co_await go("pbAbbrechen ; pass 100 ; wireNow ~ ^.{0,200}$");
     EXPECT_FALSE(gDesktopAktiv);

@@ -72,7 +72,6 @@ class Measuring : public Workplace {
             }
             return shown;
         };
-        views["title"] = [] { return platform::frontScreen()->caption(); };
         views["box"] = [this] { return boxes.seen().back().text; };
         views["told"] = [this] { return boxes.allCame() ? "yes" : "no"; };
         views["released"] = [] { return gMessenFreigabe ? "yes" : "no"; };

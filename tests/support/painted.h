@@ -54,4 +54,30 @@ inline QString along(const QImage &image, double height, double from = 0, double
     return row;
 }
 
+/// From above, the colours of which a row has more than the share, each stretch as its letter, "."
+/// without: of charts, whose lines go across.
+struct Line {
+    QColor color;
+    char letter;
+    double share;
+};
+inline QString stripes(const QImage &image, const std::vector<Line> &lines) {
+    QString column;
+    for (int y = 0; y < image.height(); ++y) {
+        QString row;
+        for (const Line &line : lines) {
+            int pixels = 0;
+            for (int x = 0; x < image.width(); ++x)
+                pixels += image.pixelColor(x, y) == line.color;
+            if (pixels > line.share * image.width())
+                row += line.letter;
+        }
+        if (row.isEmpty())
+            row = ".";
+        if (!column.endsWith(row))
+            column += row;
+    }
+    return column;
+}
+
 } // namespace support

@@ -171,6 +171,7 @@ std::vector<Variant> rowByRow(const std::vector<const char *> &rows) {
 
 Way::Way() {
     views["front"] = [] { return frontScreen() ? nameOf(frontScreen()) : QString(); };
+    views["title"] = [] { return frontScreen()->caption(); };
     views["beeps"] = [this] { return QString::number(std::exchange(beeps, 0)); };
     views["speed"] = [this] { return QString::number(line.stand().speed(), 'g', 3); };
     views["wireNow"] = [this] { return QString::fromStdString(line.stand().wire()); };
