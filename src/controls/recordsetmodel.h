@@ -13,8 +13,8 @@ class RecordsetModel : public QAbstractTableModel {
         QString name; ///< column of the recordset
         QString kopf;
         Qt::Alignment ausrichtung = Qt::AlignLeft | Qt::AlignVCenter;
-        /// "dd.mm.yyyy" for dates, "General Date" with their time, a pattern of platform::Format for numbers; without one a value
-        /// is shown as it is.
+        /// "dd.mm.yyyy" for dates, "General Date" with their time, a pattern of platform::Format
+        /// for numbers; without one a value is shown as it is.
         QString format = {};
     };
 

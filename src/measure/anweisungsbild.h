@@ -8,7 +8,7 @@ enum class Anweisung {
     Ankoppeln, ///< the shaft joined and aligned, with an arrow to the standard
     Hebelarm,  ///< the lever arm level on the hexagon, on the left
     HebelarmRechts,
-    Halt,      ///< not with this unit: the cross of a refusal
+    Halt, ///< not with this unit: the cross of a refusal
 };
 /// For a picture of 220 by 150.
 void anweisungZeigen(platform::Bild &bild, Anweisung anweisung);

@@ -75,7 +75,7 @@ class RowCopy {
 
     Datenbank mStore;
     std::function<bool(const CopyState &)> mGoesOn;
-    QStringList mTriggers; // their statements
+    QStringList mTriggers;               // their statements
     QMap<QString, qlonglong> mRowsInUse; // as counted so far
     CopyRecord mRecord;
     CopyState mState;

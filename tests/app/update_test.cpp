@@ -202,7 +202,7 @@ JOURNEY_P(Updating, RefusesWhatIsNoUpdate) {
         file.execute(sql);
     }
     QFile damaged("damaged"), text("text");
-    EXPECT_TRUE(damaged.open(QIODevice::ReadWrite) && damaged.seek(damaged.size() / 8192 * 4096));
+    EXPECT_TRUE(damaged.open(QIODevice::ReadWrite) && damaged.seek(damaged.size() / 16384 * 12288));
     damaged.write(QByteArray(4096, 'x'));
     damaged.close();
     EXPECT_TRUE(text.open(QIODevice::WriteOnly));
