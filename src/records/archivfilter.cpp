@@ -302,14 +302,30 @@ void alleTexteLesen(
     const std::vector<Wiedervorlage> &zeilen,
     const std::function<void(const Wiedervorlage &, const Wiedervorlagezellen &)> &zeile) {
     gDatenbank.snapshot([&] {
-        Query texte(gDatenbank, textspalten + textquelle);
+        Query kunde(gDatenbank, "SELECT Name, Straße, PLZ, Ort FROM Kunden WHERE KundenID = ?");
+        Query gerät(gDatenbank,
+                    "SELECT Hersteller, Gerätetyp, IdentNr FROM Ergometer WHERE GerätID = ?");
+        qlonglong gelesen = -1;
+        std::array<std::string, 4> anschrift; // the rows of a customer mostly follow each other
         for (const Wiedervorlage &eine : zeilen) {
-            texte.each({eine.kundenID, eine.gerätID}, [&](const Row &row) {
-                Wiedervorlagezellen zellen;
-                for (int spalte = 0; spalte < static_cast<int>(zellen.size()); ++spalte)
-                    zellen[static_cast<size_t>(spalte)] = row.bytes(spalte);
+            if (std::exchange(gelesen, eine.kundenID) != eine.kundenID) {
+                anschrift = {};
+                kunde.each({eine.kundenID}, [&](const Row &row) {
+                    for (size_t spalte = 0; spalte < anschrift.size(); ++spalte)
+                        anschrift[spalte] = row.bytes(static_cast<int>(spalte));
+                });
+            }
+            Wiedervorlagezellen zellen{
+                anschrift[0], anschrift[1], anschrift[2], anschrift[3], "", "", ""};
+            bool da = false;
+            gerät.each({eine.gerätID}, [&](const Row &row) {
+                for (int spalte = 0; spalte < 3; ++spalte)
+                    zellen[anschrift.size() + static_cast<size_t>(spalte)] = row.bytes(spalte);
                 zeile(eine, zellen);
+                da = true;
             });
+            if (!da)
+                zeile(eine, zellen);
         }
     });
 }
