@@ -73,7 +73,6 @@ frmKalibrierung::~frmKalibrierung() {
 
 void frmKalibrierung::Form_Load() try {
     beschriftungenSetzen(ui, *this, english);
-    ui.pbHistory->setEnabled(exists(frm::History));
     for (Bild *zeichen : {ui.anzEinlaufen, ui.anzKorrektur, ui.anzSeite1, ui.anzSeite2})
         zeichen->zeige(Zeichen::Kein, inSprache({"offen", "open"}));
     tiEinlauf.setEnabled(false); // of the desktop: only pbStart leads on, behind its checks
