@@ -212,7 +212,17 @@ static bool heldEnterOnButton(const QObject *watched, const QEvent *event) {
     return key->isAutoRepeat() && (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter);
 }
 
+/// Escape in an open list closes the list, and is no shortcut of the screen behind it.
+static bool escapeFromPopup(const QEvent *event) {
+    return event->type() == QEvent::ShortcutOverride && QApplication::activePopupWidget() &&
+           static_cast<const QKeyEvent *>(event)->key() == Qt::Key_Escape;
+}
+
 bool Desk::eventFilter(QObject *watched, QEvent *event) {
+    if (escapeFromPopup(event)) {
+        event->accept();
+        return true;
+    }
     if (!isInput(event->type()))
         return false;
     if (heldEnterOnButton(watched, event))
