@@ -28,11 +28,18 @@ void frmBericht1::Form_Load() {
     ui.pbDeleteExt->setEnabled(exists(frm::DeleteExtended));
 }
 
-/// Behind the extended deletion only what is left is offered.
+/// Behind the extended deletion only what is left is offered; what was chosen and is left stays so.
 void frmBericht1::Form_Activate() {
     if (std::exchange(mNeuLesen, false)) {
+        const QString kunde = ui.cmbKunde->currentText(), bericht = ui.cmbBericht->currentText();
         gBerichtProtokoll = 0;
         fnc_ProtokollListe();
+        if (const int platz = ui.cmbKunde->findText(kunde, Qt::MatchExactly); platz >= 0) {
+            ui.cmbKunde->setCurrentIndex(platz);
+            kundeGewählt();
+        }
+        if (const int platz = ui.cmbBericht->findText(bericht, Qt::MatchExactly); platz >= 0)
+            ui.cmbBericht->setCurrentIndex(platz);
     }
     Berichtsmaske::Form_Activate();
 }
