@@ -1,5 +1,6 @@
 #include "recall/kundenblatt.h"
 
+#include "platform/fehler.h"
 #include "recall/faelligkeit.h"
 #include "session/mappe.h"
 #include "session/sprache.h"
@@ -12,6 +13,7 @@ namespace {
 enum Format { Kopf, Rahmen, Datum };
 
 constexpr int spalten = 9;
+constexpr size_t meisteZeilen = 1'048'575; // of a sheet, below its head
 
 Workbook kundenvorlage() {
     Sheet blatt{.name = inSprache({"Kunden", "Customers"}),
@@ -55,6 +57,13 @@ void schreiben(RowWriter &blatt, const Wiedervorlage &zeile, const Wiedervorlage
 void fnc_KundenExport(std::shared_ptr<const std::vector<Wiedervorlage>> zeilen) {
     if (zeilen->empty())
         return;
+    if (zeilen->size() > meisteZeilen) {
+        throw Fehler(fehlernummer::Overflow,
+                     {"Überlauf: Die Liste hat mehr Zeilen, als eine Tabelle fasst. Bitte engen "
+                      "Sie sie ein.",
+                      "Overflow: The list has more rows than a spreadsheet holds. Please narrow "
+                      "it."});
+    }
     fnc_ExcelÖffnen(inSprache({"KundenSort", "CustomerOrder"}), kundenvorlage());
     gBlatt->more = [zeilen = std::move(zeilen)](RowWriter &blatt) {
         alleTexteLesen(*zeilen, [&](const Wiedervorlage &zeile, const Wiedervorlagezellen &zellen) {

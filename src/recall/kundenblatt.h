@@ -7,5 +7,5 @@
 #include "records/archivfilter.h"
 
 /// Begins gMappe and hands it the rows, which are read while it is written. Without rows nothing is
-/// begun. Raises what fnc_ExcelÖffnen raises.
+/// begun. Raises Overflow for more rows than a sheet holds, and what fnc_ExcelÖffnen raises.
 void fnc_KundenExport(std::shared_ptr<const std::vector<Wiedervorlage>> zeilen);

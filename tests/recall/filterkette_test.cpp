@@ -5,6 +5,7 @@
 #include <random>
 
 #include "recall/faelligkeit.h"
+#include "recall/kundenblatt.h"
 #include "workshop.h"
 
 namespace {
@@ -340,6 +341,10 @@ TEST_F(Chain, UnitsAreDueByTheMonthAndCustomersGetOneLetter) {
     EXPECT_TRUE(letters(QDate(2019, 1, 1), true)
                     .contains("\r\n\"Fünf\",\"E 5\",\"200\",\"Köln\",\"2\",\"H1 T1, ident no. I6, "
                               "calibrated 01.01.2021, due 01/2023; H2 T3,"));
+    EXPECT_EQ(raised([] { // are not written in part
+                  fnc_KundenExport(std::make_shared<const std::vector<Wiedervorlage>>(1'048'576));
+              }),
+              6);
 }
 
 } // namespace
