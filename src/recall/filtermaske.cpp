@@ -145,12 +145,14 @@ void Filtermaske::listeFüllen(int position) {
     const Bedingung anweisung = mKette.füllanweisung(position);
     Auswahlliste &auswahl = mAuswahl[platz];
     auswahl.setze(QStringList());
+    mGewählt[platz] = -1;
     if (art.liste == "cmbID")
         auswahl.setze(protokollliste(anweisung));
     else
         auswahl.setze(filterliste(anweisung));
     const int anzahl = auswahl.rowCount();
-    mListen[platz].feld->setCurrentIndex(anzahl == 1 ? 0 : -1);
+    mGewählt[platz] = anzahl == 1 ? 0 : -1;
+    mListen[platz].feld->setCurrentIndex(mGewählt[platz]);
     mListen[platz].beschriftung->setText(inSprache(art.beschriftung) + QString::number(anzahl) +
                                          ')');
 }
@@ -168,12 +170,19 @@ void Filtermaske::fnc_SetDates() {
     ui.dtpBis->setDate(bis);
 }
 
-/// Of a list that offers nothing else there is nothing to choose.
+/// Of a list that offers nothing else there is nothing to choose. A choice that does not count
+/// leaves what the rows were chosen by.
 void Filtermaske::gewählt(int position) {
-    const Filterfeld &feld = *mListen[static_cast<size_t>(position)].feld;
-    if (feld.count() < 2 || feld.currentText().isEmpty())
+    const auto platz = static_cast<size_t>(position);
+    Filterfeld &feld = *mListen[platz].feld;
+    const int eintrag = feld.currentIndex();
+    const QString text = feld.currentText();
+    feld.setCurrentIndex(mGewählt[platz]);
+    if (feld.count() < 2 || text.isEmpty())
         return;
-    mKette.wählen(position, {.text = feld.currentText()});
+    mKette.wählen(position, {.text = text});
+    mGewählt[platz] = eintrag;
+    feld.setCurrentIndex(eintrag);
     fnc_FillCombos();
 }
 

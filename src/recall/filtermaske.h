@@ -57,5 +57,6 @@ class Filtermaske : public Screen {
     Art mArt;
     std::array<Liste, datumsfilter> mListen;
     std::array<Auswahlliste, datumsfilter> mAuswahl;
+    std::array<int, datumsfilter> mGewählt{}; ///< entry that the list shows, -1 for none
     QDate mAltDatum; ///< of the picker that has the keyboard, before it was changed
 };

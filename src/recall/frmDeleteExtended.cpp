@@ -64,7 +64,12 @@ void frmDeleteExtended::fnc_fillcmbIdent() {
 }
 
 void frmDeleteExtended::fnc_Abfrage() {
-    mProtokolle = archivierte(mKette.fnc_Where(), mKette.fnc_OrderBy());
+    auflisten({}); // what cannot be read is not deleted
+    auflisten(archivierte(mKette.fnc_Where(), mKette.fnc_OrderBy()));
+}
+
+void frmDeleteExtended::auflisten(std::vector<Schlüssel> protokolle) {
+    mProtokolle = std::move(protokolle);
     zeigen(static_cast<int>(mProtokolle.size()), [this](int zeile) -> Trefferliste::Zeile {
         try {
             const Archivtexte texte = texteLesen(mProtokolle[static_cast<size_t>(zeile)]);

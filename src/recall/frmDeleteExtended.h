@@ -18,6 +18,7 @@ class frmDeleteExtended : public Filtermaske {
     void fnc_FillCmbID();
     void fnc_FillCmbTyp();
     void fnc_fillcmbIdent();
+    void auflisten(std::vector<Schlüssel> protokolle);
     bool bestätigt() const;
     void pbDelete_Click();
     void löschen();

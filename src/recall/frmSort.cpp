@@ -108,8 +108,12 @@ void frmSort::fnc_FillCmbHerst() {
 }
 
 void frmSort::fnc_Abfrage() {
-    mZeilen = std::make_shared<const std::vector<Wiedervorlage>>(
-        wiedervorlagen(mKette.fnc_Where(), mKette.fnc_OrderBy()));
+    auflisten({}); // what cannot be read is not what the filters say
+    auflisten(wiedervorlagen(mKette.fnc_Where(), mKette.fnc_OrderBy()));
+}
+
+void frmSort::auflisten(std::vector<Wiedervorlage> zeilen) {
+    mZeilen = std::make_shared<const std::vector<Wiedervorlage>>(std::move(zeilen));
     ui.laDatei->clear();
     zeigen(static_cast<int>(mZeilen->size()),
            [this](int nummer) { return zeile((*mZeilen)[static_cast<size_t>(nummer)]); });
@@ -154,6 +158,7 @@ void frmSort::pbExcel_Click() {
 
 void frmSort::pbBriefe_Click() try {
     const Beschäftigt warten;
+    ui.laDatei->clear();
     const QByteArray briefe = serienbrief(*mZeilen, now().date(), gefiltertNachDatum());
     if (briefe.isEmpty()) {
         ui.laDatei->setText(inSprache({"Es ist kein Gerät fällig.", "No unit is due."}));

@@ -23,6 +23,7 @@ class frmSort : public Filtermaske {
     void fnc_FillCmbOrt();
     void fnc_FillCmbTyp();
     void fnc_FillCmbHerst();
+    void auflisten(std::vector<Wiedervorlage> zeilen);
     void pbExcel_Click();
     void pbBriefe_Click();
     void gespeichert(const QString &pfad);

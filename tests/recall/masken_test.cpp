@@ -1,4 +1,6 @@
 // The recall list and the extended deletion as a person uses them.
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QDateEdit>
 #include <QDir>
 #include <QFile>
@@ -6,6 +8,7 @@
 #include <QProcess>
 #include <QTableView>
 #include <QTest>
+#include <QWindow>
 
 #include "platform/clock.h"
 #include "session/session.h"
@@ -161,9 +164,19 @@ JOURNEY_P(Recall, DeletionTakesWhatIsLeftInTheList) {
 }
 
 JOURNEY_P(Recall, TellsWhatFails) {
-    co_await go(R"(login ; mnuRoute ; @Sort ; spoil SELECT Ergometer
-        ? failure(B1_05) ; ? failure(B1_04) ; ? failure(B1_07) ; pbBack ; mend ; spoil SELECT Kunden
-        ? failure(B1_06) ; cmbKunde > 2 ; mend)");
+    co_await go(R"(login ; spoil SELECT Ergometer
+        ? failure(B1_05) ; ? failure(B1_04) ; ? failure(B1_07) ; mnuRoute ; @Sort ; mend ; pbExcel
+        pbBriefe ; laDatei == Es ist kein Gerät fällig. | No unit is due. ; pbBack ; count == 27
+        cmbKunde > 3 ; count == 2 ; spoil SELECT Kunden
+        ? failure(B1_06) ; cmbKunde > 2 ; cmbKunde ~ ^Herz ; count == 2 ; mend)");
+    auto *list = control<QComboBox>(frm::Sort, "cmbPLZ");
+    QTest::keyClick(list, Qt::Key_Down);
+    QTest::keyClick(list->view()->window()->windowHandle(), Qt::Key_Escape); // closes it alone
+    co_await go(R"(@Sort ; key Escape ; @Desktop ; mnuProtVerw ; @Bericht1
+        cmbKunde > Klinikum Ährenfeld ; cmbBericht > 2 - P ; pbDeleteExt ; @DeleteExtended ; spoil SELECT Ergometer
+        ? failure(B1_05) ; ? failure(B1_04) ; ? failure(B1_07) ; pbBack
+        laAnzProt == 0 Protokolle | 0 Protocols ; cannot pbDelete ; mend
+        pbok ; @Bericht1 ; cmbKunde == Klinikum Ährenfeld ; cmbBericht == 2 - P ; can pbDelete)");
 }
 
 } // namespace
