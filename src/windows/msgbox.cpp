@@ -136,7 +136,12 @@ int msgBox(const QString &text, int flags, const QString &title) {
                 box.setEscapeButton(buttons[i]);
         }
     }
+    const bool busy = QGuiApplication::overrideCursor(); // but here a person is waited for
+    if (busy)
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
     box.exec();
+    if (busy)
+        QGuiApplication::restoreOverrideCursor();
     for (size_t i = 0; i < answers.size(); ++i) {
         if (box.clickedButton() == buttons[i])
             return answers[i];
