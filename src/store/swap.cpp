@@ -1,6 +1,7 @@
 #include "store/swap.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include "platform/files.h"
@@ -171,6 +172,8 @@ void swapDatabase(bool delivered) {
     removeFile(abgelösteDatenbank);
     if (!linkFile(datenbankName, abgelösteDatenbank))
         copyDatabase(datenbankName, abgelösteDatenbank);
+    // Whoever could read or write the old one can the new one.
+    QFile::setPermissions(gefüllteDatenbank, QFile::permissions(datenbankName));
     try {
         syncFolder(".");
         moveFile(gefüllteDatenbank, datenbankName);

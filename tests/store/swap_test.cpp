@@ -74,6 +74,8 @@ TEST_F(Swap, IsWholeWhereverItStops) {
         steps += operation + ' ' + file;
         return 0;
     });
+    const auto rights = QFile::permissions(datenbankName) | QFile::WriteGroup;
+    QFile::setPermissions(datenbankName, rights);
     const auto restore = [&] {
         setFileWatcher({});
         QFile::remove(gefüllteDatenbank);
@@ -86,6 +88,7 @@ TEST_F(Swap, IsWholeWhereverItStops) {
               "remove ToDelete.mdb, link ToDelete.mdb, sync ., move torvena470.mdb, sync ., "
               "remove ToDelete.mdb, remove torvena470_neu.mdb");
     EXPECT_EQ(QDir().entryList(QDir::Files), QStringList{datenbankName});
+    EXPECT_EQ(QFile::permissions(datenbankName), rights);
     const int moved = 3;
     for (int step = 0; step < count; ++step) {
         SCOPED_TRACE(step);
