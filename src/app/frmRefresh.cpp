@@ -33,13 +33,14 @@ void melden(const char *stelle, const Fehler &fehler) {
 }
 
 /// Tells what kept a table from being copied, for the next one to go on. What undid all of it, or
-/// was asked for, does not stay here.
+/// was asked for, does not stay here, nor does damage, behind which the engine writes no more.
 template <class Kopieren>
 void anweisung(const char *stelle, RowCopy &kopie, Kopieren kopieren) {
     try {
         kopieren();
     } catch (const Fehler &fehler) {
-        if (fehler.number() == fehlernummer::UserInterrupt || !kopie.whole())
+        if (fehler.number() == fehlernummer::UserInterrupt ||
+            fehler.number() == fehlernummer::DatabaseDamaged || !kopie.whole())
             throw;
         melden(stelle, fehler);
     }

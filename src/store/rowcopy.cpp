@@ -21,11 +21,7 @@ QString quoted(const QString &name) {
 RowCopy::RowCopy(const QString &used, const QString &fresh,
                  std::function<bool(const CopyState &)> goesOn)
     : mGoesOn(std::move(goesOn)) {
-    mStore.openFile(fresh);
-    if (mStore.open("PRAGMA quick_check(1)")[0].text() != "ok") {
-        throw Fehler(fehlernummer::DatabaseDamaged,
-                     {"Die neue Datenbank ist beschädigt.", "The new database is damaged."});
-    }
+    openSound(fresh);
     mStore.execute("ATTACH ? AS Alt", {used});
     mStore.execute("BEGIN");
     // Rows move page by page where nothing hangs on them, and nothing is computed anew.
@@ -37,6 +33,22 @@ RowCopy::RowCopy(const QString &used, const QString &fresh,
     }
     if (mGoesOn)
         mStore.watch([this](int steps) { return ask(steps); });
+}
+
+/// Its damage is told as its own: the database in use needs no safety copy for it.
+void RowCopy::openSound(const QString &fresh) {
+    bool sound = false;
+    try {
+        mStore.openFile(fresh);
+        sound = mStore.open("PRAGMA quick_check(1)")[0].text() == "ok";
+    } catch (const Fehler &fehler) {
+        if (fehler.number() != fehlernummer::DatabaseDamaged)
+            throw;
+    }
+    if (!sound) {
+        throw Fehler(fehlernummer::DatabaseDamaged,
+                     {"Die neue Datenbank ist beschädigt.", "The new database is damaged."});
+    }
 }
 
 bool RowCopy::ask(int steps) {
@@ -146,15 +158,16 @@ void RowCopy::add(const QString &table) {
 void RowCopy::replace(const QString &table) {
     noteUncertainty(table);
     mStore.execute("SAVEPOINT Ersatz");
-    auto undo = qScopeGuard([this] { // the delivered rows are better than none
+    try {
+        mStore.execute("DELETE FROM main." + quoted(table));
+        add(table);
+    } catch (const Fehler &) { // the delivered rows are better than none
         if (mStore.inTransaction()) {
             mStore.execute("ROLLBACK TO Ersatz");
             mStore.execute("RELEASE Ersatz");
         }
-    });
-    mStore.execute("DELETE FROM main." + quoted(table));
-    add(table);
-    undo.dismiss();
+        throw;
+    }
     mStore.execute("RELEASE Ersatz");
 }
 

@@ -63,6 +63,7 @@ class RowCopy {
     CopyRecord finish();
 
   private:
+    void openSound(const QString &fresh);
     void copy(const QString &table, const QString &into, const QString &select);
     QString columnsFor(const QString &table);
     bool exists(const QString &schema, const QString &table);

@@ -188,23 +188,17 @@ JOURNEY_ROWS(Updating, MovesTheTablesOfItsVersion, "301//301/2099-01-01", "302//
 
 JOURNEY_P(Updating, RefusesWhatIsNoUpdate) {
     legeDatenbankAn("plain", false);
-    for (const char *file : {"none", "unknown", "damaged"}) {
+    for (const char *file : {"none", "unknown"}) {
         deliver("301");
         QFile::copy(gelieferteDatenbank, file);
     }
-    for (const auto &[name, sql] :
-         {std::pair{"none", "UPDATE ToDo SET ja = 0"},
-          {"unknown", "UPDATE ToDo SET Funktion = '303'"},
-          {"damaged", "INSERT INTO Rezeptnamen (RezName) WITH RECURSIVE n(i) AS (SELECT 1 UNION "
-                      "ALL SELECT i + 1 FROM n WHERE i < 9000) SELECT i FROM n"}}) {
+    for (const auto &[name, sql] : {std::pair{"none", "UPDATE ToDo SET ja = 0"},
+                                    {"unknown", "UPDATE ToDo SET Funktion = '303'"}}) {
         Datenbank file;
         file.openFile(name);
         file.execute(sql);
     }
-    QFile damaged("damaged"), text("text");
-    EXPECT_TRUE(damaged.open(QIODevice::ReadWrite) && damaged.seek(damaged.size() / 16384 * 12288));
-    damaged.write(QByteArray(4096, 'x'));
-    damaged.close();
+    QFile text("text");
     EXPECT_TRUE(text.open(QIODevice::WriteOnly));
     text.write(QByteArray("Kunden, von Hand aufgeschrieben.\n").repeated(400));
     text.close();
@@ -221,12 +215,29 @@ JOURNEY_P(Updating, RefusesWhatIsNoUpdate) {
         txtDb_neu = none ; ? noUpdateFile ; pbUpdateDb
         txtDb_neu = unknown ; ? noUpdateFile ; pbUpdateDb
         txtDb_neu = torvena470.mdb ; ? noUpdateFile ; pbUpdateDb
-        txtDb_neu = damaged ; ? updateFailed(3343) ; pbUpdateDb
         txtDb_neu = text ; ? updateFailure(R_09, 3343) ; pbUpdateDb
         txtDb_neu = nowhere ; ? updateFailure(R_09, 53) ; pbUpdateDb ; filled == no
-        files ~ ^(torvena470_DAY(_[1-4])?.mdb.?){5}$ ; pbexit ; @Desktop)");
+        files ~ ^(torvena470_DAY(_[1-3])?.mdb.?){4}$ ; pbexit ; @Desktop)");
     EXPECT_EQ(asked, ".mdb (torvena470_neu.mdb)");
     EXPECT_EQ(rowsOf(datenbankName), before);
+}
+
+// Once: behind it nothing more can be written.
+JOURNEY_ROWS(Updating, TellsWhichDatabaseIsDamaged, "new/Die neue Datenbank",
+             "empty/Die neue Datenbank", "used/Die Datenbank") {
+    const QStringList row = givenRow.split('/');
+    deliver("301");
+    co_await go("login ; mnuUpdate ; @Refresh");
+    gDatenbank.openFile(row[0] == "used" ? datenbankName : gelieferteDatenbank);
+    const int page = grid("SELECT rootpage FROM sqlite_master WHERE name = 'Kunden'").toInt();
+    gDatenbank.openFile(datenbankName);
+    QFile file(row[0] == "used" ? datenbankName : gelieferteDatenbank);
+    EXPECT_TRUE(file.open(QIODevice::ReadWrite) && file.seek((page - 1) * 4096));
+    file.write(QByteArray(4096, 'x'));
+    if (row[0] == "empty")
+        file.resize(0);
+    file.close();
+    co_await go("? updateFailed(3343 " + row[1] + " ist) ; pbUpdateDb ; filled == no");
 }
 
 JOURNEY(Updating, IsCancelledWhileItCopies) {
