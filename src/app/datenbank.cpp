@@ -17,7 +17,8 @@ namespace {
 
 /// The directory of an older build: brought up to date, and told once.
 void aufStandBringen() {
-    systemLesen(); // whose language the box speaks
+    systemLesen();                                 // whose language the box speaks
+    gDatenbank.open("SELECT Version FROM System"); // without it stays open, for frmRefresh
     gDatenbank.close();
     const QString kopie = sichereUndBringeAufStand(datenbankName);
     gDatenbank.openFile(datenbankName);

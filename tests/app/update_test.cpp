@@ -186,6 +186,15 @@ JOURNEY_ROWS(Updating, MovesTheTablesOfItsVersion, "301//301/2099-01-01", "302//
     gDatenbank.openFile(datenbankName);
 }
 
+JOURNEY(Updating, TakesWhatIsTooOldToBeBroughtUpToDate) {
+    change("ALTER TABLE System DROP COLUMN Version");
+    change("PRAGMA user_version = 0");
+    deliver("203");
+    co_await go(R"(
+        ? startFailed(3265) ; login ; mnuUpdate ; @Refresh ; ? restart? cancel ; pbUpdateDb
+        files == torvena470_DAY.mdb torvena470_empty.mdb torvena470_neu.mdb)");
+}
+
 JOURNEY_P(Updating, RefusesWhatIsNoUpdate) {
     legeDatenbankAn("plain", false);
     for (const char *file : {"none", "unknown"}) {
