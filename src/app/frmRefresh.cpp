@@ -172,10 +172,9 @@ bool frmRefresh::fnc_SecCopy() try {
     safetyCopy(datenbankName, [this] { return weiter(); });
     return true;
 } catch (const Fehler &fehler) {
+    if (fehler.number() != fehlernummer::UserInterrupt)
+        melden("R_02", fehler);
     removeFile(gefüllteDatenbank);
-    if (fehler.number() == fehlernummer::UserInterrupt)
-        return false;
-    melden("R_02", fehler);
     return false;
 }
 

@@ -277,7 +277,13 @@ JOURNEY(Updating, IsCancelledWhileItCopies) {
     watch.stop();
     EXPECT_EQ(shown.value(0), "Die neue Datenbank wird kopiert.");
     EXPECT_EQ(shown.last(), "Tabelle Messwerte_temp, 300.036 Zeilen");
-    co_await go("files == torvena470_DAY.mdb torvena470_neu.mdb ; key Escape ; @Desktop");
+    co_await go("files == torvena470_DAY.mdb torvena470_neu.mdb");
+    setFileWatcher([](const QString &operation, const QString &file) {
+        return operation == "move" && file != gefüllteDatenbank ? EACCES : 0;
+    });
+    co_await go(R"(
+        ? updateFailure(R_02, 75) ; pbUpdateDb ; files == torvena470_DAY.mdb torvena470_neu.mdb
+        filled == no ; key Escape ; @Desktop)");
     EXPECT_TRUE(content() == before);
 }
 
