@@ -1,6 +1,7 @@
 #include "store/databasecopy.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QScopeGuard>
 
@@ -59,6 +60,8 @@ QString safetyCopy(const QString &path, const std::function<bool()> &goesOn) {
     int counter = 0;
     while (QFileInfo::exists(file.dir().filePath(name(counter))))
         ++counter;
-    copyDatabase(path, file.dir().filePath(name(counter)), goesOn);
+    const QString copy = file.dir().filePath(name(counter));
+    copyDatabase(path, copy, goesOn);
+    QFile::setPermissions(copy, QFile::permissions(path)); // whoever may read the one may the other
     return name(counter);
 }
