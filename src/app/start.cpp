@@ -5,6 +5,7 @@
 #include "app/screentable.h"
 #include "link/controller.h"
 #include "link/einlauf.h"
+#include "link/ergometer.h"
 #include "measure/messablauf.h"
 #include "platform/fehler.h"
 #include "platform/guard.h"
@@ -76,6 +77,7 @@ void programmStarten() {
     setPreviewTexts(previewTexts);
     controllerVorbereiten();
     einlaufVorbereiten();
+    ergometerVorbereiten();
     bindScreens();
     form(frm::Splash).show();
 }
@@ -103,10 +105,11 @@ void beendenOhneFrage() {
 
 void programmAufräumen() {
     gDesktopAktiv = false;
-    for (Timer *timer : {&Timer1, &tiDrehzahl, &tiEinlauf})
+    for (Timer *timer : {&Timer1, &tiDrehzahl, &tiEinlauf, &ti_nSSTwo})
         timer->setEnabled(false);
     closePreviews();
     closeAllScreens();
     MSComm1.setPortOpen(false);
+    MSComm2.setPortOpen(false);
     gDatenbank.close();
 }

@@ -24,7 +24,7 @@ QString fnc_HexString(const QByteArray &bytes) {
     return QString::fromLatin1(bytes.toHex().toUpper());
 }
 
-QString fnc_Transformation(const QString &text) try {
+QByteArray fnc_Transformation(const QString &text) try {
     QString output;
     QString before;
     qsizetype start = -1; // of the digits; no bracket has opened yet
@@ -45,7 +45,7 @@ QString fnc_Transformation(const QString &text) try {
             output += text[i];
         }
     }
-    return output;
+    return output.toLatin1();
 } catch (const Fehler &fehler) {
     fehlerBox("mSI 4 - ", fehler);
     return {};

@@ -9,6 +9,7 @@
 #include "link/anschluss.h"
 #include "link/controller.h"
 #include "link/einlauf.h"
+#include "link/ergometer.h"
 #include "platform/runtime.h"
 #include "session/auswahl.h"
 #include "session/session.h"
@@ -31,6 +32,7 @@ Workshop::Workshop()
     gDesktopAktiv = true;
     controllerVorbereiten();
     einlaufVorbereiten();
+    ergometerVorbereiten();
     setBeeper([this] { ++beeps; });
 }
 
@@ -49,7 +51,9 @@ void Workshop::forgetSession() {
     gEinlaufStatus = {};
     gDesktopFolge = {};
     gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
-    gSS1Geprüft = 0;
+    gSS1Geprüft = gSS2Geprüft = 0;
+    gSS2Vorhanden = gTimeoutSS2 = gEPModus = gToleranzOK = false;
+    gEPProtokollID = gEPRezeptID = gEPZähler = 0;
     gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
     gEinlaufzeit = gEinlaufLeistung = 0;
     gBerichtProtokoll = 0;
