@@ -212,11 +212,10 @@ bool Drehzahldecoder::feed(std::uint8_t byte) {
 }
 
 std::optional<QString> fnc_ErgometerDrehzahlLesen(const std::function<bool()> &abgelöst) try {
-    const auto drehzahl =
-        drehzahlFragen([&abgelöst] { return !gDesktopAktiv || !MSComm2.PortOpen() || abgelöst(); });
-    if (drehzahl)
+    const auto vorbei = [&abgelöst] { return !gDesktopAktiv || !MSComm2.PortOpen() || abgelöst(); };
+    if (const auto drehzahl = drehzahlFragen(vorbei))
         return Str(*drehzahl);
-    if (gTimeoutSS2) {
+    if (!vorbei()) {
         meldung(
             {"Keine Kommunikation mit dem Ergometer!!", "No communication with this ergometer!"},
             Critical, {"!! Achtung Fehler !!", "!! Attention !!"});
