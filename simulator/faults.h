@@ -13,6 +13,10 @@ struct Faults {
     bool babble = false;          // random bytes all the time, between all others
     bool wrongMode = false;       // "#" is never answered with the lever-arm mode
     bool silentErgometer = false; // the ergometer takes its load, but answers nothing
+    double answerDelay = 0;       // ms by which every answer of the ergometer is late
+    bool wrongAnswer = false;     // its first byte is no "n"
+    int answerLength = 0;         // only so many bytes of it come, 0 for all
+    bool letterAnswer = false;    // letters in the places of its digits
 
     bool operator==(const Faults &) const = default;
 };

@@ -39,6 +39,11 @@ const FaultChoice FaultChoices[] = {
     {"Zufällige Bytes auf der Leitung", {.babble = true}},
     {"Falsche Betriebsart", {.wrongMode = true}},
     {"Ergometer stumm", {.silentErgometer = true}},
+    {"Ergometer antwortet 3 s verspätet", {.answerDelay = 3000}},
+    {"Ergometer antwortet 6 s verspätet", {.answerDelay = 6000}},
+    {"Ergometer antwortet mit falschem Zeichen", {.wrongAnswer = true}},
+    {"Ergometer bricht nach zwei Zeichen ab", {.answerLength = 2}},
+    {"Ergometer sendet Buchstaben statt Ziffern", {.letterAnswer = true}},
 };
 
 QLabel *value(QFormLayout *form, const char *caption, const char *name) {
@@ -120,6 +125,7 @@ QGroupBox *Panel::display() {
 QGroupBox *Panel::ergometer() {
     auto *box = new QGroupBox("Ergometer");
     auto *form = new QFormLayout(box);
+    mGivenLoad = value(form, "Vorgabe über COM4", "laGivenLoad");
     mLoad = new QSpinBox;
     mLoad->setObjectName("sbLoad");
     mLoad->setRange(0, StrongestLoad);
@@ -212,6 +218,7 @@ void Panel::refresh() {
         const int watts = static_cast<int>(std::lround(stand.load()));
         follow(mLoad, std::min(watts, StrongestLoad));
         follow(mLoadSlider, std::min(watts, StrongestLoad));
+        mGivenLoad->setText(stand.givenLoad() ? shown(*stand.givenLoad(), 0, "W") : "keine");
         follow(mCoupled, stand.coupled());
         follow(mLeverArm, static_cast<int>(stand.leverArm()));
         follow(mLeverMode, stand.leverMode());

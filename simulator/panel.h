@@ -37,6 +37,7 @@ class Panel : public QWidget {
     QLabel *mTorque = nullptr;
     QLabel *mPower = nullptr;
     QLabel *mMotor = nullptr;
+    QLabel *mGivenLoad = nullptr;
     QSpinBox *mLoad = nullptr;
     QSlider *mLoadSlider = nullptr;
     QCheckBox *mCoupled = nullptr;

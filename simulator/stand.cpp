@@ -252,15 +252,30 @@ void Stand::reply(std::string bytes, double latency) {
 void Stand::ergometerLine() {
     const std::string_view line = mErgometerLine;
     if (line == "D" && !mFaults.silentErgometer) {
-        const double shown = mCoupled ? speed() + mSpeedError : 0;
-        char answer[8];
-        std::snprintf(answer, sizeof answer, "n%03d",
-                      static_cast<int>(std::lround(std::clamp(shown, 0.0, 999.0))));
-        mSecondOut.put(answer, mNow + AnswerLatency, mRecordArrival);
+        mSecondOut.put(ergometerAnswer(), mNow + AnswerLatency + mFaults.answerDelay,
+                       Arrival::ByteByByte);
     } else if (line.size() == 4 && line[0] == 'W') {
-        if (const auto watts = digits(line.substr(1), 999))
+        if (const auto watts = digits(line.substr(1), 999)) {
             mLoad = *watts;
+            mGivenLoad = *watts;
+        }
     }
+}
+
+/// "n", three digits of the speed in 1/min, end of line.
+std::string Stand::ergometerAnswer() const {
+    const double shown = mCoupled ? speed() + mSpeedError : 0;
+    char answer[8];
+    std::snprintf(answer, sizeof answer, "n%03d\r",
+                  static_cast<int>(std::lround(std::clamp(shown, 0.0, 999.0))));
+    std::string bytes = answer;
+    if (mFaults.wrongAnswer)
+        bytes[0] = 'x';
+    if (mFaults.letterAnswer)
+        bytes.replace(1, 3, "abc");
+    if (mFaults.answerLength > 0)
+        bytes.resize(std::min(bytes.size(), static_cast<std::size_t>(mFaults.answerLength)));
+    return bytes;
 }
 
 void Stand::setLoad(double watts) {

@@ -53,8 +53,8 @@ class Stand {
     void setErgometerSpeedError(double speed) { mSpeedError = speed; } // 1/min
     void setTorqueError(double torque) { mTorqueError = torque; }      // N m, of the standard
     void setSerialNumber(std::string number) { mSerialNumber = std::move(number); }
-    /// Whether stream records and answers of the ergometer arrive together. Echoes and texts of
-    /// the controller always come byte by byte.
+    /// Whether stream records arrive together. Echoes and texts of the controller, and the answers
+    /// of the ergometer, always come byte by byte.
     void setWholeRecords(bool whole) {
         mRecordArrival = whole ? Arrival::Together : Arrival::ByteByByte;
     }
@@ -70,8 +70,10 @@ class Stand {
     LeverArm leverArm() const { return mLeverArm; }
     bool leverMode() const { return mLeverMode; }
     double load() const { return mLoad; } // W, as set on the ergometer
-    double torque() const;                // N m, as the standard measures it
-    double power() const;                 // W, likewise
+    /// W, the latest one that the ergometer was given over its line.
+    std::optional<int> givenLoad() const { return mGivenLoad; }
+    double torque() const; // N m, as the standard measures it
+    double power() const;  // W, likewise
     std::optional<double> offsetWritten() const { return mOffsetWritten; } // raw
     std::optional<double> factorWritten() const { return mFactorWritten; }
     /// All that came in on either line.
@@ -103,6 +105,7 @@ class Stand {
     void frameConfirmed();
     void reply(std::string bytes, double latency);
     void ergometerLine();
+    std::string ergometerAnswer() const;
 
     void startStream(Stream stream);
     std::string record();
@@ -140,6 +143,7 @@ class Stand {
     Arrival mRecordArrival = Arrival::Together;
     double mLeverMoment = 30;
     double mLoad = 0;
+    std::optional<int> mGivenLoad;
     double mOffsetDrift = 0.2;
     double mGainDrift = -0.15;
     double mReadingNoise = 0.15;

@@ -94,7 +94,7 @@ constexpr Setting Settings[] = {
      [](Stand &s, std::string_view w) { s.setErgometerSpeedError(number(w, -300, 300)); }},
     {"torqueerror", "NM: of the torque that the standard measures",
      [](Stand &s, std::string_view w) { s.setTorqueError(number(w, -100, 100)); }},
-    {"split", "on|off: records and ergometer answers come byte by byte",
+    {"split", "on|off: records come byte by byte",
      [](Stand &s, std::string_view w) { s.setWholeRecords(!onOff(w)); }},
     {"serial", "TEXT: serial number of the standard",
      [](Stand &s, std::string_view w) { s.setSerialNumber(std::string(w)); }},
@@ -125,6 +125,14 @@ constexpr Fault FaultTable[] = {
      [](Faults &f, std::string_view w) { f.wrongMode = onOff(w); }},
     {"ergometer", "on|off: the ergometer answers nothing",
      [](Faults &f, std::string_view w) { f.silentErgometer = onOff(w); }},
+    {"answerlate", "MS: every answer of the ergometer is late, 0 to 60000",
+     [](Faults &f, std::string_view w) { f.answerDelay = number(w, 0, 60000); }},
+    {"answerwrong", "on|off: its first byte is wrong",
+     [](Faults &f, std::string_view w) { f.wrongAnswer = onOff(w); }},
+    {"answercut", "N: only N bytes of it come, 0 for all",
+     [](Faults &f, std::string_view w) { f.answerLength = count(w); }},
+    {"answerletters", "on|off: letters for its digits",
+     [](Faults &f, std::string_view w) { f.letterAnswer = onOff(w); }},
 };
 
 std::string help() {
@@ -154,12 +162,13 @@ std::string status(const Stand &stand) {
     std::snprintf(
         line, sizeof line,
         "set=%.2f speed=%.2f direction=%s motor=%s load=%.0f torque=%.2f power=%.2f coupled=%s "
-        "lever=%s mode=%s offset=%s factor=%s\n",
+        "lever=%s mode=%s offset=%s factor=%s given=%s\n",
         stand.setSpeed(), stand.speed(), stand.direction() == Direction::Right ? "right" : "left",
         stand.motorOn() ? "on" : "off", stand.load(), stand.torque(), stand.power(),
         stand.coupled() ? "on" : "off", Sides[static_cast<int>(stand.leverArm())],
         stand.leverMode() ? "lever" : "normal", text(stand.offsetWritten()).c_str(),
-        text(stand.factorWritten()).c_str());
+        text(stand.factorWritten()).c_str(),
+        stand.givenLoad() ? std::to_string(*stand.givenLoad()).c_str() : "none");
     return line;
 }
 

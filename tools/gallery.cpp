@@ -106,14 +106,24 @@ class Gallery : public Workplace {
         co_await arrive(from);
     }
 
-    Journey port(int number, const char *pictureName) {
-        form(frm::Interface).show();
-        co_await arrive(frm::Interface);
-        control<QScrollBar>(frm::Interface, "SbCOM")->setValue(number == 1 ? 2 : 1);
-        control<QScrollBar>(frm::Interface, "SbCOM")->setValue(number);
+    Journey port(frm screen, int number, const char *pictureName) {
+        form(screen).show();
+        co_await arrive(screen);
+        control<QScrollBar>(screen, "SbCOM")->setValue(2);
+        control<QScrollBar>(screen, "SbCOM")->setValue(number);
         co_await pass(50);
         picture(pictureName);
-        form(frm::Interface).unload();
+        form(screen).unload();
+    }
+
+    Journey ergometer() {
+        co_await port(frm::SecondInterface, 9, "secondinterface-fehlt");
+        co_await port(frm::SecondInterface, 4, "secondinterface-da");
+        form(frm::Test).show();
+        co_await arrive(frm::Test);
+        co_await go("stand speederror 60 ; txtSSCode = D ; pbSend ; pass 50 ; pbSave");
+        picture("test");
+        co_await go("stand speederror 0 ; pbexit ; @Desktop");
     }
 
     Journey masterData() {
@@ -256,8 +266,9 @@ class Gallery : public Workplace {
         co_await arrive(frm::Desktop);
         picture("desktop-start");
         co_await opened(frm::Interface, "interface");
-        co_await port(1, "interface-da");
-        co_await port(9, "interface-fehlt");
+        co_await port(frm::Interface, 1, "interface-da");
+        co_await port(frm::Interface, 9, "interface-fehlt");
+        co_await ergometer();
         gFormStatus = Formstatus::RichtungFehlt;
         co_await opened(frm::VorStatNPK, "vorstatnpk-hebelarm");
         gFormStatus = Formstatus::Keiner;

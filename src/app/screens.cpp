@@ -13,6 +13,7 @@
 #include "calibration/frmOberfl.h"
 #include "link/frmEinlaufen.h"
 #include "link/frmInterface.h"
+#include "link/frmSecondInterface.h"
 #include "masterdata/frmAendGeraet.h"
 #include "masterdata/frmAendKund.h"
 #include "masterdata/frmAendRez.h"
@@ -53,6 +54,7 @@ void bindScreens() {
     bindScreen<frmMeldung1>();
     bindScreen<frmRefresh>();
     bindScreen<frmInterface>();
+    bindScreen<frmSecondInterface>();
     bindScreen<frmEinlaufen>();
     bindScreen<frmKunden>();
     bindScreen<frmNeuKunde>();

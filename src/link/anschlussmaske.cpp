@@ -16,6 +16,7 @@ Anschlussmaske::Anschlussmaske(const Anschluss &anschluss) : mAnschluss(anschlus
     platz.setRetainSizeWhenHidden(true);
     ui.Schild->setSizePolicy(platz);
     ui.Schild->hide(); // nothing was tried yet
+    ui.Label4->hide();
     ui.cmbBaud->addItems(Schnittstelle::baudraten());
     ui.cmbDatenbits->addItems(Schnittstelle::datenbitzahlen());
     ui.cmbParitaet->addItems(Schnittstelle::paritäten());
@@ -26,15 +27,18 @@ Anschlussmaske::Anschlussmaske(const Anschluss &anschluss) : mAnschluss(anschlus
     onEscape([this] { unload(); });
 }
 
-void Anschlussmaske::einstellungZeigen() {
+void Anschlussmaske::einstellungZeigen(std::optional<int> port) {
     const Leitungseinstellung row = leitungLesen(mAnschluss.tabelle);
-    ui.SbCOM->setValue(row.port);                  // txtCOM is empty, so nothing is tried
-    ui.txtCOM->setText(QString::number(row.port)); // also one above those of the bar
+    const int number = port.value_or(row.port);
+    ui.SbCOM->setValue(number);                  // txtCOM is empty, so nothing is tried
+    ui.txtCOM->setText(QString::number(number)); // also one above those of the bar
     const Schnittstelle fields = Schnittstelle::ausParameter(row.parameter);
     ui.cmbBaud->setCurrentIndex(ui.cmbBaud->findText(fields.baud));
     ui.cmbParitaet->setCurrentIndex(ui.cmbParitaet->findText(fields.parität));
     ui.cmbDatenbits->setCurrentIndex(ui.cmbDatenbits->findText(fields.datenbits));
-    ui.cmbStoppbits->setCurrentIndex(ui.cmbStoppbits->findText(fields.stoppbits));
+    // The list may be worded with a decimal comma.
+    const auto stop = Schnittstelle::stoppbitzahlen().indexOf(fields.stoppbits);
+    ui.cmbStoppbits->setCurrentIndex(static_cast<int>(stop));
     if (mAnschluss.geprüft == mAnschluss.leitung.CommPort())
         zustandZeigen();
 }
@@ -58,6 +62,8 @@ void Anschlussmaske::SbCOM_Change() {
         ui.SbCOM->setEnabled(false);
         ui.SbCOM->setEnabled(true);
         ui.SbCOM->setFocus();
+        if (anschlussVergeben(value))
+            return;
         const QScopedValueRollback trial(mVersuchLäuft, true);
         portWechseln(mAnschluss.leitung, value);
         if (portPrüfen(mAnschluss) == platform::fehlernummer::PortSettings)
@@ -79,4 +85,5 @@ void Anschlussmaske::zustandZeigen() {
         },
         ui.Label2->text());
     ui.Schild->show();
+    ui.Label4->setVisible(!da && !ui.Label4->text().isEmpty());
 }

@@ -2,6 +2,8 @@
 // so it is shown modal and never while an exchange is under way.
 #pragma once
 
+#include <optional>
+
 #include "link/anschluss.h"
 #include "session/screens.h"
 #include "ui_anschlussmaske.h"
@@ -11,10 +13,13 @@ class Anschlussmaske : public Screen {
     explicit Anschlussmaske(const Anschluss &anschluss);
 
     virtual void pbok_Click() = 0;
-    /// Puts the row into the fields; nothing is tried. Raises as leitungLesen.
-    void einstellungZeigen();
+    /// The port may not be taken: told here, and the bar goes elsewhere.
+    virtual bool anschlussVergeben(int) { return false; }
+    /// Puts the row into the fields, or its parameters and another port; nothing is tried. Raises
+    /// as leitungLesen.
+    void einstellungZeigen(std::optional<int> port = {});
     Schnittstelle felder() const;
-    /// Whether the port is there.
+    /// Whether the port is there. Label4 is seen while it is not, if it has a text.
     void zustandZeigen();
 
     Ui::anschlussmaske ui;

@@ -24,7 +24,7 @@ QString fnc_HexString(const QByteArray &bytes) {
     return QString::fromLatin1(bytes.toHex().toUpper());
 }
 
-QByteArray fnc_Transformation(const QString &text) try {
+QByteArray zeilenbytes(const QString &text) {
     QString output;
     QString before;
     qsizetype start = -1; // of the digits; no bracket has opened yet
@@ -46,6 +46,10 @@ QByteArray fnc_Transformation(const QString &text) try {
         }
     }
     return output.toLatin1();
+}
+
+QByteArray fnc_Transformation(const QString &text) try {
+    return zeilenbytes(text);
 } catch (const Fehler &fehler) {
     fehlerBox("mSI 4 - ", fehler);
     return {};

@@ -18,8 +18,10 @@ QString frameText(const QString &command, std::int16_t direction, QString value)
 QString fnc_HexString(const QByteArray &bytes);
 
 /// The bytes of a line to the ergometer. A decimal code in brackets is the character of that code:
-/// "W000[13]" ends in a carriage return. An unclosed "[" vanishes and leaves its digits. Trapped:
-/// what cannot be read as a code is reported in a box, and the result is empty.
+/// "W000[13]" ends in a carriage return. An unclosed "[" vanishes and leaves its digits. Raises
+/// TypeMismatch for what cannot be read as a code.
+QByteArray zeilenbytes(const QString &text);
+/// The same, trapped: reported in a box, and the result is empty.
 QByteArray fnc_Transformation(const QString &text);
 
 /// Reads the frequency stream until the shaft turns slower than half a revolution per second.

@@ -36,7 +36,6 @@ frmInterface::frmInterface() : Anschlussmaske(steuerleitung) {
 void frmInterface::Form_Load() try {
     mVorher = MSComm1.CommPort();
     beschriftungenSetzen(ui, *this, english);
-    ui.pbSS2->setEnabled(exists(frm::SecondInterface));
     einstellungZeigen();
     ui.SbCOM->setFocus();
 } catch (const Fehler &fehler) {

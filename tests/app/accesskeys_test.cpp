@@ -204,7 +204,9 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
         pbNeuRezept ; @NeuRezept ; txtRezName = New ; stop == Neues Rezept | New Recipe ; pbexit
         @Rezepte ; pbexit ; @Desktop ; pbRezept ; @Rezepte ; cmbRezeptname = Short
         stop == Rezepte | Recipes ; pbok ; @Desktop ; stop == torvena ; mnuSSParameter ; @Interface
-        stop == Schnittstellenparameter | Interface Settings ; pbexit ; @Desktop ; mnuEinlaufen
+        stop == Schnittstellenparameter | Interface Settings ; pbSS2 ; @SecondInterface
+        stop == Parameter der zweiten Schnittstelle | Second Interface Settings ; pbexit ; @Desktop
+        mnuEinlaufen
         @Einlaufen ; stop == Einlaufparameter | Running-In Parameters ; pbAbbrechen ; @Desktop
         mnuRoute ; @Sort ; stop == Kundendatenbank | Customer Database ; pbok ; @Desktop
         mnuProtVerw ; @Bericht1 ; pbDeleteExt ; @DeleteExtended

@@ -82,6 +82,11 @@ inline constexpr KnownBox boxTexts[] = {
     {"motorOffAtEnd", Exclamation, "Motor aus", "Motor Off", "Fehler", "Error"},
     {"motorNotOn", Critical, "Motor ein", "Motor On", "Motor konnte nicht eingeschaltet werden", "It was not possible to switch the motor on."},
     {"noSettings", Exclamation, "Achtung!", "Attention!", "Die Schnittstellenparameter gibt es nicht. \rBitte korrigieren Sie die Einstellungen!", "The interface settings do not exist . \rPlease correct it!"},
+    {"reserved", Critical, "Ändern der Schnittstelle", "Change the interface", "Die Schnittstelle %1 ist reserviert!", "This interface %1 is reserved!"},
+    {"noSecondPort", YesNo, "Achtung!", "Attention!", "Diese Schnittstelle gibt es nicht!\rSie können keine automatische Messung vornehmen!\rWollen Sie die Schnittstellenparameter jetzt ändern?", "This interface does not exist!\rYou can not make an automatic measurement!\rDo you want to change the interface parameters now?"},
+    {"ergometerSilent", Critical, "!! Achtung Fehler !!", "!! Attention !!", "Keine Kommunikation mit dem Ergometer!!", "No communication with this ergometer!"},
+    {"noAnswer", Critical, "Fehlermeldung", "Fehlermeldung", "Keine Kommunikation mit dem Ergometer!!", "Keine Kommunikation mit dem Ergometer!!"},
+    {"wrongAnswer", Critical, "Übertragungsfehler", "Übertragungsfehler", "Fehler bei Übertragung der Drehzahl!", "Fehler bei Übertragung der Drehzahl!"},
     {"noSuchPort", Exclamation, "Achtung!", "!Attention!", "Diese Schnittstelle gibt es nicht!\rBitte ändern Sie die Einstellungen", "This interface does not exist!\rChange the settings, please!"},
     {"parameter", Critical, "Eingabefehler", "Attention", "Mindestens ein Parameter konnte nicht gespeichert werden!", "At least one parameter could not be saved!"},
     // the lever arm

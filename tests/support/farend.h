@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "stand.h"
+#include "standcommands.h"
 
 namespace support {
 
@@ -24,13 +24,23 @@ class FarEnd {
     virtual std::optional<double> nextEvent() const = 0;
 };
 
+/// One of the lines of the stand.
 class StandEnd final : public FarEnd {
   public:
-    void receive(std::string_view bytes, double now) override { stand.receive(bytes, now); }
-    std::string take(double now) override { return stand.take(now); }
-    std::optional<double> nextEvent() const override { return stand.nextEvent(); }
+    StandEnd(simulator::Stand &stand, simulator::Line line) : mStand(stand), mLine(line) {}
+    void receive(std::string_view bytes, double now) override {
+        first() ? mStand.receive(bytes, now) : mStand.receiveSecond(bytes, now);
+    }
+    std::string take(double now) override {
+        return first() ? mStand.take(now) : mStand.takeSecond(now);
+    }
+    std::optional<double> nextEvent() const override { return mStand.nextEvent(); }
 
-    simulator::Stand stand;
+  private:
+    bool first() const { return mLine == simulator::Line::Controller; }
+
+    simulator::Stand &mStand;
+    simulator::Line mLine;
 };
 
 class ByteScript final : public FarEnd {

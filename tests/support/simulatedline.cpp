@@ -8,51 +8,59 @@ using namespace platform;
 
 class SimulatedLine::Device : public SerialDevice {
   public:
-    explicit Device(SimulatedLine &line) : mLine(line) {}
+    Device(SimulatedLine &line, End &end) : mClock(line.mClock), mEnd(end) {}
 
     void open(const SerialSettings &) override {
-        if (!mLine.mPlugged)
+        if (!mEnd.plugged)
             throw Fehler(fehlernummer::NoSuchPort, {"fehlt", "missing"});
-        if (mLine.mOccupied)
+        if (mEnd.occupied)
             throw Fehler(fehlernummer::PortInUse, {"belegt", "in use"});
-        mGeneration = mLine.mGeneration;
+        mGeneration = mEnd.generation;
         discard();
     }
     void write(const QByteArray &bytes) override {
-        mLine.mFarEnd->receive(std::string_view(bytes.constData(), size_t(bytes.size())),
-                               mLine.mClock.elapsed());
+        mEnd.farEnd->receive(std::string_view(bytes.constData(), size_t(bytes.size())),
+                             mClock.elapsed());
     }
     QByteArray readAll() override {
         collect();
-        return std::exchange(mLine.mArrived, {});
+        return std::exchange(mEnd.arrived, {});
     }
     void discard() override { readAll(); }
     qsizetype waiting() override {
         collect();
-        return mLine.mArrived.size();
+        return mEnd.arrived.size();
     }
-    bool lost() const override { return !mLine.mPlugged || mGeneration != mLine.mGeneration; }
+    bool lost() const override { return !mEnd.plugged || mGeneration != mEnd.generation; }
 
   private:
     void collect() {
-        mLine.mArrived += QByteArray::fromStdString(mLine.mFarEnd->take(mLine.mClock.elapsed()));
+        mEnd.arrived += QByteArray::fromStdString(mEnd.farEnd->take(mClock.elapsed()));
     }
 
-    SimulatedLine &mLine;
+    TestClock &mClock;
+    End &mEnd;
     int mGeneration = 0;
 };
 
 SimulatedLine::SimulatedLine(TestClock &clock) : mClock(clock) {
     setSerialDeviceMaker([this](const QString &location) -> std::unique_ptr<SerialDevice> {
-        if (!location.endsWith("ttyS0") && !location.endsWith("COM1"))
+        const bool first = location.endsWith("ttyS0") || location.endsWith("COM1");
+        if (!first && !location.endsWith("ttyS3") && !location.endsWith("COM4"))
             throw Fehler(fehlernummer::NoSuchPort, {"fehlt", "missing"});
-        return std::make_unique<Device>(*this);
+        return std::make_unique<Device>(*this, mEnds[first ? 0 : 1]);
     });
-    mClock.nextOutside = [this] { return mFarEnd->nextEvent(); };
+    mClock.nextOutside = [this] {
+        const auto one = mEnds[0].farEnd->nextEvent();
+        const auto other = mEnds[1].farEnd->nextEvent();
+        return one && other ? std::optional(std::min(*one, *other)) : one ? one : other;
+    };
     mClock.outside = [this] {
-        const std::string bytes = mFarEnd->take(mClock.elapsed());
-        if (mPlugged)
-            mArrived += QByteArray::fromStdString(bytes);
+        for (End &end : mEnds) {
+            const std::string bytes = end.farEnd->take(mClock.elapsed());
+            if (end.plugged)
+                end.arrived += QByteArray::fromStdString(bytes);
+        }
     };
 }
 
@@ -62,14 +70,14 @@ SimulatedLine::~SimulatedLine() {
 }
 
 simulator::Stand &SimulatedLine::stand() {
-    mStand.stand.advance(mClock.elapsed());
-    return mStand.stand;
+    mStand.advance(mClock.elapsed());
+    return mStand;
 }
 
-void SimulatedLine::unplug() {
-    mPlugged = false;
-    ++mGeneration;
-    mArrived.clear();
+void SimulatedLine::unplug(Line line) {
+    end(line).plugged = false;
+    ++end(line).generation;
+    end(line).arrived.clear();
 }
 
 } // namespace support

@@ -1,4 +1,5 @@
-// The line behind COM1, on virtual time; the simulated stand answers unless a test plays the bytes.
+// The lines behind COM1 and COM4, on virtual time; the simulated stand answers unless a test plays
+// the bytes.
 #pragma once
 
 #include <QByteArray>
@@ -8,6 +9,8 @@
 #include "testclock.h"
 
 namespace support {
+
+using simulator::Line;
 
 class SimulatedLine {
   public:
@@ -19,23 +22,29 @@ class SimulatedLine {
     /// The stand, brought up to the present.
     simulator::Stand &stand();
     /// Another one answers instead of the stand.
-    void connect(FarEnd &other) { mFarEnd = &other; }
+    void connect(FarEnd &other, Line line = Line::Controller) { end(line).farEnd = &other; }
     /// A line that is unplugged while open is lost; plugged again, it can be opened anew.
-    void unplug();
-    void plug() { mPlugged = true; }
+    void unplug(Line line = Line::Controller);
+    void plug(Line line = Line::Controller) { end(line).plugged = true; }
     /// Another program holds the port.
-    void occupy(bool occupied) { mOccupied = occupied; }
+    void occupy(bool occupied, Line line = Line::Controller) { end(line).occupied = occupied; }
 
   private:
     class Device;
+    struct End {
+        FarEnd *farEnd;
+        QByteArray arrived = {};
+        bool plugged = true;
+        bool occupied = false;
+        int generation = 0;
+    };
+    End &end(Line line) { return mEnds[line == Line::Controller ? 0 : 1]; }
 
     TestClock &mClock;
-    StandEnd mStand;
-    FarEnd *mFarEnd = &mStand;
-    QByteArray mArrived;
-    bool mPlugged = true;
-    bool mOccupied = false;
-    int mGeneration = 0;
+    simulator::Stand mStand;
+    StandEnd mController{mStand, Line::Controller};
+    StandEnd mErgometer{mStand, Line::Ergometer};
+    End mEnds[2]{{&mController}, {&mErgometer}};
 };
 
 } // namespace support

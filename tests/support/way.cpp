@@ -174,6 +174,8 @@ Way::Way() {
     views["title"] = [] { return frontScreen()->caption(); };
     views["beeps"] = [this] { return QString::number(std::exchange(beeps, 0)); };
     views["speed"] = [this] { return QString::number(line.stand().speed(), 'g', 3); };
+    views["load"] = [this] { return QString::number(line.stand().load()); };
+    views["wire4"] = [this] { return QString::fromStdString(line.stand().secondWire()); };
     views["wireNow"] = [this] { return QString::fromStdString(line.stand().wire()); };
     views["wire"] = [this] { // since the last question
         const std::string all = line.stand().wire();
@@ -289,8 +291,9 @@ void Way::act(const QString &step) {
     } else if (verb == "stand") {
         EXPECT_EQ(simulator::runCommand(rest.toStdString(), line.stand(), {}), "ok\n");
     } else if (verb == "line") {
-        line.occupy(rest == "taken");
-        rest == "out" ? line.unplug() : line.plug();
+        const Line which = rest.startsWith("4 ") ? Line::Ergometer : Line::Controller;
+        line.occupy(rest.endsWith("taken"), which);
+        rest.endsWith("out") ? line.unplug(which) : line.plug(which);
     } else if (operation == "=" || operation == ":=" || operation == "+") {
         typeInto(verb, spoken(value), operation);
     } else if (operation == ">") {

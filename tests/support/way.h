@@ -21,7 +21,9 @@
 //   change UPDATE ...         by another program;   sql SELECT ... == value
 //   spoil DELETE Rezepte      such a statement fails until   mend;   after spoil SELECT any does
 //   login   protocol Links    a road of the fixture, with what it needs
-//   stand load 100            a command of the simulated stand;   line out   line in   line taken
+//   stand load 100            a command of the simulated stand
+//   line out   line in        the line to the controller, also   line taken;   line 4 out,
+//   ergometer
 //
 // " # " begins a comment. Boxes that a line announces must have come at its end.
 #pragma once

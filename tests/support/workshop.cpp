@@ -52,6 +52,9 @@ void Workshop::forgetSession() {
     gDesktopFolge = {};
     gMessenFreigabe = gMessungLäuft = gMessenAktiv = gTimeoutTimer1 = gSS1Vorhanden = false;
     gSS1Geprüft = gSS2Geprüft = 0;
+    MSComm2.setPortOpen(false);
+    MSComm2.setCommPort(4);
+    MSComm2.setSettings("4800,N,8,1");
     gSS2Vorhanden = gTimeoutSS2 = gEPModus = gToleranzOK = false;
     gEPProtokollID = gEPRezeptID = gEPZähler = 0;
     gKundenID = gGerätID = gRezeptID = gToleranzID = 0;
