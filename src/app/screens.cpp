@@ -11,6 +11,7 @@
 #include "calibration/frmKalibrierung.h"
 #include "calibration/frmMomentKal.h"
 #include "calibration/frmOberfl.h"
+#include "finaltest/frmTest.h"
 #include "link/frmEinlaufen.h"
 #include "link/frmInterface.h"
 #include "link/frmSecondInterface.h"
@@ -91,4 +92,5 @@ void bindScreens() {
     bindScreen<frmSort>();
     bindScreen<frmDeleteExtended>();
     bindScreen<frmHistory>();
+    bindScreen<frmTest>();
 }
