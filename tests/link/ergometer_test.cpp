@@ -14,7 +14,7 @@ using namespace support;
 
 struct Answers : LinkTest {
     Answers() {
-        line.connect(script, Line::Ergometer);
+        line.connect(script, SerialLine::Ergometer);
         gSS2Vorhanden = true;
     }
     /// "n1 @50 23": what comes after the question, and waits between in ms.
@@ -86,14 +86,14 @@ TEST_F(Answers, OfNobodyWhoWaits) {
          cases("stop -> | close -> | end -> | stop and vanish -> | stop late -> | "
                "vanish -> failed(mSI 1, 8020) | gone -> | taken -> failed(mSI 1, 8005)")) {
         SCOPED_TRACE(testing::Message() << c);
-        line.plug(Line::Ergometer);
+        line.plug(SerialLine::Ergometer);
         gDesktopAktiv = gSS2Vorhanden = true;
         stopped = false;
         if (MSComm2.PortOpen())
             MSComm2.setPortOpen(false);
         if (c.in == "gone")
-            line.unplug(Line::Ergometer);
-        line.occupy(c.in == "taken", Line::Ergometer);
+            line.unplug(SerialLine::Ergometer);
+        line.occupy(c.in == "taken", SerialLine::Ergometer);
         clock.after(c.in == "stop late" ? 5000 : 300, [this, what = c.in] {
             stopped = what.startsWith("stop");
             if (what == "close")
@@ -101,7 +101,7 @@ TEST_F(Answers, OfNobodyWhoWaits) {
             if (what == "end")
                 gDesktopAktiv = false;
             if (what.endsWith("vanish"))
-                line.unplug(Line::Ergometer);
+                line.unplug(SerialLine::Ergometer);
         });
         if (!c.out.isEmpty())
             expectKnown(c.out);
@@ -112,7 +112,7 @@ TEST_F(Answers, OfNobodyWhoWaits) {
         clock.run(6000);
     }
     gDesktopAktiv = true;
-    line.occupy(false, Line::Ergometer);
+    line.occupy(false, SerialLine::Ergometer);
     // A second read inside one is refused, and so is a trial, which would close the port.
     answerWith("@200 n123");
     for (const char *box : {"failed(mSI 1, 8021)", "failed(mSI 2, 8021)"})
@@ -152,7 +152,7 @@ TEST_F(Answers, AndLoads) {
     fnc_LastAbschalten();
     EXPECT_FALSE(MSComm2.PortOpen());
     EXPECT_EQ(script.written, "W150\rW000\r");
-    line.unplug(Line::Ergometer);
+    line.unplug(SerialLine::Ergometer);
     EXPECT_EQ(raised(fnc_LastAbschalten), fehlernummer::NoSuchPort);
     lastStillschweigendAb();
     EXPECT_FALSE(MSComm2.PortOpen());
@@ -160,11 +160,11 @@ TEST_F(Answers, AndLoads) {
     gSS2Vorhanden = true;
     fnc_SS2Prüfen();
     EXPECT_FALSE(gSS2Vorhanden);
-    line.plug(Line::Ergometer);
+    line.plug(SerialLine::Ergometer);
     fnc_SS2Prüfen();
     EXPECT_TRUE(gSS2Vorhanden);
     EXPECT_FALSE(MSComm2.PortOpen());
-    line.occupy(true, Line::Ergometer);
+    line.occupy(true, SerialLine::Ergometer);
     expectKnown("failed(mSI 2, 8005)");
     fnc_SS2Prüfen();
     EXPECT_TRUE(gSS2Vorhanden);

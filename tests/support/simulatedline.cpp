@@ -74,7 +74,7 @@ simulator::Stand &SimulatedLine::stand() {
     return mStand;
 }
 
-void SimulatedLine::unplug(Line line) {
+void SimulatedLine::unplug(SerialLine line) {
     end(line).plugged = false;
     ++end(line).generation;
     end(line).arrived.clear();

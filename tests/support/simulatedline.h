@@ -10,7 +10,7 @@
 
 namespace support {
 
-using simulator::Line;
+using SerialLine = simulator::Line;
 
 class SimulatedLine {
   public:
@@ -22,12 +22,16 @@ class SimulatedLine {
     /// The stand, brought up to the present.
     simulator::Stand &stand();
     /// Another one answers instead of the stand.
-    void connect(FarEnd &other, Line line = Line::Controller) { end(line).farEnd = &other; }
+    void connect(FarEnd &other, SerialLine line = SerialLine::Controller) {
+        end(line).farEnd = &other;
+    }
     /// A line that is unplugged while open is lost; plugged again, it can be opened anew.
-    void unplug(Line line = Line::Controller);
-    void plug(Line line = Line::Controller) { end(line).plugged = true; }
+    void unplug(SerialLine line = SerialLine::Controller);
+    void plug(SerialLine line = SerialLine::Controller) { end(line).plugged = true; }
     /// Another program holds the port.
-    void occupy(bool occupied, Line line = Line::Controller) { end(line).occupied = occupied; }
+    void occupy(bool occupied, SerialLine line = SerialLine::Controller) {
+        end(line).occupied = occupied;
+    }
 
   private:
     class Device;
@@ -38,12 +42,12 @@ class SimulatedLine {
         bool occupied = false;
         int generation = 0;
     };
-    End &end(Line line) { return mEnds[line == Line::Controller ? 0 : 1]; }
+    End &end(SerialLine line) { return mEnds[line == SerialLine::Controller ? 0 : 1]; }
 
     TestClock &mClock;
     simulator::Stand mStand;
-    StandEnd mController{mStand, Line::Controller};
-    StandEnd mErgometer{mStand, Line::Ergometer};
+    StandEnd mController{mStand, SerialLine::Controller};
+    StandEnd mErgometer{mStand, SerialLine::Ergometer};
     End mEnds[2]{{&mController}, {&mErgometer}};
 };
 

@@ -291,7 +291,8 @@ void Way::act(const QString &step) {
     } else if (verb == "stand") {
         EXPECT_EQ(simulator::runCommand(rest.toStdString(), line.stand(), {}), "ok\n");
     } else if (verb == "line") {
-        const Line which = rest.startsWith("4 ") ? Line::Ergometer : Line::Controller;
+        const SerialLine which =
+            rest.startsWith("4 ") ? SerialLine::Ergometer : SerialLine::Controller;
         line.occupy(rest.endsWith("taken"), which);
         rest.endsWith("out") ? line.unplug(which) : line.plug(which);
     } else if (operation == "=" || operation == ":=" || operation == "+") {
