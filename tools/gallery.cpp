@@ -124,6 +124,7 @@ class Gallery : public Workplace {
         co_await go("stand speederror 60 ; txtSSCode = D ; pbSend ; pass 50 ; pbSave");
         picture("test");
         co_await go("stand speederror 0 ; pbexit ; @Desktop");
+        co_await opened(frm::EPListe, "epliste");
     }
 
     Journey masterData() {

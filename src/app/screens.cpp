@@ -11,6 +11,7 @@
 #include "calibration/frmKalibrierung.h"
 #include "calibration/frmMomentKal.h"
 #include "calibration/frmOberfl.h"
+#include "finaltest/frmEPListe.h"
 #include "finaltest/frmTest.h"
 #include "link/frmEinlaufen.h"
 #include "link/frmInterface.h"
@@ -92,5 +93,6 @@ void bindScreens() {
     bindScreen<frmSort>();
     bindScreen<frmDeleteExtended>();
     bindScreen<frmHistory>();
+    bindScreen<frmEPListe>();
     bindScreen<frmTest>();
 }

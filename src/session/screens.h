@@ -60,6 +60,7 @@ enum class frm {
     EPRezepte,
     EPÄndRez,
     EPNeuRezept,
+    EPListe,
     Test,
 };
 
