@@ -112,7 +112,8 @@ TEST(Commands, SteerTheStand) {
                     [&ended] { ended = true; }};
     for (const auto &c : support::cases(R"(
             load 180 -> ok | "  coupled  off " -> ok | lever left -> ok | mode lever -> ok
-            | fault silent on -> ok | fault deaf 2 -> ok | unplug -> ok | plug com4 -> ok
+            | fault silent on -> ok | fault deaf 2 -> ok | fault answercut 2 -> ok | fault answercut 0 -> ok
+            | fault answerletters maybe -> error | unplug -> ok | plug com4 -> ok
             | plug com1 -> error: no device | load -> error | load 1000 -> error | load nan -> error
             | load 1 2 -> error | lever up -> error | fault silent maybe -> error
             | fault deaf -1 -> error | nonsense -> error | plug com2 -> error)"))
