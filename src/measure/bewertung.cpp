@@ -149,7 +149,8 @@ void drehzahlBewerten(Urteil &urteil, const SchrittTexte &texte, const Spezifika
 }
 
 Abstand endprüfungLeistung(const SchrittTexte &texte, const Spezifikation &spezifikation) {
-    const double share = hundredths(texte.soll_P) / 100 * spezifikation.prozent;
+    // Through its decimal text as well: 3 % of 106 W is 3.18 W and not a trifle less.
+    const double share = Val(Str(hundredths(texte.soll_P) / 100 * spezifikation.prozent));
     return {difference(texte.ist_P_torvena, texte.soll_P), 0, std::max(share, spezifikation.watt)};
 }
 

@@ -116,7 +116,7 @@ void Berichtsmaske::wählbar(const Seitenausgabe &seite, bool ja) {
 void Berichtsmaske::fnc_SeitenFreigeben() try {
     const Schlüssel id = nummer(mArt.seitenNummerAb);
     for (const Seitenausgabe &seite : seitenausgaben())
-        wählbar(seite, vorhanden(mArt.bestand, seitendaten(seite.seite).inhalt, id));
+        wählbar(seite, vorhanden(mArt.bestand, *seitendaten(seite.seite).inhalt, id));
     for (QRadioButton *knopf : {ui.rbDruck2_1, ui.rbDruck3, ui.rbDruck4}) {
         if (knopf->isEnabled()) {
             knopf->setChecked(true);

@@ -42,6 +42,14 @@ const Seitendaten seiten[] = {
      {"Bericht3"},
      {"Elektrische Sicherheit", "Electrical safety"},
      {"_STK.pdf", "_EST.pdf"}},
+    {Berichtsseite::Endprüfung,
+     std::nullopt,
+     "EP_Bericht5",
+     "EP_Bericht",
+     "EP_Bericht",
+     {"EP_Bericht5"},
+     {"Endprüfung", "Final test"},
+     {}},
 };
 
 void messergebnisseStufen(const QString &von, Bestand bestand, Schlüssel protokollID, bool mit) {
@@ -68,6 +76,10 @@ void messergebnisseStufen(const QString &von, Bestand bestand, Schlüssel protok
 } // namespace
 
 std::span<const Seitendaten> seitendaten() {
+    return std::span(seiten).first(std::size(seiten) - 1);
+}
+
+std::span<const Seitendaten> alleSeitendaten() {
     return seiten;
 }
 

@@ -1,30 +1,38 @@
-// The pages of a printed protocol: which a protocol has, and how each is staged into a table of its
-// own, which holds one protocol at a time.
+// The pages that are printed: which a protocol has, the one of a final test, and how each is staged
+// into a table of its own, which holds one protocol at a time.
 #pragma once
 
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <span>
 
 #include "platform/text.h"
 #include "records/protokollinhalt.h"
 
-/// Their numbers are those of the PDF pages.
-enum class Berichtsseite { Deckblatt = 1, Messergebnisse = 2, Blutdruck = 3, SecControl = 4 };
+/// The numbers of the pages of a protocol are those of the PDF pages.
+enum class Berichtsseite {
+    Deckblatt = 1,
+    Messergebnisse = 2,
+    Blutdruck = 3,
+    SecControl = 4,
+    Endprüfung = 5, ///< of a final test, which has no other
+};
 
 /// What the records know of a page.
 struct Seitendaten {
     Berichtsseite seite;
-    Inhalt inhalt;          ///< a protocol that holds it has the page
-    QString tabelle;        ///< stage table
-    QString arbeit, archiv; ///< views that fill it
-    QStringList listen;     ///< lists of a layout that reads the page
-    platform::Text blatt;   ///< name on the sheet
-    platform::Text datei;   ///< end of the PDF file's name, behind the number
+    std::optional<Inhalt> inhalt; ///< a protocol that holds it has the page; nothing: none has
+    QString tabelle;              ///< stage table
+    QString arbeit, archiv;       ///< views that fill it
+    QStringList listen;           ///< lists of a layout that reads the page
+    platform::Text blatt;         ///< name on the sheet
+    platform::Text datei;         ///< end of the PDF file's name, behind the number
 };
-/// In the order of a complete set.
+/// Those of a protocol, in the order of a complete set.
 std::span<const Seitendaten> seitendaten();
+std::span<const Seitendaten> alleSeitendaten();
 const Seitendaten &seitendaten(Berichtsseite seite);
 
 /// The stage table of a page.

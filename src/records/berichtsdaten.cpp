@@ -6,6 +6,8 @@
 #include "platform/clock.h"
 #include "platform/fehler.h"
 #include "platform/runtime.h"
+#include "records/berichtsfelder.h"
+#include "records/epberichtsdaten.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
@@ -17,7 +19,7 @@ namespace {
 
 /// Nothing for a list of another kind.
 const Seitendaten *seiteMitListe(const QString &liste) {
-    const auto seiten = seitendaten();
+    const auto seiten = alleSeitendaten();
     const auto seite = std::find_if(seiten.begin(), seiten.end(), [&](const Seitendaten &daten) {
         return daten.listen.contains(liste);
     });
@@ -36,41 +38,12 @@ bool mitAussage(const QString &konform) {
     return konform == "mit" || konform == "with";
 }
 
-/// As the layouts show it: a number in the format of the session.
-QString gezeigt(const QVariant &wert) {
-    return wert.typeId() == QMetaType::Double ? CStr(wert.toDouble()) : wert.toString();
-}
-
-LayoutFields felder(const Recordset &zeilen, int zeile) {
-    LayoutFields felder;
-    for (int spalte = 0; spalte < zeilen.columns().size(); ++spalte)
-        felder[zeilen.columns()[spalte]] = gezeigt(zeilen.at(zeile, spalte));
-    // No other column is a date of ours: an ident number may well look like one.
-    for (const char *spalte :
-         {"ErstellDatum", "kalibriertVon", "kalibriertBis", "gemessenVon", "gemessenBis"})
-        if (const auto feld = felder.find(spalte); feld != felder.end())
-            if (const QDate datum = datumAus(*feld); datum.isValid())
-                *feld = datumText(datum);
-    return felder;
-}
-
-QString marke(bool gilt) {
-    return gilt ? QStringLiteral("1") : QString();
-}
-/// A count of which layouts speak only when there is something to count.
-QString anzahl(qsizetype zahl) {
-    return zahl == 0 ? QString() : QString::number(zahl);
-}
-
 /// A row of the cover sheet, and what all pages show of their head.
 LayoutFields kopffelder(const Recordset &kopf, Bestand bestand) {
     LayoutFields kopfzeile = felder(kopf, 0);
     const auto protokollID = static_cast<Schlüssel>(kopf["ProtokollID"].whole());
     kopfzeile["ProtokollName"] = kopfzeile["ProtokollName"].trimmed();
-    const int richtung = kopf["Drehrichtung"].whole();
-    kopfzeile["Drehrichtung"] = richtung == 1   ? inSprache({"Rechtslauf", "Right"})
-                                : richtung == 2 ? inSprache({"Linkslauf", "Left"})
-                                                : QString();
+    kopfzeile["Drehrichtung"] = richtungswort(kopf["Drehrichtung"].whole());
     kopfzeile["Ausstelldatum"] = datumText(now().date());
     const QDate erstellt = datumAus(kopf["ErstellDatum"].text());
     const QDate gültig = datumAus(kopf["kalibriertBis"].text());
@@ -119,18 +92,6 @@ QString zweiStellen(const std::optional<double> &wert) {
     if (!wert)
         return {};
     return Format(*wert, *wert < 0.995 ? "0.00" : *wert < 9.95 ? "0.0" : "0");
-}
-
-/// At least this many decimals, and those that the value has besides.
-QString genau(double wert, qsizetype stellen) {
-    const QString text = CStr(wert);
-    return text.section(numberLocale().decimalPoint(), 1).size() > stellen
-               ? text
-               : Format(wert, "0." + QString(stellen, '0'));
-}
-
-QString mitVorzeichen(double wert) {
-    return (wert > 0 ? "+" : "") + Format(wert, "0.00");
 }
 
 /// Numbers with their decimals, and what is reckoned from a row.
@@ -225,8 +186,8 @@ QString gelesen(const Layout &layout) {
             return seite->tabelle;
     }
     throw Fehler(fehlernummer::LayoutBroken,
-                 {"Das Layout liest keine der Tabellen Bericht1 bis Bericht4.",
-                  "The layout reads none of the tables Bericht1 to Bericht4."});
+                 {"Das Layout liest keine der Tabellen Bericht1 bis Bericht4 und EP_Bericht5.",
+                  "The layout reads none of the tables Bericht1 to Bericht4 and EP_Bericht5."});
 }
 
 LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüssel protokollID) {
@@ -241,6 +202,8 @@ LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüss
                       "The page was not prepared for this protocol. Please print it again."});
     }
     const Seitendaten &seite = *seiteMitListe(stufentabelle);
+    if (seite.seite == Berichtsseite::Endprüfung)
+        return epBerichtsdaten(zeilen, seite);
     const Recordset kopf = kopfLesen(bestand, protokollID);
     LayoutData daten{kopffelder(kopf, bestand), {}};
     daten.fields["Blatt"] = inSprache(seite.blatt);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "session/sprache.h"
+
 namespace {
 
 struct Klasse {
@@ -42,4 +44,16 @@ const QStringList &toleranzklassen() {
         return texts;
     }();
     return list;
+}
+
+QString klasseInSprache(const QString &text) {
+    static const Text worte[] = {{"medizinische Geräte", "medical devices"},
+                                 {"stationäre Trainingsgeräte", "stationary training devices"},
+                                 {"ohne Toleranzen", "without Tolerances"},
+                                 {"Toleranz 3%", "Tolerance 3%"}};
+    for (const Text &wort : worte) {
+        if (text == wort.german || text == wort.english)
+            return inSprache(wort);
+    }
+    return text;
 }

@@ -19,3 +19,5 @@ std::optional<Toleranzklasse> toleranzklasse(const QString &text);
 
 /// Those offered for a recipe, in both languages.
 const QStringList &toleranzklassen();
+/// The same class in the language of the session, for print; a text that is none as it is.
+QString klasseInSprache(const QString &text);

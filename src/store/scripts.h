@@ -9,7 +9,7 @@ class Datenbank;
 
 /// Counts the states of the schema; raised by one with each change that a directory in use must
 /// get.
-inline constexpr int datenbankStand = 2;
+inline constexpr int datenbankStand = 3;
 
 /// What a new database is made of, in this order; with `demo` also customers, units, recipes and
 /// protocols to try the program with.

@@ -55,7 +55,8 @@ TEST_F(Seiten, OfAllDeliveredLayoutsShowTheProtocol) {
     for (const int sprache : {1, 2}) {
         setLanguage(sprache);
         for (const QString &datei : QDir(":/layouts").entryList({"*.rpt"})) {
-            if (datei.contains("teil_") || datei.startsWith("eng_") != english())
+            if (datei.contains("teil_") || datei.contains("endpruef") ||
+                datei.startsWith("eng_") != english())
                 continue;
             ++zahl;
             for (const QString &text : {seite(datei, 18).text(), seite(datei, 18, false).text()}) {

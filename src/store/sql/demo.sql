@@ -485,3 +485,47 @@ SET NormalNr_STK = 'SN-0007',
                         WHERE K.ProtokollID = SecControl_temp.ProtokollID),
     KalScheinNr_STK = 'KL-E-1402',
     Messverfahren_STK = 'Ersatzmessung';
+
+
+-- Final tests ----------------------------------------------------------------------------------
+
+UPDATE System SET Endprüfung = -1;
+
+INSERT INTO EP
+    (EP_ID, SerienNr, Prüfer, kalibriertBis, Prüfdatum, Messkopf, Kunde, Gerätetyp,
+     GeräteableitI, SchutzleiterR, IsolationsR,
+     auf0, auf50, auf100, auf150, auf200, auf250, auf300, Ablassrate,
+     Rezept, Schritte, Drehrichtung, NK_ID, Begonnen, Dauer, Vollständig)
+SELECT column1, column2, column3,
+       CASE strftime('%m', 'now', 'localtime', column4)
+           WHEN '01' THEN 'Januar' WHEN '02' THEN 'Februar' WHEN '03' THEN 'März'
+           WHEN '04' THEN 'April' WHEN '05' THEN 'Mai' WHEN '06' THEN 'Juni'
+           WHEN '07' THEN 'Juli' WHEN '08' THEN 'August' WHEN '09' THEN 'September'
+           WHEN '10' THEN 'Oktober' WHEN '11' THEN 'November' ELSE 'Dezember' END || ' ' ||
+           (strftime('%Y', 'now', 'localtime', column4) + 2),
+       strftime('%d.%m.%Y', 'now', 'localtime', column4),
+       column5, column6, column7, column8, column9, column10,
+       column11, column12, column13, column14, column15, column16, column17, column18,
+       column19, 4, column20, 2,
+       datetime('now', 'localtime', column4, 'start of day', column21), column22, -1
+FROM (VALUES
+    (1, 'KF-20417', 'M. Berger', '-9 days', 'MK-118', 'Klinikum Ährenfeld', 'KardioFit 500',
+     '42', '0.12', '75', '0', '50', '100', '151', '201', '250', '300', '2.9',
+     'Endprüfung KardioFit', 1, '+10 hours', 252),
+    (2, 'KF-20418', 'S. Lindqvist', '-8 days', NULL, 'Herzzentrum Talbrück', 'KardioFit 500',
+     '38', '0.14', '70', NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL,
+     'Endprüfung KardioFit', 2, '+14 hours', 249));
+
+INSERT INTO EP_Messwerte
+    (ProtokollID, Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, Ist_D_torvena, Ist_P_torvena,
+     Ist_n_ergom, Toleranz, Klasse, ZulAbwP, ZulAbwN)
+VALUES
+    (1, '1', '60,0', '50,0',  '60,02', '8,01',  '50,31',  ' 60', 'OK', 'medizinische Geräte', 3, 2),
+    (1, '2', '60,0', '100,0', '59,98', '15,84', '99,44',  ' 60', 'OK', 'medizinische Geräte', 5, 2),
+    (1, '3', '60,0', '200,0', '60,01', '32,10', '201,62', ' 60', 'OK', 'medizinische Geräte', 10, 2),
+    (1, '4', '80,0', '300,0', '79,96', '35,61', '298,04', ' 81', 'OK', 'medizinische Geräte', 15, 2),
+    (2, '1', '60,0', '50,0',  '60,00', '7,87',  '49,42',  ' 60', 'OK', 'medizinische Geräte', 3, 2),
+    (2, '2', '60,0', '100,0', '60,03', '16,62', '104,42', ' 60', 'OK', 'medizinische Geräte', 5, 2),
+    (2, '3', '60,0', '200,0', '59,97', '34,13', '214,23', ' 60', 'Außer Toleranz',
+     'medizinische Geräte', 10, 2),
+    (2, '4', '80,0', '300,0', '80,02', '37,39', '313,17', ' 80', 'OK', 'medizinische Geräte', 15, 2);

@@ -29,9 +29,16 @@ SELECT EP.EP_ID AS ProtokollID,
        CASE WHEN M.Prüfschritt <> '' AND M.Prüfschritt NOT GLOB '*[^0-9]*'
             THEN CAST(M.Prüfschritt AS INTEGER) ELSE M.Prüfschritt END AS Prüfschritt,
        M.Soll_n, M.Soll_P, M.Ist_n_torvena, M.Ist_D_torvena, M.Ist_P_torvena, M.Ist_n_ergom,
-       M.Toleranz
+       M.Toleranz, M.Klasse, M.ZulAbwP, M.ZulAbwN,
+       EP.Rezept, EP.Schritte, EP.Drehrichtung, EP.Begonnen, EP.Dauer, EP.Vollständig,
+       N.Normal, N.SerienNr AS NormalSerienNr, N.KalScheinNr,
+       N.kalibriertVon AS NormalVon, N.kalibriertBis AS NormalBis,
+       System.Firmenname, System.Straße AS FirmaStraße, System.PLZ AS FirmaPLZ,
+       System.Ort AS FirmaOrt, System.Telefon AS FirmaTelefon, System.EMail AS FirmaEMail
 FROM EP
 JOIN EP_Messwerte M ON M.ProtokollID = EP.EP_ID
+LEFT JOIN Normalkalibrierdaten N ON N.NK_ID = EP.NK_ID
+LEFT JOIN System
 ORDER BY 1, 20;
 
 

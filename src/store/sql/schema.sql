@@ -175,7 +175,14 @@ CREATE TABLE EP (
     auf200          TEXT COLLATE NOCASE,
     auf250          TEXT COLLATE NOCASE,
     auf300          TEXT COLLATE NOCASE,
-    Ablassrate      TEXT COLLATE NOCASE     -- mmHg/s
+    Ablassrate      TEXT COLLATE NOCASE,    -- mmHg/s
+    Rezept          TEXT COLLATE NOCASE,    -- of the last run, as all that follow
+    Schritte        INTEGER,                -- that the recipe had
+    Drehrichtung    INTEGER,                -- 1 right, 2 left
+    NK_ID           INTEGER,                -- working standard
+    Begonnen        TEXT,
+    Dauer           INTEGER,                -- s; Null where nobody saw the end
+    Vollständig     INTEGER                 -- -1 worked through, 0 stopped or under way
 );
 CREATE INDEX EPSerienNr ON EP (SerienNr);
 
@@ -188,7 +195,10 @@ CREATE TABLE EP_Messwerte (
     Ist_D_torvena   TEXT COLLATE NOCASE,
     Ist_P_torvena   TEXT COLLATE NOCASE,
     Ist_n_ergom     TEXT COLLATE NOCASE,
-    Toleranz        TEXT COLLATE NOCASE     -- verdict; Null when nothing was judged
+    Toleranz        TEXT COLLATE NOCASE,    -- verdict; Null when nothing was judged
+    Klasse          TEXT,                   -- tolerance class that was judged by
+    ZulAbwP         REAL,                   -- permissible deviation of power, W; Null for none
+    ZulAbwN         REAL                    -- of speed, 1/min; Null for none
 );
 CREATE INDEX EP_MesswerteSchritt ON EP_Messwerte (ProtokollID, Prüfschritt);
 
@@ -349,5 +359,25 @@ CREATE TABLE EP_Bericht5 (
     Ist_D_torvena   TEXT COLLATE NOCASE,
     Ist_P_torvena   TEXT COLLATE NOCASE,
     Ist_n_ergom     TEXT COLLATE NOCASE,
-    Toleranz        TEXT COLLATE NOCASE
+    Toleranz        TEXT COLLATE NOCASE,
+    Klasse          TEXT,
+    ZulAbwP         REAL,
+    ZulAbwN         REAL,
+    Rezept          TEXT COLLATE NOCASE,
+    Schritte        INTEGER,
+    Drehrichtung    INTEGER,
+    Begonnen        TEXT,
+    Dauer           INTEGER,
+    Vollständig     INTEGER,
+    Normal          TEXT COLLATE NOCASE,
+    NormalSerienNr  TEXT COLLATE NOCASE,
+    KalScheinNr     TEXT COLLATE NOCASE,
+    NormalVon       TEXT,
+    NormalBis       TEXT,
+    Firmenname      TEXT COLLATE NOCASE,
+    FirmaStraße     TEXT COLLATE NOCASE,
+    FirmaPLZ        TEXT COLLATE NOCASE,
+    FirmaOrt        TEXT COLLATE NOCASE,
+    FirmaTelefon    TEXT COLLATE NOCASE,
+    FirmaEMail      TEXT COLLATE NOCASE
 );
