@@ -51,6 +51,10 @@ constexpr Beschriftung english[] = {
     {"pbDrehzNull", "Speed &Zero"},
     {"pbDynMess", "&Dynamic Measuring"},
     {"laEinhaltung", "Compliance with MPE"},
+    {"Label18", "Set-points"},
+    {"Label19", "Working standard"},
+    {"Label22", "Tolerance"},
+    {"pbSave", "&Answer"},
     {"pbAbbrechen", "&Terminate"},
 };
 
@@ -58,9 +62,12 @@ constexpr Beschriftung english[] = {
 
 frmMessen::frmMessen() {
     ui.setupUi(this);
-    ui.DBGrid1->setModel(&mRaster);
-    ui.DBGrid1->verticalHeader()->hide();
-    ui.DBGrid1->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    for (QTableView *raster : {ui.DBGrid1, ui.DBGrid2}) {
+        raster->setModel(&mRaster);
+        raster->verticalHeader()->hide();
+        raster->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+        raster->horizontalHeader()->setHighlightSections(false);
+    }
     onClick(ui.pbFirst, [this] { navigieren(0); });
     onClick(ui.pbLast, [this] { navigieren(dataRezept.count() - 1); });
     onClick(ui.pbNext, [this] { navigieren(dataRezept.position() + 1); });
@@ -69,6 +76,13 @@ frmMessen::frmMessen() {
     onClick(ui.pbDynMess, [this] { pbDynMess_Click(); });
     onClick(ui.pbSpeichern, [this] { schrittAbschließen(); });
     onClick(ui.pbAbbrechen, [this] { pbAbbrechen_Click(); });
+    on(&mDienst, &QShortcut::activated, [this] { ui.pbSave->show(); });
+    onClick(ui.pbSave, [this] {
+        messablauf().diagnose([this](const QString &wort) {
+            ui.Label21->setText(wort);
+            ui.Label21->show();
+        });
+    });
     eingabenVerdrahten();
 }
 
@@ -102,6 +116,10 @@ void frmMessen::Form_Activate() try {
     if (!gMessungLäuft)
         fnc_Messzyklus();
 } catch (const Fehler &fehler) {
+    if (!mAnsicht.bedient) {
+        gMessStatus = Messstatus::Ende;
+        requestActivation(*this); // which leaves the screen
+    }
     fehlerBox("3013 - ", fehler);
 }
 
@@ -113,8 +131,16 @@ void frmMessen::ansichtZeigen() {
         setCaption(mAnsicht.titel);
     for (QWidget *control : std::initializer_list<QWidget *>{
              ui.Frame2, ui.pbSpeichern, ui.pbFirst, ui.pbPrevious, ui.pbNext, ui.pbLast,
-             ui.pbMessen, ui.pbFreieEing, ui.pbDrehzNull, ui.pbDynMess, ui.laEinhaltung})
+             ui.pbMessen, ui.pbFreieEing, ui.pbDrehzNull, ui.pbDynMess, ui.laEinhaltung,
+             ui.DBGrid1})
         control->setVisible(mAnsicht.bedient);
+    for (QWidget *control : std::initializer_list<QWidget *>{ui.DBGrid2, ui.Label18, ui.Label19,
+                                                             ui.Label20, ui.laSollwerte})
+        control->setVisible(!mAnsicht.bedient);
+    for (QWidget *control : std::initializer_list<QWidget *>{ui.Label21, ui.Label22, ui.pbSave})
+        control->hide();
+    ui.txtIST_n_ergom->setReadOnly(!mAnsicht.bedient); // what is judged is what was read
+    mDienst.setEnabled(!mAnsicht.bedient);
     anzeigenEinrichten();
 }
 
@@ -179,6 +205,8 @@ void frmMessen::fnc_PrüfschrittAnzeigen() try {
     mBasisDrehzahl = dataRezept["Drehzahl"].number();
     ui.txtSoll_n->setText(Format(mBasisDrehzahl * mKorrF, "0.0"));
     ui.txtSoll_P->setText(Format(dataRezept["Leistung"].number(), "0.0"));
+    ui.laSollwerte->setText(inSprache({"%1 1/min\n%2 W", "%1 rpm\n%2 W"})
+                                .arg(ui.txtSoll_n->text(), ui.txtSoll_P->text()));
     if (gMessenAktiv)
         fnc_MesswerteAnzeigen();
     ui.txtIST_n_ergom->clear();
@@ -231,10 +259,12 @@ void frmMessen::fnc_MesswertSpeichern() try {
     const bool frei = schritt.prüfschritt == freierSchritt;
     if (frei ? dataMesswerte.findLast("Prüfschritt", schritt.prüfschritt)
              : dataMesswerte.findFirst("Prüfschritt", schritt.prüfschritt)) {
-        ui.DBGrid1->selectRow(dataMesswerte.position());
-        ui.DBGrid1->scrollTo(mRaster.index(dataMesswerte.position(), 0));
+        raster()->selectRow(dataMesswerte.position());
+        raster()->scrollTo(mRaster.index(dataMesswerte.position(), 0));
     }
-    ui.DBGrid1->setFocus(); // before the button that has it goes out
+    if (gMessStatus == Messstatus::Ende)
+        return;           // a failure of the judgement has ended it
+    raster()->setFocus(); // before the button that has it goes out
     if (!frei && !mRezeptEnde)
         dataRezept.moveNext();
     fnc_EingabeSperren();

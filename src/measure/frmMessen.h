@@ -5,6 +5,8 @@
 // reads it after each received byte (see fnc_Messzyklus).
 #pragma once
 
+#include <QShortcut>
+
 #include "controls/recordsetmodel.h"
 #include "measure/empfang.h"
 #include "measure/messablauf.h"
@@ -49,6 +51,7 @@ class frmMessen : public Screen, private Messfenster {
 
     // Steps, saving, leaving (frmMessen.cpp)
     void ansichtZeigen();
+    QTableView *raster() const { return mAnsicht.bedient ? ui.DBGrid1 : ui.DBGrid2; }
     void ersteAktivierung();
     void zustandZeigen();
     void fnc_PrüfschrittAnzeigen();
@@ -115,6 +118,7 @@ class frmMessen : public Screen, private Messfenster {
 
     Ui::frmMessen ui;
     Sollwerteingabe mEingabe{ui};
+    QShortcut mDienst{QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_D), this};
     RecordsetModel mRaster;
     Recordset dataRezept;
     Recordset dataMesswerte;

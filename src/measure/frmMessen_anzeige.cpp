@@ -51,11 +51,10 @@ int legendeMalen(QPainter *painter, const QRectF &rect) {
 } // namespace
 
 void frmMessen::anzeigenEinrichten() {
-    ui.DBGrid1->horizontalHeader()->setHighlightSections(false);
+    QTableView *tabelle = raster();
     for (int spalte = 0; spalte < int(mAnsicht.spalten.size()); ++spalte) {
         const bool urteil = mAnsicht.urteile.contains(mAnsicht.spalten[size_t(spalte)].name);
-        ui.DBGrid1->setItemDelegateForColumn(spalte,
-                                             urteil ? new Urteilsspalte(ui.DBGrid1) : nullptr);
+        tabelle->setItemDelegateForColumn(spalte, urteil ? new Urteilsspalte(tabelle) : nullptr);
     }
     for (QWidget *teil :
          std::initializer_list<QWidget *>{ui.lbIST_n_ergom, ui.txtIST_n_ergom, ui.lbEinheitErgom}) {

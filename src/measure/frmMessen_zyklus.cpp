@@ -47,7 +47,7 @@ void frmMessen::durchgang() try {
         if (mEingabe.istDrehzahl() && mAnsicht.bedient)
             ui.txtIST_n_ergom->setFocus();
         else
-            ui.DBGrid1->setFocus();
+            raster()->setFocus();
         mWerte = Werte::Angefragte;
         if (mEingabe.drehzahl() < 0 || mEingabe.drehzahl() > höchsterSollwert) {
             sollwertAblehnen();
@@ -139,6 +139,8 @@ void frmMessen::sollwertAblehnen() {
 
 bool frmMessen::fnc_SollwertSenden() {
     messablauf().vorSollwert(dataRezept);
+    if (gMessStatus != Messstatus::Messen)
+        return false;
     const double korrF = freieEingabe() ? mGesendeteKorrF : mKorrF;
     const bool gesendet = fnc_BefehlSenden("E", gDrehrichtung, ui.txtSoll_n->text());
     if (gesendet)

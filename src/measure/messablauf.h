@@ -5,6 +5,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 #include "controls/recordsetmodel.h"
@@ -58,7 +59,8 @@ class Messablauf {
     /// The rows that the protocol has stored, in the order of the grid; with Prüfschritt.
     virtual Recordset messwerte() = 0;
     /// Before a speed goes out; a new reception follows. `schritt` stands on the step of the recipe
-    /// that is current, also while one is measured that stands in no recipe.
+    /// that is current, also while one is measured that stands in no recipe. No speed goes out when
+    /// gMessStatus is another than Messen behind it.
     virtual void vorSollwert(const Recordset &schritt) = 0;
     /// A complete result of six rounds, all of it measured under the set-point shown. May wait: a
     /// flow that does looks at gMessStatus after each wait and goes on only while it is Messen, so
@@ -83,6 +85,11 @@ class Messablauf {
     virtual void rezeptEnde() = 0;
     /// The operator's stop, with gMessStatus set and the notice shown. Traps its own failures.
     virtual void abbruch() = 0;
+    /// The service question to what is measured; `zeigen` gets a word about the answer. Asked by a
+    /// key that no caption names, of a flow that steers itself.
+    virtual void diagnose(const std::function<void(const QString &)> &zeigen) {
+        static_cast<void>(zeigen);
+    }
     /// On every way out, when the motor has been told to stop.
     virtual void beimVerlassen(Weggang weggang) = 0;
 };

@@ -6,9 +6,11 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QVBoxLayout>
 
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "windows/screen.h"
@@ -21,6 +23,8 @@ namespace {
 std::function<int(const Box &)> boxAnswerer;
 std::function<QString(BoxAnswer)> boxCaptions;
 std::function<void()> beeper;
+std::function<void()> beforeBox;
+bool preparing = false;
 
 std::vector<BoxAnswer> buttonsOf(int flags) {
     switch (flags & 15) {
@@ -109,6 +113,11 @@ class BoxWindow : public QMessageBox {
 
 int msgBox(const QString &text, int flags, const QString &title) {
     const HoldActivations hold;
+    if (beforeBox && !std::exchange(preparing, true)) {
+        const auto done = qScopeGuard([] { preparing = false; });
+        const std::function<void()> action = beforeBox; // it may take itself away
+        action();
+    }
     if (boxAnswerer)
         return boxAnswerer({text, title, flags});
 
@@ -151,6 +160,10 @@ int msgBox(const QString &text, int flags, const QString &title) {
 
 void setBoxAnswerer(std::function<int(const Box &)> answerer) {
     boxAnswerer = std::move(answerer);
+}
+
+void setBeforeBox(std::function<void()> action) {
+    beforeBox = std::move(action);
 }
 
 void setBoxCaptions(std::function<QString(BoxAnswer)> captions) {

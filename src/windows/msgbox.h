@@ -39,6 +39,10 @@ int msgBox(const QString &text, int flags, const QString &title);
 /// the person back.
 void setBoxAnswerer(std::function<int(const Box &)> answerer);
 
+/// Runs before each box opens, but not inside itself: what must not go on while somebody is waited
+/// for. An empty function for nothing.
+void setBeforeBox(std::function<void()> action);
+
 /// The caption of a button, for the language in force.
 void setBoxCaptions(std::function<QString(BoxAnswer)> captions);
 
