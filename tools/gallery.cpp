@@ -17,9 +17,12 @@
 #include <cstdio>
 
 #include "boxtexts.h"
+#include "finaltest/epablauf.h"
+#include "link/ergometer.h"
 #include "lookcheck.h"
 #include "session/session.h"
 #include "session/sprache.h"
+#include "windows/preview.h"
 #include "windows/stil.h"
 #include "windows/waiting.h"
 #include "workplace.h"
@@ -125,6 +128,34 @@ class Gallery : public Workplace {
         picture("test");
         co_await go("stand speederror 0 ; pbexit ; @Desktop");
         co_await opened(frm::EPListe, "epliste");
+        co_await run();
+    }
+
+    /// A final test by itself, the second step out of tolerance.
+    Journey run() {
+        gDatenbank.execute("INSERT INTO EP_Rezeptnamen (RezeptID, RezName) VALUES (900, 'Serie')");
+        gDatenbank.execute(
+            "INSERT INTO EP_Rezepte VALUES (900, '1', '60', 100, '2', 'W100[13]', '3'), "
+            "(900, '2', '80', 150, '2', 'W140[13]', '3'), (900, '3', '60', 50, '2', '', '3')");
+        gEPModus = gSS2Vorhanden = gMessenFreigabe = true;
+        gEPProtokollID = 2;
+        gEPRezeptID = 900;
+        gRezeptName = "medizinische Geräte";
+        gMessStatus = Messstatus::Ruhe;
+        gDrehrichtung = 1;
+        gDatenbank.execute("DELETE FROM EP_Messwerte WHERE ProtokollID = 2");
+        epAblaufEinsetzen();
+        form(frm::Messen).show();
+        co_await until("a step", [] { return inFront(frm::Meldung); });
+        co_await go("@Messen ; until lblMessSchritte == 2/3");
+        picture("messen-endprüfung-nein");
+        co_await go("until laPrSchritt == 3 ; until lblMessSchritte == 2/3");
+        picture("messen-endprüfung");
+        co_await go("pbAbbrechen ; @Desktop");
+        platform::closePreviews();
+        epAblaufWegnehmen();
+        gEPModus = false;
+        gDrehrichtung = 0;
     }
 
     Journey masterData() {

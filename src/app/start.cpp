@@ -90,6 +90,8 @@ void beendenOhneFrage() {
             nochmals.onTick = beendenOhneFrage;
         return;
     }
+    if (gEPModus)
+        lastStillschweigendAb();
     if (gMotorEin)
         motorStillschweigendAus();
     if (loaded(frm::Messen) && !gMessungLäuft)

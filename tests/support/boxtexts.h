@@ -187,6 +187,8 @@ inline constexpr KnownBox boxTexts[] = {
     {"freeTorque", Critical, "Drehmoment<=60Nm", "Torque<=60Nm", "Das zulässige Drehmoment ist überschritten!\r\nBitte geben Sie andere Werte ein!", "The permissible torque has been exeeded!\r\nPlease enter other values!"},
     {"readingNumber", Exclamation, "Fehler", "Fehler", "Eingabe muss ein nummerischer Wert sein!", "Input must be a numerical value!"},
     {"noData", Critical, "Kommunikationsfehler", "Communication Error", "Keine Daten bei ca. 3 x 6 Runden!", "No data at ca. 3 x 6 rounds!"},
+    {"emptyTest", OKOnly, "Beenden", "Message", "Protokoll enthält keine Daten und wird gelöscht!", "Protocol does not contain data and is deleted!"},
+    {"ergometerLost", Critical, "Kommunikationsfehler", "Communication Error", "Die Verbindung zum Ergometer ist unterbrochen. Die Prüfung wird beendet.", "The connection to the ergometer is lost. The test is terminated."},
     {"noReception", Exclamation, "Meldung", "Message", "Nach 18 Sek kein Empfang", "No reception after 18 sec"},
 };
 // clang-format on
