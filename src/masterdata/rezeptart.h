@@ -18,6 +18,7 @@ struct Wertmeldungen {
 struct Rezeptart {
     Schrittliste schritte;
     Schlüssel &rezeptID; ///< of the recipe at hand
+    bool typ;            ///< a person picks how a step is judged; otherwise by its speed
     /// Steps are entered one after the other and stand in the list in their order: a value that is
     /// refused is emptied, points that part thousands are taken out. Otherwise a working copy is
     /// changed: only what differs is checked, and set back when it is refused.
@@ -25,7 +26,7 @@ struct Rezeptart {
     Schrittgrenzen grenzen;
     std::vector<Schrittgitter::Spalte> spalten; ///< of the grid
 
-    int symbol; ///< of the boxes about values and about what is missing
+    int wertsymbol, fehltsymbol; ///< of the boxes about values, and about what is missing
     Wertmeldungen drehzahl, leistung;
     platform::Text unvollständig; ///< what is missing stands in the place of %1
     /// Of a step, and of the words in the box of its type.
@@ -36,6 +37,9 @@ struct Rezeptart {
         const char *prüfen, *drehmoment, *vorhanden, *anlegen, *ändern;
     };
     Kennungen kennung; ///< of the failure boxes
+
+    /// Further columns: how often a step is measured; the box has an exclamation mark.
+    Wertmeldungen anzahl = {};
 };
 
 extern const Rezeptart neuesRezept, geändertesRezept;

@@ -4,6 +4,8 @@
 #include <QLabel>
 #include <QLineEdit>
 
+#include <algorithm>
+
 #include "controls/eintrag.h"
 #include "platform/runtime.h"
 #include "records/toleranz.h"
@@ -37,7 +39,8 @@ void ohneTausenderpunkte(QLineEdit *feld) {
 
 } // namespace
 
-void Schritteditor::verbinden(const Felder &felder, std::function<void()> angenommen) {
+void Schritteditor::verbinden(const Felder &felder,
+                              std::function<void(const QWidget *)> angenommen) {
     mFelder = felder;
     mAngenommen = std::move(angenommen);
     mGitter.verbinden(felder.gitter, mArt.spalten);
@@ -48,7 +51,7 @@ void Schritteditor::verbinden(const Felder &felder, std::function<void()> angeno
             beep();
             eintragSetzen(mFelder.prüfart, {});
         } else if (mArt.neu) {
-            mAngenommen();
+            mAngenommen(mFelder.prüfart);
         }
     });
 }
@@ -130,8 +133,12 @@ bool Schritteditor::geändert(const QWidget *feld) const {
 bool Schritteditor::verlassen(const QWidget *feld) {
     if (feld == mFelder.drehzahl)
         return wertAnnehmen({mFelder.drehzahl, &mArt.drehzahl, drehzahlPrüfen});
-    return feld != mFelder.leistung ||
-           wertAnnehmen({mFelder.leistung, &mArt.leistung, leistungPrüfen});
+    if (feld == mFelder.leistung)
+        return wertAnnehmen({mFelder.leistung, &mArt.leistung, leistungPrüfen});
+    const auto found = std::ranges::find_if(mFelder.weitere, [feld](const auto &w) {
+        return w.first == feld && w.second == &Schritt::messSchritte;
+    });
+    return found == mFelder.weitere.end() || anzahlAnnehmen(found->first);
 }
 
 bool Schritteditor::wertAnnehmen(const Wertfeld &wert) {
@@ -148,30 +155,63 @@ bool Schritteditor::wertAnnehmen(const Wertfeld &wert) {
         return true;
     const Wertprüfung found = wert.prüfung(text, mArt.grenzen);
     if (found == Wertprüfung::Gültig) {
-        mAngenommen();
+        mAngenommen(wert.feld);
         return true;
     }
     // Before the box: taking the keyboard back notes the text anew.
     const QString before = mArt.neu ? QString() : mVorher[wert.feld];
     meldung(found == Wertprüfung::NichtNumerisch ? wert.meldungen->keineZahl
                                                  : wert.meldungen->außerhalb,
-            mArt.symbol, wert.meldungen->titel);
-    wert.feld->setText(before);
-    wert.feld->setFocus();
-    // Behind the change of keyboard, which takes a selection away.
-    QMetaObject::invokeMethod(wert.feld, &QLineEdit::selectAll, Qt::QueuedConnection);
+            mArt.wertsymbol, wert.meldungen->titel);
+    zurückgeben(wert.feld, before);
     return false;
 }
 
-bool Schritteditor::fnc_SchrittPrüfen() try {
-    const Fehlendes missing = fehlendeAngaben(
+void Schritteditor::zurückgeben(QLineEdit *feld, const QString &text) const {
+    feld->setText(text);
+    feld->setFocus();
+    // Behind the change of keyboard, which takes a selection away.
+    QMetaObject::invokeMethod(feld, &QLineEdit::selectAll, Qt::QueuedConnection);
+}
+
+/// An empty one is refused, too, when it was not empty before.
+bool Schritteditor::anzahlAnnehmen(QLineEdit *feld) {
+    if (!geändert(feld))
+        return true;
+    const Anzahlprüfung found = anzahlPrüfen(feld->text());
+    if (found == Anzahlprüfung::Gültig) {
+        mAngenommen(feld);
+        return true;
+    }
+    meldung(found == Anzahlprüfung::KeineZahl ? mArt.anzahl.keineZahl : mArt.anzahl.außerhalb,
+            Exclamation, mArt.anzahl.titel);
+    zurückgeben(feld, {});
+    mVorher[feld].clear();
+    return false;
+}
+
+Fehlendes Schritteditor::fehlendes() const {
+    return fehlendeAngaben(
         mArt.angaben(schritt(), mFelder.prüfart ? mFelder.prüfart->currentText() : QString()));
+}
+
+bool Schritteditor::vollständig() const {
+    return !fehlendes().erste;
+}
+
+bool Schritteditor::zulässig() const {
+    const Schritt step = schritt();
+    return vollständig() && drehmomentZulässig(step.drehzahl, step.leistung, mArt.grenzen);
+}
+
+bool Schritteditor::fnc_SchrittPrüfen() try {
+    const Fehlendes missing = fehlendes();
     if (!missing.erste)
         return fnc_DrehmomentPrüfen();
     Text text = mArt.unvollständig;
     text.german.replace("%1", missing.text.german);
     text.english.replace("%1", missing.text.english);
-    meldung(text, mArt.symbol, {"Achtung!", "Attention!"});
+    meldung(text, mArt.fehltsymbol, {"Achtung!", "Attention!"});
     return false;
 } catch (const Fehler &fehler) {
     fehlerBox(mArt.kennung.prüfen, fehler);

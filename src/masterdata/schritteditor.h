@@ -53,7 +53,7 @@ class Schritteditor {
     explicit Schritteditor(const Rezeptart &art) : mArt(art) {}
     /// Called once, before everything else. `angenommen` follows a value that a field was left
     /// with, and in a new recipe the type that a key has picked.
-    void verbinden(const Felder &felder, std::function<void()> angenommen);
+    void verbinden(const Felder &felder, std::function<void(const QWidget *feld)> angenommen);
     /// Heads of the grid and types to pick, in the language of the session.
     void beschriften();
 
@@ -72,13 +72,15 @@ class Schritteditor {
     void betreten(const QWidget *feld);
     /// Whether the field holds another text than when it was entered or filled.
     bool geändert(const QWidget *feld) const;
-    /// Checks speed or power. False when it is refused and has the keyboard back.
+    /// Checks speed, power or count. False when it is refused and has the keyboard back.
     bool verlassen(const QWidget *feld);
     /// The next leaving of the speed is not checked.
     void einmalUngeprüft() { mUngeprüft = true; }
 
     // The step at hand and the table. False, or nothing, after a box that told why.
     bool fnc_SchrittPrüfen(); ///< complete, and its torque permissible
+    bool vollständig() const; ///< all that a step needs is there
+    bool zulässig() const;    ///< complete and permissible, without a box
     std::optional<bool> vorhanden() const;
     bool anlegen() const;
     bool fnc_SchrittÄndern() const;
@@ -106,6 +108,9 @@ class Schritteditor {
     };
     void füllen(const Schritt &schritt);
     bool wertAnnehmen(const Wertfeld &wert);
+    bool anzahlAnnehmen(QLineEdit *feld);
+    void zurückgeben(QLineEdit *feld, const QString &text) const;
+    Fehlendes fehlendes() const;
     bool fnc_DrehmomentPrüfen() const;
     Recordset liste() const;
 
@@ -113,7 +118,7 @@ class Schritteditor {
     Felder mFelder{};
     Schrittgitter mGitter;
     Kürzelfeld mTyp;
-    std::function<void()> mAngenommen;
+    std::function<void(const QWidget *)> mAngenommen;
     std::map<const QWidget *, QString> mVorher; ///< texts at focus
     int mNummer = 0;
     bool mUngeprüft = false;

@@ -10,8 +10,9 @@
 struct Rezepttabellen {
     const char *namen;    ///< RezeptID and RezName
     const char *schritte; ///< as for a Schrittliste
+    int vorzeichen;       ///< 1 or -1, of their keys in the working copy that all kinds share
 };
-inline constexpr Rezepttabellen ordentlicheRezepte{"Rezeptnamen", "Rezepte"};
+inline constexpr Rezepttabellen ordentlicheRezepte{"Rezeptnamen", "Rezepte", 1};
 
 /// In no order.
 QStringList rezeptnamen(const Rezepttabellen &tabellen = ordentlicheRezepte);

@@ -1,5 +1,7 @@
 #include "records/schrittliste.h"
 
+#include <algorithm>
+
 #include "platform/runtime.h"
 #include "records/satz.h"
 #include "session/sprache.h"
@@ -13,15 +15,6 @@ void überspringen(Statement statement) try {
     statement();
 } catch (const Fehler &fehler) {
     fehlerMerken(fehler);
-}
-
-/// Raises for a step that no recipe may hold.
-void vollständigVerlangen(const Schritt &schritt) {
-    CDbl(schritt.drehzahl);
-    CDbl(schritt.leistung);
-    if (schritt.nummer < 1 || schritt.prüfart == Prüfart::Keine)
-        throw Fehler(platform::fehlernummer::TypeMismatch,
-                     {"Der Prüfschritt ist unvollständig.", "The test step is incomplete."});
 }
 
 /// A number as the session writes it. What is none stays as it stands.
@@ -50,6 +43,24 @@ std::vector<Umnummerierung> lückeSchließen(int nummer, int größte) {
     return plan;
 }
 
+Anzahlprüfung anzahlPrüfen(const QString &text) {
+    if (!IsNumeric(text))
+        return Anzahlprüfung::KeineZahl;
+    return platform::Round(CDbl(text)) < 1 ? Anzahlprüfung::Keine : Anzahlprüfung::Gültig;
+}
+
+/// Raises for a step that no recipe may hold.
+void Schrittliste::vollständigVerlangen(const Schritt &schritt) const {
+    CDbl(schritt.drehzahl);
+    CDbl(schritt.leistung);
+    const bool gezählt = std::ranges::all_of(mWeitere, [&](const Schrittspalte &s) {
+        return !s.anzahl || anzahlPrüfen(schritt.*s.wert) == Anzahlprüfung::Gültig;
+    });
+    if (schritt.nummer < 1 || schritt.prüfart == Prüfart::Keine || !gezählt)
+        throw Fehler(platform::fehlernummer::TypeMismatch,
+                     {"Der Prüfschritt ist unvollständig.", "The test step is incomplete."});
+}
+
 int Schrittliste::execute(const char *sql, const std::vector<QVariant> &params) const {
     return gDatenbank.execute(QString(sql).arg(mTabelle), params);
 }
@@ -58,7 +69,7 @@ int Schrittliste::größteNummer(Schlüssel rezeptID) const {
     return gDatenbank
         .open(QString("SELECT max(Val(Prüfschritt)) AS MaxPr FROM %1 WHERE RezeptID = ?")
                   .arg(mTabelle),
-              {rezeptID})["MaxPr"]
+              {schlüssel(rezeptID)})["MaxPr"]
         .whole();
 }
 
@@ -67,7 +78,7 @@ bool Schrittliste::vorhanden(Schlüssel rezeptID, int nummer) const {
                 .open(QString("SELECT Prüfschritt FROM %1 WHERE RezeptID = ? "
                               "AND Val(Prüfschritt) = ?")
                           .arg(mTabelle),
-                      {rezeptID, nummer})
+                      {schlüssel(rezeptID), nummer})
                 .empty();
 }
 
@@ -75,9 +86,9 @@ void Schrittliste::anlegen(Schlüssel rezeptID, const Schritt &schritt) const {
     vollständigVerlangen(schritt);
     QString columns = "RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart";
     QString values = "?, ?, ?, ?, ?";
-    Datenbank::Params params{rezeptID, QString::number(schritt.nummer), schritt.drehzahl,
+    Datenbank::Params params{schlüssel(rezeptID), QString::number(schritt.nummer), schritt.drehzahl,
                              CDbl(schritt.leistung), QString::number(schritt.prüfart)};
-    for (const auto &[name, wert] : mWeitere) {
+    for (const auto &[name, wert, anzahl] : mWeitere) {
         columns += QString(", ") + name;
         values += ", ?";
         params.push_back(schritt.*wert);
@@ -91,11 +102,11 @@ void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
     QString columns = "Drehzahl = ?, Leistung = ?, Prüfart = ?";
     Datenbank::Params params{schritt.drehzahl, CDbl(schritt.leistung),
                              QString::number(schritt.prüfart)};
-    for (const auto &[name, wert] : mWeitere) {
+    for (const auto &[name, wert, anzahl] : mWeitere) {
         columns += QString(", %1 = ?").arg(name);
         params.push_back(schritt.*wert);
     }
-    params.insert(params.end(), {schritt.nummer, rezeptID});
+    params.insert(params.end(), {schritt.nummer, schlüssel(rezeptID)});
     satzÄndern(QString("UPDATE %1 SET %2 WHERE Val(Prüfschritt) = ? AND RezeptID = ?")
                    .arg(mTabelle, columns),
                params);
@@ -103,7 +114,7 @@ void Schrittliste::ändern(Schlüssel rezeptID, const Schritt &schritt) const {
 
 void Schrittliste::umnummerieren(Schlüssel rezeptID, const Umnummerierung &nummer) const {
     execute("UPDATE %1 SET Prüfschritt = ? WHERE Val(Prüfschritt) = ? AND RezeptID = ?",
-            {QString::number(nummer.nach), nummer.von, rezeptID});
+            {QString::number(nummer.nach), nummer.von, schlüssel(rezeptID)});
 }
 
 void Schrittliste::einfügen(Schlüssel rezeptID, const Schritt &schritt) const {
@@ -116,7 +127,8 @@ void Schrittliste::einfügen(Schlüssel rezeptID, const Schritt &schritt) const 
 void Schrittliste::löschen(Schlüssel rezeptID, int nummer) const {
     const int greatest = größteNummer(rezeptID);
     überspringen([&] {
-        execute("DELETE FROM %1 WHERE Val(Prüfschritt) = ? AND RezeptID = ?", {nummer, rezeptID});
+        execute("DELETE FROM %1 WHERE Val(Prüfschritt) = ? AND RezeptID = ?",
+                {nummer, schlüssel(rezeptID)});
     });
     for (const Umnummerierung &number : lückeSchließen(nummer, greatest))
         überspringen([&] { umnummerieren(rezeptID, number); });
@@ -133,18 +145,19 @@ QString Schrittliste::spalten() const {
 Recordset Schrittliste::lesen(Schlüssel rezeptID, const Text &leistung,
                               const Text &drehzahl) const {
     return gDatenbank.open(spalten() + " WHERE RezeptID = ? ORDER BY Val(Prüfschritt)",
-                           {inSprache(leistung), inSprache(drehzahl), rezeptID});
+                           {inSprache(leistung), inSprache(drehzahl), schlüssel(rezeptID)});
 }
 
 Recordset Schrittliste::alle() const {
-    return gDatenbank.open(spalten(),
-                           {inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText)});
+    return gDatenbank.open(
+        spalten() + " WHERE RezeptID * ? > 0",
+        {inSprache(Prüfart::leistungText), inSprache(Prüfart::drehzahlText), mVorzeichen});
 }
 
 Schritt Schrittliste::schrittAus(const Recordset &rows) const {
     Schritt schritt{rows["Prüfschritt"].whole(), angezeigt(rows["Drehzahl"]),
                     angezeigt(rows["Leistung"]), Prüfart::ausAnfang(rows["Messart"].text())};
-    for (const auto &[name, wert] : mWeitere)
+    for (const auto &[name, wert, anzahl] : mWeitere)
         schritt.*wert = rows[name].text();
     return schritt;
 }

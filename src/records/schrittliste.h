@@ -24,6 +24,7 @@ struct Schritt {
 struct Schrittspalte {
     const char *name;
     QString Schritt::*wert;
+    bool anzahl = false; ///< a number that rounds to 1 at least
 };
 
 /// One number that becomes another.
@@ -40,12 +41,13 @@ std::vector<Umnummerierung> lückeSchließen(int nummer, int größte);
 class Schrittliste {
   public:
     /// Besides the first five columns of Rezepte those named are written and read. All names stay
-    /// valid.
-    explicit Schrittliste(const char *tabelle, std::vector<Schrittspalte> weitere = {})
-        : mTabelle(tabelle), mWeitere(std::move(weitere)) {}
+    /// valid. The keys stand in the table with this sign, 1 or -1, and callers give them without.
+    explicit Schrittliste(const char *tabelle, std::vector<Schrittspalte> weitere = {},
+                          int vorzeichen = 1)
+        : mTabelle(tabelle), mWeitere(std::move(weitere)), mVorzeichen(vorzeichen) {}
 
     // What fails is raised; TypeMismatch, before anything is written, for a step that lacks a
-    // number or a type.
+    // number, a type or a count.
     int größteNummer(Schlüssel rezeptID) const; ///< 0 without steps
     bool vorhanden(Schlüssel rezeptID, int nummer) const;
     void anlegen(Schlüssel rezeptID, const Schritt &schritt) const;
@@ -60,7 +62,7 @@ class Schrittliste {
     /// The steps of a recipe in their order.
     Recordset lesen(Schlüssel rezeptID, const platform::Text &leistung = Prüfart::leistungText,
                     const platform::Text &drehzahl = Prüfart::drehzahlText) const;
-    /// All rows as the table gives them.
+    /// All rows whose key has this sign, as the table gives them.
     Recordset alle() const;
     /// The row on which the cursor stands, numbers in the number format of the session.
     Schritt schrittAus(const Recordset &rows) const;
@@ -68,8 +70,15 @@ class Schrittliste {
   private:
     QString spalten() const;
     int execute(const char *sql, const std::vector<QVariant> &params) const;
+    Schlüssel schlüssel(Schlüssel rezeptID) const { return mVorzeichen * rezeptID; }
+    void vollständigVerlangen(const Schritt &schritt) const;
     void umnummerieren(Schlüssel rezeptID, const Umnummerierung &nummer) const;
 
     const char *mTabelle;
     std::vector<Schrittspalte> mWeitere;
+    int mVorzeichen;
 };
+
+/// Whether the text is a number that counts at least one.
+enum class Anzahlprüfung { KeineZahl, Keine, Gültig };
+Anzahlprüfung anzahlPrüfen(const QString &text);

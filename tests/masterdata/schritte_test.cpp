@@ -53,18 +53,21 @@ class StepTable : public Steps, public testing::WithParamInterface<const char *>
     StepTable() { gDatenbank.openFile(datenbankName); }
 
     static constexpr Schlüssel own = 700, other = 701;
+    const int sign = GetParam() == QString("Rezepte") ? 1 : -1;
     const Schrittliste steps{
-        GetParam(), {{"SSCode", &Schritt::ssCode}, {"MessSchritte", &Schritt::messSchritte}}};
+        GetParam(),
+        {{"SSCode", &Schritt::ssCode}, {"MessSchritte", &Schritt::messSchritte, true}},
+        sign};
 
     static Schritt step(int number, int power) {
-        return {number, "60", QString::number(power), 1 + power % 2};
+        return {number, "60", QString::number(power), 1 + power % 2, "", "1"};
     }
     /// "1:power+2:power" in the order of their numbers.
-    static QString stored(Schlüssel recipe) {
+    QString stored(Schlüssel recipe) const {
         return grid(QString("SELECT Prüfschritt || ':' || Leistung FROM %1 WHERE RezeptID = ? "
                             "ORDER BY Val(Prüfschritt), Leistung")
                         .arg(GetParam()),
-                    {recipe});
+                    {sign * recipe});
     }
 };
 
@@ -86,6 +89,7 @@ TEST_P(StepTable, NumbersStayWithoutGapOrDouble) {
     for (int turn = 0; turn < 120; ++turn) {
         const int size = static_cast<int>(model.size());
         EXPECT_EQ(steps.größteNummer(own), size);
+        EXPECT_EQ(steps.alle().count(), size + 12);
         const int at = std::uniform_int_distribution(1, size + 1)(random);
         EXPECT_EQ(steps.vorhanden(own, at), at <= size);
         if (at <= size && random() % 5 < 2) {
@@ -103,8 +107,9 @@ TEST_P(StepTable, NumbersStayWithoutGapOrDouble) {
     EXPECT_GT(model.size(), 10u) << "two digits are among them";
     EXPECT_EQ(stored(other), bystander);
 
-    const Schritt incomplete[] = {
-        {1, "", "50", 1}, {1, "60", "", 1}, {1, "60", "50", 0}, {0, "60", "50", 1}};
+    const Schritt incomplete[] = {{1, "", "50", 1, "", "1"},     {1, "60", "", 1, "", "1"},
+                                  {1, "60", "50", 0, "", "1"},   {0, "60", "50", 1, "", "1"},
+                                  {1, "60", "50", 1, "", "0.4"}, {1, "60", "50", 1}};
     for (const Schritt &bad : incomplete) {
         EXPECT_NE(raised([&] { steps.einfügen(own, bad); }), 0);
         EXPECT_NE(raised([&] { steps.anlegen(own, bad); }), 0);

@@ -1,7 +1,8 @@
 -- Run for each table of steps, marked {steps}.
 
 -- The three tables of steps have the same columns: both recipe editors work on the one copy in
--- ÄndRez_temp, and its rows go back with SELECT *. Rezepte leaves the last two columns empty.
+-- ÄndRez_temp, where the key of a final-test recipe has a minus, so that what one editor has left
+-- there never meets the other. Rezepte leaves the last two columns empty.
 --
 -- No unique key: renumbering moves step by step, and a step may stand twice for a moment.
 CREATE TABLE {steps} (
