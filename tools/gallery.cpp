@@ -234,6 +234,38 @@ class Gallery : public Workplace {
         gDesktopFolge = {};
     }
 
+    Journey finalTestRecipes() {
+        form(frm::EPRezepte).showModal();
+        co_await arrive(frm::EPRezepte);
+        picture("eprezepte");
+        press(frm::EPRezepte, "pbÄndRez");
+        co_await arrive(frm::EPÄndRez);
+        picture("epändrez");
+        press(frm::EPÄndRez, "pbexit");
+        co_await arrive(frm::EPRezepte);
+        press(frm::EPRezepte, "pbNeuRezept");
+        co_await arrive(frm::EPNeuRezept);
+        picture("epneurezept-name");
+        type(frm::EPNeuRezept, "txtRezName", "Abnahme Serie 3");
+        type(frm::EPNeuRezept, "cmbToleranz", "T");
+        press(frm::EPNeuRezept, "pbRezSave");
+        co_await pass(50);
+        type(frm::EPNeuRezept, "txtDrehzahl", "60");
+        type(frm::EPNeuRezept, "txtLeistung", "150");
+        enter(frm::EPNeuRezept, "txtLeistung");
+        type(frm::EPNeuRezept, "txtMessSchritte", "3");
+        press(frm::EPNeuRezept, "pbSave");
+        co_await pass(50);
+        press(frm::EPNeuRezept, "pbFirst");
+        co_await pass(50);
+        picture("epneurezept");
+        press(frm::EPNeuRezept, "pbexit"); // the answer is Yes: discarded
+        co_await arrive(frm::EPRezepte);
+        press(frm::EPRezepte, "pbexit");
+        co_await arrive(frm::Desktop);
+        gEPRezeptWahl.clear();
+    }
+
     /// A sheet under a new head, which begins with the newest one, and one that stands there.
     Journey sheet(const char *button, frm name, const std::string &pictureName) {
         for (const bool there : {false, true}) {
@@ -330,6 +362,7 @@ class Gallery : public Workplace {
         gDesktopFolge = {};
 
         co_await masterData();
+        co_await finalTestRecipes();
         const DemoNames names;
         press(frm::Desktop, "pbKunde");
         co_await arrive(frm::Kunden);

@@ -11,7 +11,10 @@
 #include "calibration/frmKalibrierung.h"
 #include "calibration/frmMomentKal.h"
 #include "calibration/frmOberfl.h"
+#include "finaltest/frmEPAendRez.h"
 #include "finaltest/frmEPListe.h"
+#include "finaltest/frmEPNeuRezept.h"
+#include "finaltest/frmEPRezepte.h"
 #include "finaltest/frmTest.h"
 #include "link/frmEinlaufen.h"
 #include "link/frmInterface.h"
@@ -95,4 +98,7 @@ void bindScreens() {
     bindScreen<frmHistory>();
     bindScreen<frmEPListe>();
     bindScreen<frmTest>();
+    bindScreen<frmEPRezepte>();
+    bindScreen<frmEPNeuRezept>();
+    bindScreen<frmEPÄndRez>();
 }

@@ -80,8 +80,9 @@ inline std::int16_t gFehlerNr = 0;
 inline QString gFehlerText;
 
 // Final test
-inline bool gEPModus = false;         ///< the desktop of the final test is open
-inline Schlüssel gEPProtokollID = 0;  ///< of the head in work
-inline Schlüssel gEPRezeptID = 0;     ///< of the chosen final-test recipe
-inline int gEPZähler = 0;             ///< complete results that the step shown takes
-inline bool gToleranzOK = false;      ///< the last judgement; False before each
+inline bool gEPModus = false;        ///< the desktop of the final test is open
+inline Schlüssel gEPProtokollID = 0; ///< of the head in work
+inline Schlüssel gEPRezeptID = 0;    ///< of the chosen final-test recipe
+inline QString gEPRezeptWahl;        ///< chosen in the list of final-test recipes, to be taken over
+inline int gEPZähler = 0;            ///< complete results that the step shown takes
+inline bool gToleranzOK = false;     ///< the last judgement; False before each

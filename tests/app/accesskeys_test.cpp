@@ -242,4 +242,15 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
     }
 }
 
+JOURNEY_P(Keyboard, ReachesTheRecipesOfTheFinalTest) {
+    change("UPDATE EP_Rezeptnamen SET RezName = 'Short', Toleranz = 'class' WHERE RezeptID = 1");
+    co_await logIn();
+    form(frm::EPRezepte).showModal();
+    co_await go(R"(
+        @EPRezepte ; stop == Rezepte der Endprüfung | Final Test Recipes ; pbÄndRez ; @EPÄndRez
+        stop == Änderung im Rezept 'Short' | Change in the recipe 'Short' ; pbexit ; @EPRezepte
+        pbNeuRezept ; @EPNeuRezept ; txtRezName = New
+        stop == Neues Rezept der Endprüfung | New Final Test Recipe)");
+}
+
 } // namespace

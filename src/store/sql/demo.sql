@@ -141,6 +141,25 @@ VALUES
     (5, '10', '100', 100, '2');
 
 
+-- Recipes of the final test --------------------------------------------------------------------
+
+INSERT INTO EP_Rezeptnamen (RezeptID, RezName, Toleranz, LetzterAufruf)
+VALUES
+    (1, 'Endprüfung Medizin',  'medizinische Geräte',        -1),
+    (2, 'Endprüfung Training', 'stationäre Trainingsgeräte', 0);
+
+INSERT INTO EP_Rezepte
+    (RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart, SSCode, MessSchritte)
+VALUES
+    (1, '1', '60', 50,  '2', 'W050[13]', '3'),
+    (1, '2', '60', 150, '2', 'W150[13]', '3'),
+    (1, '3', '70', 300, '2', 'W300[13]', '3'),
+    (2, '1', '60', 25,  '2', 'W025[13]', '2'),
+    (2, '2', '60', 100, '2', 'W100[13]', '2'),
+    (2, '3', '80', 250, '2', 'W250[13]', '2'),
+    (2, '4', '90', 400, '2', 'W400[13]', '3');
+
+
 -- Archived protocols ---------------------------------------------------------------------------
 
 WITH Kopf (ProtokollID, Protokollname, Prüfername, GerätID, Drehrichtung, PrüfungsArt, NK_ID,
