@@ -462,7 +462,27 @@ class Gallery : public Workplace {
         press(frm::NachStatNPK, "pbok");
         co_await arrive(frm::Desktop);
         picture("desktop-gesperrt");
+        co_await finalTest();
         co_await leverArm();
+    }
+
+    /// A known device, and one that runs in.
+    Journey finalTest() {
+        change("INSERT INTO EP_Rezeptnamen (RezName, Toleranz, LetzterAufruf) "
+               "VALUES ('Endprüfung Sitzergometer', 'medizinische Geräte', -1)");
+        change("INSERT INTO EP (SerienNr, Gerätetyp) VALUES ('SN-2044', 'Sitzergometer S2')");
+        change("INSERT INTO EP_Messwerte (ProtokollID, Prüfschritt, Toleranz) "
+               "SELECT MAX(EP_ID), 1, 'OK' FROM EP");
+        co_await go("pbEndprüf ; @Endprüf");
+        picture("endprüf");
+        co_await go("txtSerNr = SN-2044 ; txtMesskopf = M 17 ; txtKundenName = Klinikum Ährenfeld "
+                    "; txtMOhm = 12.5 ; txtOhm = 0.12 ; txtµA = 85 ; txt0auf = 0 ; txt50auf = 51 "
+                    "; txt100auf = 101 ; txt150auf = 150 ; txt200auf = 199 ; txt250auf = 250 "
+                    "; txt300auf = 301 ; txtAblass = 3 ; txtPrüfer ^");
+        picture("endprüf-bekannt");
+        co_await go("? headExists ; pbok ; pbMotein ; pass 5000");
+        picture("endprüf-einlaufen");
+        co_await go("pbBeenden ; @Desktop");
     }
 
     Journey leverArm() {

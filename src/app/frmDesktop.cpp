@@ -11,6 +11,7 @@
 #include "link/anschluss.h"
 #include "link/controller.h"
 #include "link/einlauf.h"
+#include "link/ergometer.h"
 #include "platform/fehler.h"
 #include "platform/runtime.h"
 #include "protocols/frmBlutdruckAbfrage.h"
@@ -100,7 +101,7 @@ void frmDesktop::verdrahten() {
     öffnet(ui.pbDrehR, nullptr, frm::MotorDrehR, nullptr);
     öffnet(ui.pbBlutdruck, nullptr, frm::Blutdruck, &frmDesktop::pbBlutdruck_Click);
     öffnet(ui.pbSecControl, nullptr, frm::SecControl, &frmDesktop::pbSecControl_Click);
-    öffnet(ui.pbEndprüf, nullptr, frm::Endprüf, nullptr);
+    öffnet(ui.pbEndprüf, nullptr, frm::Endprüf, &frmDesktop::pbEndprüf_Click);
     onClick(ui.pbMotein, [this] { pbMotein_Click(); });
     onClick(ui.pbMotaus, [this] { pbMotaus_Click(); });
     onClick(ui.pbReset, [this] { pbReset_Click(); });
@@ -322,8 +323,31 @@ void frmDesktop::pbMotaus_Click() try { mMotor.aus(); } catch (const Fehler &feh
 }
 
 void frmDesktop::pbMessen_Click() {
-    if (mMotor.messbereit())
+    static const Messtexte texte{
+        {"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung beginnen ?",
+         "The unit under test has not completed the run-up yet!\r"
+         "Do you still want to start the measurement?"},
+        {"Messen starten", "Start The Measurement"},
+        {"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
+         "Please select a direction of rotation for the motor first!"},
+        {"Vorbereiten der Messung", "Preparation For The Measurement"}};
+    if (mMotor.messbereit(texte))
         form(frm::StatMessen).showModal();
+}
+
+void frmDesktop::pbEndprüf_Click() {
+    fnc_SS2Prüfen();
+    if (gSS2Vorhanden) {
+        form(frm::Endprüf).showModal();
+        return;
+    }
+    meldung({"Die eingestellte Schnittstelle gibt es nicht!\r"
+             "Wenn Sie eine automatische Messung durchführen wollen, \r"
+             "ändern Sie die Schnittstellenparameter!",
+             "The set interface does not exist!\r"
+             "If you want to do an automatic measurement, \r"
+             "change the interface parameters!"},
+            Critical, {"Achtung!", "Attention!"});
 }
 
 void frmDesktop::pbBlutdruck_Click() {

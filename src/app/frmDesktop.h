@@ -75,6 +75,7 @@ class frmDesktop : public Screen, public Motorfenster {
     void pbMessen_Click();
     void pbBlutdruck_Click();
     void pbSecControl_Click();
+    void pbEndprüf_Click();
 
     Ui::frmDesktop ui;
     Motorbedienung mMotor;

@@ -15,6 +15,7 @@
 #include "finaltest/frmEPListe.h"
 #include "finaltest/frmEPNeuRezept.h"
 #include "finaltest/frmEPRezepte.h"
+#include "finaltest/frmEndpruef.h"
 #include "finaltest/frmTest.h"
 #include "link/frmEinlaufen.h"
 #include "link/frmInterface.h"
@@ -101,4 +102,5 @@ void bindScreens() {
     bindScreen<frmEPRezepte>();
     bindScreen<frmEPNeuRezept>();
     bindScreen<frmEPÄndRez>();
+    bindScreen<frmEndprüf>();
 }

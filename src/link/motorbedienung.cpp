@@ -57,25 +57,16 @@ bool Motorbedienung::aus() {
     return false;
 }
 
-bool Motorbedienung::messbereit() {
+bool Motorbedienung::messbereit(const Messtexte &texte) {
     gMessenFreigabe = true;
     gMessStatus = Messstatus::Ruhe;
-    if (!gEingelaufen) {
-        const int antwort = meldung(
-            {"Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung "
-             "beginnen ?",
-             "The unit under test has not completed the run-up yet!\rDo you still want to "
-             "start the measurement?"},
-            YesNo + Exclamation + SecondButtonDefault, {"Messen starten", "Start The Measurement"});
-        if (antwort == No) {
-            gMessenFreigabe = false;
-            return false;
-        }
+    if (!gEingelaufen && meldung(texte.nichtEingelaufen, YesNo + Exclamation + SecondButtonDefault,
+                                 texte.nichtEingelaufenTitel) == No) {
+        gMessenFreigabe = false;
+        return false;
     }
     if (gDrehrichtung == 0) { // also when it was taken back since the running-in
-        meldung({"Bitte wählen Sie zuerst eine Motor-Drehrichtung",
-                 "Please select a direction of rotation for the motor first!"},
-                Exclamation, {"Vorbereiten der Messung", "Preparation For The Measurement"});
+        meldung(texte.ohneRichtung, Exclamation, texte.ohneRichtungTitel);
         form(frm::MotorDrehR).showModal();
         return false;
     }

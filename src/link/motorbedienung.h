@@ -13,6 +13,12 @@ struct Motortexte {
     platform::Text nichtAus, nichtAusTitel;
 };
 
+/// What it asks and tells before a measurement.
+struct Messtexte {
+    platform::Text nichtEingelaufen, nichtEingelaufenTitel;
+    platform::Text ohneRichtung, ohneRichtungTitel;
+};
+
 class Motorbedienung {
   public:
     /// `einlauf` sets the countdown that a start begins.
@@ -29,7 +35,7 @@ class Motorbedienung {
     bool aus();
     /// Asks and tells what stands before a measurement: the running-in, the direction, which is
     /// chosen next where there is none. True when a measurement may begin now.
-    bool messbereit();
+    bool messbereit(const Messtexte &texte);
 
   private:
     Motorfenster &mFenster;

@@ -253,4 +253,12 @@ JOURNEY_P(Keyboard, ReachesTheRecipesOfTheFinalTest) {
         stop == Neues Rezept der Endprüfung | New Final Test Recipe)");
 }
 
+JOURNEY_P(Keyboard, ReachesTheDesktopOfTheFinalTest) {
+    change("UPDATE System SET Endprüfung = -1");
+    co_await logIn();
+    co_await go(R"(
+        stop == torvena ; pbEndprüf ; @Endprüf
+        stop == Endprüfprotokoll für Ergometer | Final Test Protocol For Ergometers)");
+}
+
 } // namespace

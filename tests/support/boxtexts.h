@@ -186,6 +186,17 @@ inline constexpr KnownBox boxTexts[] = {
     {"deleteRecord?", OKCancel + Question + SecondButtonDefault, "Datensatz löschen", "Delete Record", "Wollen Sie den Datensatz wirklich löschen?", "Do you really want to delete this data record?"},
     {"notOpened", Information, "Export", "Export", "Die Tabelle wurde gespeichert. Hier gibt es kein Programm, das sie öffnet:\r%1", "The spreadsheet has been saved. There is no program here that opens it:\r%1"},
     {"noExport", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Fehler 5010 -  70 %1 kann nicht geschrieben werden. Bitte prüfen Sie Ordner, Rechte und freien Platz.", "ERROR 5010 -  70 %1 cannot be written. Please check folder, permissions and free space."},
+    // final test
+    {"noErgometerPort", Critical, "Achtung!", "Attention!", "Die eingestellte Schnittstelle gibt es nicht!\rWenn Sie eine automatische Messung durchführen wollen, \rändern Sie die Schnittstellenparameter!", "The set interface does not exist!\rIf you want to do an automatic measurement, \rchange the interface parameters!"},
+    {"headExists", OKCancel, "Endprüfprotokoll", "Final test protocol", "Zu dieser Seriennummer existiert bereits ein Protokoll.\rDie vorhandenen Daten werden überschrieben!", "There already exists a protocol for this serial number.\rThe existing data will be overwritten!"},
+    {"saveHead", YesNo + Question, "Endprüfprotokoll", "Final test protocol", "Sollen die Daten gespeichert werden?", "Should the data be saved?"},
+    {"falseDate", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Das eingetragene Datum ist falsch!", "Invalid date!"},
+    {"enterOrSave", Information, "Seriennummer", "Serial number", "Tragen Sie Daten ein oder speichern Sie diese!", "Please enter or save data!"},
+    {"notWarm", YesNo + Exclamation + SecondButtonDefault, "Messen starten", "Start The Measurement", "Das Gerät ist noch nicht eingelaufen!\rWollen sie trotzdem die Messung beginnen?", "The device has not warmed up yet!\rDo you still want to start the measurement?"},
+    {"directionHere", Exclamation, "Vorbereiten der Messung", "Preparing the measurement", "Bitte wählen Sie zuerst eine Motor-Drehrichtung", "Please first select a motor direction of rotation"},
+    {"engineNotOn", Critical, "Motor ein", "Engine on", "Motor konnte nicht eingeschaltet werden", "Engine could not be switched on"},
+    {"engineNotOff", Exclamation, "Motor aus", "Engine off", "Fehler", "Error"},
+    {"noReportData", Critical, "Bericht drucken", "Print report", "Keine Berichtsdaten vorhanden!", "No report data available!"},
     // zero point and measurement
     {"noStream", Exclamation, "Meldung", "Message", "Nach 15 Sek kein Empfang", "No reception after 15 sec!"},
     {"correctionOff", Exclamation, "Meldung", "Message", "Statische Nullpunkt-Korrektur abgebrochen", "Static zero-point correction has been discontinued!"},
