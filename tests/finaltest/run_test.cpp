@@ -21,7 +21,7 @@ using namespace support;
 /// Notes what passes on its way to the stand.
 class Tap final : public FarEnd {
   public:
-    Tap(simulator::Stand &stand, Line line, QString &log) : mTo(stand, line), mLog(log) {}
+    Tap(simulator::Stand &stand, SerialLine line, QString &log) : mTo(stand, line), mLog(log) {}
     void receive(std::string_view bytes, double now) override {
         const QString text = QString::fromUtf8(bytes.data(), qsizetype(bytes.size()));
         if (text.startsWith('W') || text.startsWith('*'))
@@ -42,7 +42,7 @@ class EPRun : public Measuring {
         for (const QString &name : QDir(":/layouts").entryList({"*.rpt"}))
             QFile::copy(":/layouts/" + name, name);
         line.connect(controller);
-        line.connect(ergometer, Line::Ergometer);
+        line.connect(ergometer, SerialLine::Ergometer);
         change("INSERT INTO EP (EP_ID, SerienNr) VALUES (40, 'E-1')");
         recipe(70, "'1', '60', 100, '2', 'W100[13]', '2'), (70, '10', '80', 50, '2', 'W050[13]', "
                    "'1'), (70, '2', '70', 150, '2', '', '1'");
@@ -103,8 +103,8 @@ class EPRun : public Measuring {
     }
 
     QString log;
-    Tap controller{line.stand(), Line::Controller, log};
-    Tap ergometer{line.stand(), Line::Ergometer, log};
+    Tap controller{line.stand(), SerialLine::Controller, log};
+    Tap ergometer{line.stand(), SerialLine::Ergometer, log};
 };
 
 JOURNEY_P(EPRun, WalksThroughItsStepsAlone) {
