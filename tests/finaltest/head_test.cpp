@@ -1,4 +1,5 @@
 // The desktop of the final test: the mode, the head of a device, what may be measured.
+#include <QDir>
 #include <QLineEdit>
 
 #include "app/start.h"
@@ -247,6 +248,19 @@ JOURNEY_P(FinalHead, WhatMayBeMeasured) {
         # A device without a type, a recipe that is gone.
         txtGerätetyp = ; ? headExists ; pbok ; ? enterOrSave ; pbMessen ; txtGerätetyp = T ; ? headExists ; pbok
         change DELETE FROM EP_Rezeptnamen WHERE RezName = 'Sport' ; ? enterOrSave ; pbMessen ; front == Endprüf)");
+}
+
+// From the saved device to its report, and on to the next one.
+JOURNEY_P(FinalHead, AMeasuredDevice) {
+    for (const QString &name : QDir(":/layouts").entryList({"*.rpt"}))
+        QFile::copy(":/layouts/" + name, name);
+    change("INSERT INTO EP_Rezepte (RezeptID, Prüfschritt, Drehzahl, Leistung, Prüfart, SSCode, "
+           "MessSchritte) VALUES (6, '1', '60', 100, '2', 'W100[13]', '1')");
+    co_await go(R"(
+        device 1 ; turning ; ? notWarm yes ; pbMessen ; @VorStatNPK ; pbok ; until can StatMessen.pbWeiter ; pbWeiter
+        @NachStatNPK ; pbok ; @Messen ; laDrehR == Linkslauf | Left ; @Endprüf ; rows == 30|2+31|1+9000|1
+        focus pbEingNeu ; waits pbEingNeu ; laLetzterLauf ~ Prüfschritte 1, außer Toleranz 0, Dauer | test steps 1, out of tolerance 0, duration
+        motor == off 0 ; load == 0 ; can pbMessen pbDrehR ; cannot pbok ; pbEingNeu ; laLetzterLauf == ; focus txtSerNr)");
 }
 
 JOURNEY_P(FinalHead, ReportsFollowTheNumberInTheBox) {
