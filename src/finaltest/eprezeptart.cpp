@@ -108,7 +108,7 @@ std::optional<QString> epKlasseZurTaste(const QString &taste) {
 
 void epBeschriften(QWidget &screen) {
     static constexpr Beschriftung english[] = {
-        {"lbToleranz", "&Tolerance:"},
+        {"lbToleranz", "Toler&ance:"},
         {"lbSSCode", "&Ergometer command:"},
         {"lbMessSchritte", "&Measuring steps:"},
     };

@@ -86,7 +86,9 @@ bool frmEPÄndRez::eintragen() {
 }
 
 bool frmEPÄndRez::übernehmbar() {
-    return !mOffen || (mEditor.fnc_SchrittPrüfen() && eintragen());
+    // A step that was deleted has nothing to go in.
+    return !mOffen || !mEditor.vorhanden().value_or(true) ||
+           (mEditor.fnc_SchrittPrüfen() && eintragen());
 }
 
 /// What was typed there gives way to the proposal, each time.

@@ -145,7 +145,9 @@ JOURNEY_P(FinalTestRecipes, ValuesGoInWhenTheirFieldIsLeft) {
         ? epTorque ; pbok ; front == EPÄndRez ; ? epTorque ; pbSpeichern ; focus txtDrehzahl
         ? saveSteps yes ; ? epTorque ; pbexit ; front == EPÄndRez
         txtDrehzahl = 0 ; txtDrehzahl ! ; copy ~ 2:0/700/W700/2/2
-        pbok ; @EPRezepte ; copy == ; three == 1:130/800/W800/4/2 2:0/700/W700/2/2 3:80/300//1/2)");
+        pbok ; @EPRezepte ; copy == ; three == 1:130/800/W800/4/2 2:0/700/W700/2/2 3:80/300//1/2
+        # What waits to go in goes with its step.
+        edit ; pbLoeschen ; pbLoeschen ; txtDrehzahl = 5 ; txtDrehzahl ! ; copy == 1:80/300//1/2 ; pbLoeschen ; pbok ; @EPRezepte ; three ==)");
 }
 
 JOURNEY_P(FinalTestRecipes, NewAndInsertedStepsTakeAllValues) {
