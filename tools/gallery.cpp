@@ -128,34 +128,6 @@ class Gallery : public Workplace {
         picture("test");
         co_await go("stand speederror 0 ; pbexit ; @Desktop");
         co_await opened(frm::EPListe, "epliste");
-        co_await run();
-    }
-
-    /// A final test by itself, the second step out of tolerance.
-    Journey run() {
-        gDatenbank.execute("INSERT INTO EP_Rezeptnamen (RezeptID, RezName) VALUES (900, 'Serie')");
-        gDatenbank.execute(
-            "INSERT INTO EP_Rezepte VALUES (900, '1', '60', 100, '2', 'W100[13]', '3'), "
-            "(900, '2', '80', 150, '2', 'W140[13]', '3'), (900, '3', '60', 50, '2', '', '3')");
-        gEPModus = gSS2Vorhanden = gMessenFreigabe = true;
-        gEPProtokollID = 2;
-        gEPRezeptID = 900;
-        gRezeptName = "medizinische Geräte";
-        gMessStatus = Messstatus::Ruhe;
-        gDrehrichtung = 1;
-        gDatenbank.execute("DELETE FROM EP_Messwerte WHERE ProtokollID = 2");
-        epAblaufEinsetzen();
-        form(frm::Messen).show();
-        co_await until("a step", [] { return inFront(frm::Meldung); });
-        co_await go("@Messen ; until lblMessSchritte == 2/3");
-        picture("messen-endprüfung-nein");
-        co_await go("until laPrSchritt == 3 ; until lblMessSchritte == 2/3");
-        picture("messen-endprüfung");
-        co_await go("pbAbbrechen ; @Desktop");
-        platform::closePreviews();
-        epAblaufWegnehmen();
-        gEPModus = false;
-        gDrehrichtung = 0;
     }
 
     Journey masterData() {
@@ -463,11 +435,13 @@ class Gallery : public Workplace {
         co_await arrive(frm::Desktop);
         picture("desktop-gesperrt");
         co_await finalTest();
+        co_await finalRun();
         co_await leverArm();
     }
 
     /// A known device, and one that runs in.
     Journey finalTest() {
+        change("UPDATE EP_Rezeptnamen SET LetzterAufruf = 0");
         change("INSERT INTO EP_Rezeptnamen (RezName, Toleranz, LetzterAufruf) "
                "VALUES ('Endprüfung Sitzergometer', 'medizinische Geräte', -1)");
         change("INSERT INTO EP (SerienNr, Gerätetyp) VALUES ('SN-2044', 'Sitzergometer S2')");
@@ -483,6 +457,31 @@ class Gallery : public Workplace {
         co_await go("? headExists ; pbok ; pbMotein ; pass 5000");
         picture("endprüf-einlaufen");
         co_await go("pbBeenden ; @Desktop");
+    }
+
+    /// A final test by itself, the second step out of tolerance.
+    Journey finalRun() {
+        gDatenbank.execute("INSERT INTO EP_Rezeptnamen (RezeptID, RezName) VALUES (900, 'Serie')");
+        gDatenbank.execute(
+            "INSERT INTO EP_Rezepte VALUES (900, '1', '60', 100, '2', 'W100[13]', '3'), "
+            "(900, '2', '80', 150, '2', 'W140[13]', '3'), (900, '3', '60', 50, '2', '', '3')");
+        gEPModus = gSS2Vorhanden = gMessenFreigabe = true;
+        gEPProtokollID = 2;
+        gEPRezeptID = 900;
+        gRezeptName = "medizinische Geräte";
+        gMessStatus = Messstatus::Ruhe;
+        gDatenbank.execute("DELETE FROM EP_Messwerte WHERE ProtokollID = 2");
+        epAblaufEinsetzen();
+        form(frm::Messen).show();
+        co_await until("a step", [] { return inFront(frm::Meldung); });
+        co_await go("@Messen ; until lblMessSchritte == 2/3");
+        picture("messen-endprüfung-nein");
+        co_await go("until laPrSchritt == 3 ; until lblMessSchritte == 2/3");
+        picture("messen-endprüfung");
+        co_await go("pbAbbrechen ; @Desktop");
+        platform::closePreviews();
+        epAblaufWegnehmen();
+        gEPModus = false;
     }
 
     Journey leverArm() {

@@ -120,6 +120,12 @@ QString wort(Spruch spruch) {
                                    : inSprache({"nein", "no"});
 }
 
+QString längstesWort(const QString &wort) {
+    constexpr qsizetype kurz = 4; // nein
+    return wort.size() > kurz || wort == "OK" ? inSprache({"Außer Toleranz", "Out of tolerance"})
+                                              : inSprache({"nein", "no"});
+}
+
 std::optional<Spruch> ausWort(const QString &wort) {
     if (wort.isEmpty())
         return std::nullopt;

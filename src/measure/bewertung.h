@@ -26,6 +26,8 @@ Spruch spruchOhne(const Abstand &abstand);
 Spruch spruchMit(const Abstand &abstand);
 /// "ja", "?" or "nein" in the language of the session.
 QString wort(Spruch spruch);
+/// The longest of the words that may stand in the place of this one, for its room.
+QString längstesWort(const QString &wort);
 /// What a stored word says, in either language, also that of a final test; nothing for none.
 std::optional<Spruch> ausWort(const QString &wort);
 

@@ -54,7 +54,7 @@ constexpr Beschriftung english[] = {
     {"Label18", "Set-points"},
     {"Label19", "Working standard"},
     {"Label22", "Tolerance"},
-    {"pbSave", "&Answer"},
+    {"pbSave", "Ans&wer"},
     {"pbAbbrechen", "&Terminate"},
 };
 

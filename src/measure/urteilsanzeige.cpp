@@ -107,11 +107,13 @@ void drawScale(QPainter &painter, const QRectF &rect, const Vorschau::Vergleich 
     painter.drawLine(QPointF(middle, lane.top()), QPointF(middle, lane.bottom()));
     painter.setPen(QPen(f.text, 4, Qt::SolidLine, Qt::FlatCap));
     painter.setFont(small);
+    const bool narrow = rect.width() < 170; // the unit stands beside the deviation as well
     for (const double mark : {-t, 0.0, t}) {
         if (mark != 0)
             painter.drawLine(QPointF(x(mark), lane.top() - 4), QPointF(x(mark), lane.bottom() + 4));
         const QString text = mark == 0  ? QString("0")
                              : mark < 0 ? "−" + number(t, 1)
+                             : narrow   ? '+' + number(t, 1)
                                         : '+' + number(t, 1) + ' ' + is.einheit;
         painter.drawText(QRectF(x(mark) - 60, lane.bottom() + 5, 120, 20),
                          Qt::AlignHCenter | Qt::AlignTop, text);
@@ -136,7 +138,7 @@ int widthOfWords(const std::vector<Vorschau::Urteilswort> &words) {
     int widest = 0;
     for (const auto &word : words)
         widest = std::max(widest, widthOf(schrift(0), word.kopf + ": ") +
-                                      widthOf(schrift(0, true), inSprache({"nein", "no"})));
+                                      widthOf(schrift(0, true), längstesWort(word.wort)));
     return words.empty() ? 0 : widest + 28 + 2 * luft;
 }
 

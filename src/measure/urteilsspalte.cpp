@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 #include "measure/urteilsanzeige.h"
 #include "windows/stil.h"
 
@@ -27,8 +29,9 @@ void Urteilsspalte::paint(QPainter *painter, const QStyleOptionViewItem &option,
     const QFont font = schrift(0, !pass);
     const int width = QFontMetrics(font).horizontalAdvance(word);
     // In the middle as if each word were the longest: the signs stand below one another.
-    const int column = sign + gap + QFontMetrics(schrift(0, true)).horizontalAdvance("nein");
-    const int left = option.rect.center().x() - column / 2;
+    const int column =
+        sign + gap + QFontMetrics(schrift(0, true)).horizontalAdvance(längstesWort(word));
+    const int left = std::max(option.rect.left() + 4, option.rect.center().x() - column / 2);
     const int top = option.rect.center().y() - sign / 2 + 1;
     zeichenMalen(*painter, QRectF(left, top, sign, sign), zeichenZu(spruch));
     painter->setFont(font);

@@ -179,7 +179,7 @@ TEST_F(Picture, OfAnInstruction) { // its arrow, the axis, and below
 TEST_F(Picture, OfAColumnOfVerdicts) {
     // A verdict, then chosen.
     for (const Case &c : cases("ja -> _+.+_ s+.+s | ? -> u?u u?u | nein -> n-.-n n-.-n | OK -> "
-                               "_+.+_ s+.+s | - -> _ s")) {
+                               "_+.+_T_ s+.+sTs | - -> _ s")) {
         QStandardItemModel model;
         model.appendRow(new QStandardItem(box(c.in)));
         QStringList rows;
