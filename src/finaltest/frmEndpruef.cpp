@@ -1,8 +1,8 @@
 #include "finaltest/frmEndpruef.h"
 
-#include "controls/eintrag.h"
 #include <utility>
 
+#include "controls/eintrag.h"
 #include "finaltest/epablauf.h"
 #include "finaltest/epbericht.h"
 #include "link/einlauf.h"
@@ -16,6 +16,7 @@
 #include "session/sprache.h"
 #include "store/sqltext.h"
 #include "windows/msgbox.h"
+#include "windows/preview.h"
 #include "windows/waiting.h"
 #include "windows/zeichen.h"
 
@@ -158,6 +159,8 @@ void frmEndprüf::Form_Activate() {
     mRezeptOK = !ui.cmbRezName->currentText().isEmpty();
     laufZeigen();
     fnc_SpeichernFreigeben();
+    if (std::exchange(mBericht, false))
+        raisePreview(); // this window came up over it
 }
 
 // However it is left, the motor is to stand.
@@ -206,7 +209,7 @@ void frmEndprüf::setMessenEnabled(bool enabled) {
 
 // After a measurement: the next device.
 void frmEndprüf::focusBeenden() {
-    mGemessen = true;
+    mGemessen = mBericht = true;
     ui.pbEingNeu->setFocus();
 }
 

@@ -26,7 +26,7 @@ frmMeldung::frmMeldung() {
 void frmMeldung::Form_Load() {
     beschriftungenSetzen(ui, *this, english);
     auto *messen = loaded<frmMessen>();
-    if (messen)
+    if (messen && !messen->läuftAllein()) // there the way out stays open
         messen->disable();
     const auto zeilen = [this](const Text &erste, const Text &zweite) {
         ui.laMeldung1->setText(inSprache(erste));

@@ -111,6 +111,8 @@ void frmMessen::Form_Activate() try {
         unload();
         return;
     }
+    if (läuftAllein() && loaded(frm::Meldung))
+        return; // the next step begins when the notice has gone
     if (gMessungLäuft)
         ersteAktivierung();
     if (!gMessungLäuft)
@@ -307,6 +309,8 @@ void frmMessen::pbAbbrechen_Click() {
     zustandZeigen();
     gMessenFreigabe = false;
     gMessStatus = Messstatus::Ende;
+    if (Screen *nächster = loaded(frm::Meldung))
+        nächster->unload(); // of a step that does not come any more
     form(frm::Meldung).show();
     messablauf().abbruch();
     if (mRezeptEnde && leitungFrei())

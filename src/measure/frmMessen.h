@@ -14,6 +14,7 @@
 #include "measure/speichernregel.h"
 #include "measure/takt.h"
 #include "session/screens.h"
+#include "session/session.h"
 #include "ui_frmMessen.h"
 
 class frmMessen : public Screen, private Messfenster {
@@ -24,6 +25,8 @@ class frmMessen : public Screen, private Messfenster {
     /// What the notice does when it closes: the box for the ergometer's speed gets the keyboard in
     /// a speed measurement and goes away in a power measurement.
     void meldungGeschlossen();
+    /// Goes from step to step without a person, who can do nothing but end it.
+    bool läuftAllein() const { return !mAnsicht.bedient && gMessStatus == Messstatus::Messen; }
     /// What is measured next, as the notice shows it.
     QString nächsterPrüfschritt() const {
         if (freieEingabe())

@@ -108,6 +108,13 @@ void showPreview(Report report) {
     window->show();
 }
 
+void raisePreview() {
+    if (windows.empty() || !windows.back())
+        return;
+    windows.back()->raise();
+    windows.back()->activateWindow();
+}
+
 void closePreviews() {
     for (const QPointer<QWidget> &window : std::exchange(windows, {}))
         delete window;

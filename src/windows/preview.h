@@ -20,6 +20,8 @@ void setPreviewTexts(std::function<PreviewTexts()> texts);
 
 /// Opens one more window.
 void showPreview(Report report);
+/// The one opened last comes before the screens, with the keyboard; nothing without one.
+void raisePreview();
 void closePreviews();
 
 } // namespace platform

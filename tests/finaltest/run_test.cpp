@@ -134,6 +134,9 @@ JOURNEY(EPRun, LeavesNothingOn) {
         # stopped in a reading, which then has the last result
         run 71, medizinische Geräte ; stand fault answerlate 3000 ; until beeps == 1 ; pass 500
         off emptyTest ; pbAbbrechen ; load == 0 ; @Desktop ; out == ; kept == Serie|1|1|0
+        # stopped under the notice between two steps
+        run 70, medizinische Geräte ; stand fault none ; until rows ~ OK ; until notice ~ Prüfschritt|Test Step
+        Messen.pbAbbrechen ; load == 0 ; notice ~ Beenden|Terminate ; @Desktop ; out ~ ^1
         # closed, ended by the system, a class that is none
         run 71, medizinische Geräte ; stand fault none ; until beeps == 1 ; off emptyTest ; close Messen
         @Desktop ; out == ; run 71, ohne Toleranz ; off failed(3016, 3075) + emptyTest ; @Desktop ; out ==
