@@ -1,7 +1,8 @@
-// Takes the main job by itself, in real time, against the stand behind COM1 of the current
-// directory: from the login to a recipe whose steps stand judged in the database. Leaves a picture
-// of each screen and page in tour/, the pages as PDF files too, and prints the stored rows, which
-// lie in the archive then. Ends with 1 when a station is not reached.
+// Takes the main job and a final test by itself, in real time, against the stand behind COM1 and
+// COM4 of the current directory: from the login to a recipe whose steps stand judged in the
+// database, and from the head of a device to its report. Leaves a picture of each screen and page
+// in tour/, the pages of the protocol as PDF files too, and prints the stored rows, the first of
+// which lie in the archive then. Ends with 1 when a station is not reached.
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
@@ -35,7 +36,7 @@ struct Station {
 };
 
 /// The windows in which pages are looked at, as pictures. False while there are none.
-bool savedPages() {
+bool savedPages(const QString &name) {
     int page = 0;
     for (QWidget *window : QApplication::topLevelWidgets()) {
         if (!window->isVisible() || !window->findChild<QAbstractButton *>("pbPages"))
@@ -43,7 +44,7 @@ bool savedPages() {
         window->resize(1000, 1300);
         window->findChild<QAbstractButton *>("pbWidth")->click();
         QApplication::processEvents();
-        window->grab().save(QString("tour/page %1.png").arg(++page));
+        window->grab().save(QString("tour/%1 %2.png").arg(name).arg(++page));
     }
     return page > 0;
 }
@@ -64,6 +65,13 @@ std::vector<Station> stations() {
     const auto step = [settled](const char *wanted) {
         return
             [settled, wanted] { return settled(wanted) && canPress(frm::Messen, "pbSpeichern"); };
+    };
+    // The second result of the step has come.
+    const auto counted = [](const char *wanted) {
+        return [wanted] {
+            return inFront(frm::Messen) && text(frm::Messen, "laPrSchritt") == wanted &&
+                   text(frm::Messen, "lblMessSchritte").startsWith('2');
+        };
     };
     return {
         {"splash", front(frm::Splash), [] {}},
@@ -122,7 +130,7 @@ std::vector<Station> stations() {
              press(frm::Bericht, "cbVorschau");
              press(frm::Bericht, "OKButton");
          }},
-        {"pages", [] { return savedPages(); },
+        {"pages", [] { return savedPages("page"); },
          [] {
              platform::closePreviews();
              press(frm::Bericht, "pbSichern");
@@ -140,24 +148,50 @@ std::vector<Station> stations() {
          }},
         {"archived protocol", ready(frm::Bericht1, "rbDruck2_1"),
          [] { press(frm::Bericht1, "CancelButton"); }},
+        {"final test", ready(frm::Desktop, "pbEndprüf"), [] { press(frm::Desktop, "pbEndprüf"); }},
+        {"head", front(frm::Endprüf),
+         [] {
+             type(frm::Endprüf, "txtSerNr", "RG-1");
+             press(frm::Endprüf, "pbok");
+         }},
+        {"head saved", ready(frm::Endprüf, "pbMessen"), [] { press(frm::Endprüf, "pbMessen"); }},
+        {"uncouple the unit", front(frm::VorStatNPK), [] { press(frm::VorStatNPK, "pbok"); }},
+        {"its zero point", ready(frm::StatMessen, "pbWeiter"),
+         [] { press(frm::StatMessen, "pbWeiter"); }},
+        {"couple the unit", front(frm::NachStatNPK), [] { press(frm::NachStatNPK, "pbok"); }},
+        {"step alone", counted("1"), [] {}},
+        {"second step alone", counted("2"), [] {}},
+        {"third step alone", counted("3"), [] {}},
+        {"its report", [] { return savedPages("final test"); }, [] { platform::closePreviews(); }},
+        {"unit done", ready(frm::Endprüf, "pbBeenden"), [] { press(frm::Endprüf, "pbBeenden"); }},
         {"the end", ready(frm::Desktop, "pbBeenden"), [] {}},
     };
 }
 
-void printRows() {
-    const Recordset rows = gDatenbank.open(
-        "SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, Ist_D_torvena, Ist_P_torvena, "
-        "Ist_n_ergom, MU_ohne, MU_mit FROM Messwerte WHERE ProtokollID = ? ORDER BY MDat",
-        {gProtokollID});
-    std::printf("stored under protocol %d:\n", int(gProtokollID));
-    std::printf("  step  set n  set P  n 1/min  M N m    P W      read n  without MU  with MU\n");
+void printRows(const QString &head, const Recordset &rows) {
+    std::printf("%s\n", head.toUtf8().constData());
     for (int row = 0; row < rows.count(); ++row) {
-        const auto cell = [&](int column) { return rows.at(row, column).toString().toUtf8(); };
-        std::printf("  %-5s %-6s %-6s %-8s %-8s %-8s %-7s %-11s %s\n", cell(0).constData(),
-                    cell(1).constData(), cell(2).constData(), cell(3).constData(),
-                    cell(4).constData(), cell(5).constData(), cell(6).constData(),
-                    cell(7).constData(), cell(8).constData());
+        QString line = QString("  %1").arg(rows.at(row, 0).toString(), -5);
+        for (int column = 1; column < 8; ++column)
+            line += QString(" %1").arg(rows.at(row, column).toString(), -8);
+        std::printf("%s\n", line.trimmed().prepend("  ").toUtf8().constData());
     }
+}
+
+void printStored() {
+    printRows(
+        QString("stored under protocol %1:\n  step  set n    set P    n 1/min  M N m    P W   "
+                "   read n   verdicts")
+            .arg(gProtokollID),
+        gDatenbank.open("SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, Ist_D_torvena, "
+                        "Ist_P_torvena, Ist_n_ergom, MU_ohne || ' ' || MU_mit FROM Messwerte "
+                        "WHERE ProtokollID = ? ORDER BY MDat",
+                        {gProtokollID}));
+    printRows("stored of the final test:",
+              gDatenbank.open("SELECT Prüfschritt, Soll_n, Soll_P, Ist_n_torvena, Ist_D_torvena, "
+                              "Ist_P_torvena, Ist_n_ergom, Toleranz FROM EP_Messwerte "
+                              "WHERE ProtokollID = ? ORDER BY Val(Prüfschritt)",
+                              {gEPProtokollID}));
 }
 
 class Tour {
@@ -201,7 +235,7 @@ class Tour {
         mSince.restart();
         station.goOn();
         if (mNext == mStations.size()) {
-            printRows();
+            printStored();
             beendenOhneFrage();
         }
     }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The main job in real time over pseudo terminals: the simulated stand and the workstation as two
-# processes. Then the workstation itself, with the motor on and idle, is told to end.
+# The main job and a final test in real time over pseudo terminals: the simulated stand and the
+# workstation as two processes. Then the workstation itself, with the motor on and idle, is told to end.
 #   realtime.sh SETUP STAND TOUR TORVENA
 set -euo pipefail
 setup=$1 stand=$2 tour=$3 torvena=$4
@@ -33,14 +33,16 @@ pids+=("${program[@]}")
 
 LC_ALL=C.UTF-8 "$tour" 2>/dev/null | tee tour.txt
 # Both steps stored, judged as conforming without and with uncertainty for the power step.
-grep -Eq '^  1 +60\.0 +100\.0 +(59|60)\.[0-9]+ .* 0 +ja +ja$' tour.txt
-grep -Eq '^  2 +80\.0 +0\.0 +(79|80)\.[0-9]+ .* 80 +ja +ja$' tour.txt
+grep -Eq '^  1 +60\.0 +100\.0 +(59|60)\.[0-9]+ .* 0 +ja ja$' tour.txt
+grep -Eq '^  2 +80\.0 +0\.0 +(79|80)\.[0-9]+ .* 80 +ja ja$' tour.txt
+# Three steps that the workstation went through alone, each with the speed that the ergometer told.
+[ "$(grep -Ec '^  [123] .* (60|70) +OK$' tour.txt)" = 3 ]
 stands_at() {
     echo "status" >&3
     sleep 0.5
     tail -n 2 out | grep -Eq "^$1" || { echo "the stand is not at $1"; cat out; exit 1; }
 }
-stands_at 'set=0\.00 '
+stands_at 'set=0\.00 .*given=0'
 ls tour/*.png >/dev/null
 
 event() { printf "$(printf '\\0%.0s' {1..16})\\x01\\0\\x$(printf %x "$1")\\0\\x$2\\0\\0\\0" >&4; }
