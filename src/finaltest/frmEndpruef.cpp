@@ -204,7 +204,10 @@ void frmEndprüf::setDrehREnabled(bool enabled) {
 void frmEndprüf::setMessenEnabled(bool enabled) {
     if (!enabled)
         mGespeichert.reset();
+    const bool amMessen = focusWidget() == ui.pbMessen;
     fnc_SpeichernFreigeben();
+    if (amMessen)
+        ui.pbok->setFocus(); // what the work goes on with
 }
 
 // After a measurement: the next device.
@@ -300,7 +303,7 @@ void frmEndprüf::pbMessen_Click() try {
         return;
     gRestMinuten = 10;
     if (hatEPMesswerte(gEPProtokollID))
-        epMesswerteLöschen(gEPProtokollID);
+        epLaufVerwerfen(gEPProtokollID);
     form(frm::StatMessen).showModal();
 } catch (const Fehler &fehler) {
     fehlerBox("EP_6 - ", fehler);

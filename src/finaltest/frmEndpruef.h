@@ -86,6 +86,5 @@ class frmEndprüf : public Screen, public Motorfenster {
     bool mMeldetEin = false;                 ///< the line tells that the motor is switched on
     bool mBericht = false;                   ///< one was opened at the end of a measurement
     bool mGemessen = false;                  ///< the saved device has been through a measurement
-    Schlüssel mRezeptID = 0;                 ///< what gEPRezeptID was set to here
     std::optional<QStringList> mGespeichert; ///< stand() of the saved device
 };

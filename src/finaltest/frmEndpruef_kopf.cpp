@@ -209,6 +209,8 @@ void frmEndprüf::speichern() {
         ui.txtSerNr->setFocus(Qt::TabFocusReason);
     else if (ui.pbDrehR->isEnabled())
         ui.pbDrehR->setFocus();
+    else
+        focusMotaus(); // left alone it would fall on the button that empties the boxes
     if (mNeueEingabe)
         pbEingNeu_Click();
 }

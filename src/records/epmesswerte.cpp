@@ -51,6 +51,16 @@ void epMesswerteLöschen(Schlüssel protokollID) {
     gDatenbank.execute("DELETE FROM EP_Messwerte WHERE ProtokollID = ?", {protokollID});
 }
 
+void epLaufVerwerfen(Schlüssel protokollID) {
+    gDatenbank.together([&] {
+        epMesswerteLöschen(protokollID);
+        gDatenbank.execute("UPDATE EP SET Rezept = NULL, Schritte = NULL, Drehrichtung = NULL, "
+                           "NK_ID = NULL, Begonnen = NULL, Dauer = NULL, Vollständig = NULL "
+                           "WHERE EP_ID = ?",
+                           {protokollID});
+    });
+}
+
 void epMesswertSpeichern(Schlüssel protokollID, const SchrittTexte &schritt,
                          const EPUrteil &urteil) {
     gDatenbank.execute(

@@ -22,6 +22,8 @@ QString epSeriennummer(Schlüssel protokollID);
 Recordset epMesswerte(Schlüssel protokollID);
 bool hatEPMesswerte(Schlüssel protokollID);
 void epMesswerteLöschen(Schlüssel protokollID);
+/// The rows go, and what is kept with the head of the run that they came from.
+void epLaufVerwerfen(Schlüssel protokollID);
 
 /// What a row keeps of its judgement: the class may be another one by the time it is printed.
 struct EPUrteil {

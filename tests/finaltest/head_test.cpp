@@ -197,6 +197,7 @@ JOURNEY_P(FinalHead, TheModeAndBothDesktops) {
         pbEndprüf ; @Endprüf ; follows == 0 0 1 ; cannot Desktop.pbKunde ; both ~ ^(Rechtslauf|Right) xx- $
         txtSerNr = 1 ; pbok ; turning ; both ~ ^(Linkslauf|Left) xx- $ ; can pbMessen ; waits pbMotein
         pbMotein ; pass 2000 ; motor == on 60 ; both ~ (Linkslauf|Left) --x 00:0. ; wire4 ~ W065\s$ ; focus pbMotaus
+        txtOhm = 1 ; ? headExists ; pbok ; focus pbMotaus
         pbMotaus ; pass 1000 ; motor == off 0 ; both ~ (Linkslauf|Left) xx- 00:0. ; focus pbMotein ; wire4 ~ W065\s$
         # The controller does not answer.
         stand fault silent on ; ? noController ; ? engineNotOn ; pbMotein ; pass 9000 ; both ~ xx- ; stand fault none
@@ -260,7 +261,10 @@ JOURNEY_P(FinalHead, AMeasuredDevice) {
         device 1 ; turning ; ? notWarm yes ; pbMessen ; @VorStatNPK ; pbok ; until can StatMessen.pbWeiter ; pbWeiter
         @NachStatNPK ; pbok ; @Messen ; laDrehR == Linkslauf | Left ; @Endprüf ; rows == 30|2+31|1+9000|1
         focus pbEingNeu ; waits pbEingNeu ; laLetzterLauf ~ Prüfschritte 1, außer Toleranz 0, Dauer | test steps 1, out of tolerance 0, duration
-        motor == off 0 ; load == 0 ; can pbMessen pbDrehR ; cannot pbok ; pbEingNeu ; laLetzterLauf == ; focus txtSerNr)");
+        motor == off 0 ; load == 0 ; can pbMessen pbDrehR ; cannot pbok
+        # Once its rows are given up nothing is told of their run.
+        pbMessen ; @VorStatNPK ; close ; @StatMessen ; ? correctionAborted ; pbAbbrechen ; @Endprüf ; laLetzterLauf == ; focus pbok
+        ? saveHead no ; pbEingNeu ; laLetzterLauf == ; focus txtSerNr)");
 }
 
 JOURNEY_P(FinalHead, ReportsFollowTheNumberInTheBox) {
