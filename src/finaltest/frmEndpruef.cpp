@@ -159,8 +159,9 @@ void frmEndprüf::Form_Activate() {
     mRezeptOK = !ui.cmbRezName->currentText().isEmpty();
     laufZeigen();
     fnc_SpeichernFreigeben();
-    if (std::exchange(mBericht, false))
-        raisePreview(); // this window came up over it
+    const bool bericht = std::exchange(mBericht, false);
+    if (bericht && hatEPMesswerte(gEPProtokollID)) // else one of an earlier device may be open
+        raisePreview();                            // this window came up over it
 }
 
 // However it is left, the motor is to stand.

@@ -84,7 +84,7 @@ class frmEndprüf : public Screen, public Motorfenster {
     bool mRezeptOK = false;
     bool mNeueEingabe = false;               ///< the next saving ends in a new entry
     bool mMeldetEin = false;                 ///< the line tells that the motor is switched on
-    bool mBericht = false;                   ///< one was opened at the end of a measurement
+    bool mBericht = false;                   ///< a measurement has just ended
     bool mGemessen = false;                  ///< the saved device has been through a measurement
     std::optional<QStringList> mGespeichert; ///< stand() of the saved device
 };
