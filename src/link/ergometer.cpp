@@ -260,7 +260,7 @@ void ergometerDiagnose(const std::function<void(const QString &)> &zeigen) try {
         countedDelay(diagnoserunden);
         Stille stille;
         stille.erwarten(restMilliseconds);
-        while (!stille.eingetreten() && gDesktopAktiv && MSComm2.PortOpen()) {
+        while (!stille.eingetreten() && !gTimeoutSS2 && gDesktopAktiv && MSComm2.PortOpen()) {
             pump();
             if (!MSComm2.PortOpen())
                 return;
@@ -270,6 +270,7 @@ void ergometerDiagnose(const std::function<void(const QString &)> &zeigen) try {
             }
         }
     }
+    gTimeoutSS2 = false;
     if (!gDesktopAktiv)
         return;
     if (antwort.isEmpty()) {

@@ -72,6 +72,6 @@ std::optional<QString> fnc_ErgometerDrehzahlLesen(const std::function<bool()> &a
 int antwortDeuten(const QByteArray &antwort, const std::function<void(const QString &)> &zeigen);
 /// Told when nothing has come.
 void keineAntwortMelden();
-/// The service question: asks, waits until 100 ms pass without a byte, and tells in boxes what has
-/// come. Shows its failures ("mSI 1 - ").
+/// The service question: asks, waits until 100 ms pass without a byte, five seconds at most, and
+/// tells in boxes what has come. Shows its failures ("mSI 1 - ").
 void ergometerDiagnose(const std::function<void(const QString &)> &zeigen);

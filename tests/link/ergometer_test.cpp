@@ -142,6 +142,12 @@ TEST_F(Answers, OnTheServiceQuestion) {
                                "-> Keine Kommunikation mit dem Ergometer!!/"))
         EXPECT_EQ(ask(c.in), QString(c.out).replace('/', '|'));
     EXPECT_TRUE(ask("nx23").startsWith("6E783233|Fehler mSI 1 -  13 "));
+    script.onWrite = {};
+    for (int at = 3; at <= 6000; at += 3) // never silent
+        script.arrive(clock.elapsed(), {"x"}, at);
+    start = clock.elapsed();
+    ergometerDiagnose([](const QString &) {});
+    EXPECT_LE(took(), 5001);
 }
 
 TEST_F(Answers, AndLoads) {
