@@ -9,7 +9,9 @@
 #include "measure/messablauf.h"
 #include "platform/clock.h"
 #include "platform/fehler.h"
+#include "platform/runtime.h"
 #include "records/epmesswerte.h"
+#include "records/schrittliste.h"
 #include "records/toleranzklasse.h"
 #include "session/screens.h"
 #include "session/session.h"
@@ -114,12 +116,13 @@ void EPAblauf::wächterStellen(int milliseconds) {
 // The load is on before the speed is asked for.
 void EPAblauf::vorSollwert(const Recordset &schritt) {
     mStand = 0;
-    gEPZähler = schritt["MessSchritte"].whole();
-    if (gEPZähler < 1) {
+    const double anzahl = Round(schritt["MessSchritte"].number());
+    if (anzahl < 1 || anzahl > größteAnzahl) {
         throw Fehler(fehlernummer::TypeMismatch,
                      {"Der Prüfschritt hat keine Anzahl von Messungen und würde nicht enden.",
                       "The test step has no number of measurements and would not end."});
     }
+    gEPZähler = static_cast<int>(anzahl);
     wächterStellen(längsteStille);
     const QByteArray zeile = fnc_Transformation(schritt["SSCode"].text());
     if (gMessStatus != Messstatus::Messen || !gSS2Vorhanden || zeile.isEmpty())

@@ -44,7 +44,8 @@ std::vector<Umnummerierung> lückeSchließen(int nummer, int größte) {
 }
 
 Anzahlprüfung anzahlPrüfen(const QString &text) {
-    if (!IsNumeric(text))
+    // Thousands in groups are another number to the run, and beyond these it has none.
+    if (!IsNumeric(text) || CDbl(text) != ValBeider(text) || CDbl(text) > größteAnzahl)
         return Anzahlprüfung::KeineZahl;
     return platform::Round(CDbl(text)) < 1 ? Anzahlprüfung::Keine : Anzahlprüfung::Gültig;
 }
@@ -158,6 +159,6 @@ Schritt Schrittliste::schrittAus(const Recordset &rows) const {
     Schritt schritt{rows["Prüfschritt"].whole(), angezeigt(rows["Drehzahl"]),
                     angezeigt(rows["Leistung"]), Prüfart::ausAnfang(rows["Messart"].text())};
     for (const auto &[name, wert, anzahl] : mWeitere)
-        schritt.*wert = rows[name].text();
+        schritt.*wert = anzahl ? angezeigt(rows[name]) : rows[name].text();
     return schritt;
 }

@@ -79,6 +79,7 @@ class Schrittliste {
     int mVorzeichen;
 };
 
+inline constexpr int größteAnzahl = 9999; ///< of six-round measurements
 /// Whether the text is a number that counts at least one.
 enum class Anzahlprüfung { KeineZahl, Keine, Gültig };
 Anzahlprüfung anzahlPrüfen(const QString &text);

@@ -25,6 +25,9 @@ TEST_F(FinalTestSteps, LimitsAndWhatIsMissing) {
     // 70.06, 69.7 and nothing at standstill
     for (const Case &c : cases("30, 220 -> 0 | 30, 219 -> 1 | 0, 800 -> 1"))
         EXPECT_EQ(drehmomentZulässig(c.in_(0), c.in_(1), neuesEPRezept.grenzen), c.out == "1") << c;
+    for (const Case &c :
+         cases("1 -> g | 1,5 -> g | 0,5 -> 0 | -1 -> 0 | 1.500 -> n | 9e99 -> n | x -> n"))
+        EXPECT_EQ(QString("n0g"[static_cast<int>(anzahlPrüfen(c.in))]), c.out) << c;
     QStringList missing;
     for (int bits = 0; bits < 8; ++bits) {
         const auto text = [bits](int bit) { return bits & bit ? "" : "1"; };

@@ -44,7 +44,7 @@ class EPRun : public Measuring {
         line.connect(controller);
         line.connect(ergometer, SerialLine::Ergometer);
         change("INSERT INTO EP (EP_ID, SerienNr) VALUES (40, 'E-1')");
-        recipe(70, "'1', '60', 100, '2', 'W100[13]', '2'), (70, '10', '80', 50, '2', 'W050[13]', "
+        recipe(70, "'1', '60', 100, '2', 'W100[13]', '1,6'), (70, '10', '80', 50, '2', 'W050[13]', "
                    "'1'), (70, '2', '70', 150, '2', '', '1'");
         recipe(71, "'1', '60', 100, '2', 'W100[13]', '1'");
         recipe(72, "'1', '60', 100, '2', 'W100[13]', '0'");
