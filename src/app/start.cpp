@@ -14,6 +14,7 @@
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
+#include "store/trail.h"
 #include "windows/msgbox.h"
 #include "windows/preview.h"
 
@@ -75,6 +76,7 @@ void programmStarten() {
     setUncaughtReporter(reportUncaught);
     setBoxCaptions(boxCaption);
     setPreviewTexts(previewTexts);
+    setTrailPerson([] { return gPrüfer; });
     controllerVorbereiten();
     einlaufVorbereiten();
     ergometerVorbereiten();

@@ -10,6 +10,7 @@
 
 #include "platform/runtime.h"
 #include "store/sqltext.h"
+#include "store/trail.h"
 
 using namespace platform;
 
@@ -196,8 +197,9 @@ void Datenbank::openFile(const QString &path) {
         // Reads, so that a damaged file tells now. One without tables was cut off to nothing.
         if (database->execAndGet("SELECT count(*) FROM sqlite_master").getInt() == 0)
             throw SQLite::Exception("no tables", SQLITE_CORRUPT);
-        database->exec("PRAGMA cache_size=-32768");   // KiB; the tables of a search stay in it
-        database->exec("PRAGMA journal_mode=DELETE"); // a copy of the file holds all data
+        database->exec("PRAGMA cache_size=-32768");    // KiB; the tables of a search stay in it
+        database->exec("PRAGMA journal_mode=DELETE");  // a copy of the file holds all data
+        database->exec("PRAGMA recursive_triggers=1"); // a row that is replaced is a deleted one
         mDatabase = std::move(database);
         registerFunctions();
     });
@@ -252,6 +254,7 @@ void Datenbank::close() {
 }
 
 void Datenbank::registerFunctions() {
+    addTrailFunctions(*mDatabase);
     const auto add = [this](const char *name, int arguments, auto function) {
         mDatabase->createFunction(name, arguments, true, nullptr, function, nullptr, nullptr,
                                   nullptr);
@@ -324,6 +327,10 @@ void Datenbank::snapshot(const std::function<void()> &statements) {
 
 int Datenbank::execute(const QString &sql, const Params &params) {
     return translated([&] { return prepare(sql, params).exec(); });
+}
+
+void Datenbank::run(const QString &script) {
+    translated([&] { database().exec(script.toStdString()); });
 }
 
 qlonglong Datenbank::insert(const QString &sql, const Params &params) {

@@ -72,6 +72,8 @@ class Datenbank {
     void snapshot(const std::function<void()> &statements);
     /// Writes and answers how many rows were touched. Raises DuplicateKey besides those of open().
     int execute(const QString &sql, const Params &params = {});
+    /// Runs the statements of a whole script. Raises as execute().
+    void run(const QString &script);
     /// Writes one new row and answers its key, which may be greater than the session can hold.
     /// Raises as execute().
     qlonglong insert(const QString &sql, const Params &params = {});

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 
+#include "store/scripts.h"
 #include "store/sqltext.h"
+#include "store/trail.h"
 
 using namespace platform;
 
@@ -24,6 +26,7 @@ RowCopy::RowCopy(const QString &used, const QString &fresh,
     openSound(fresh);
     mStore.execute("ATTACH ? AS Alt", {used});
     mStore.execute("BEGIN");
+    const TrailPause none(mStore); // an update file that somebody made of a database has its own
     // Rows move page by page where nothing hangs on them, and nothing is computed anew.
     Recordset triggers = mStore.open("SELECT name, sql FROM main.sqlite_master "
                                      "WHERE type = 'trigger' ORDER BY rowid");
@@ -71,10 +74,11 @@ QString RowCopy::version() {
 
 QStringList RowCopy::tables() {
     QStringList names;
-    Recordset rows = mStore.open("SELECT name FROM main.sqlite_master WHERE type = 'table' AND "
-                                 "name NOT LIKE 'sqlite%' AND name NOT IN ('ToDo', ?) AND name IN "
-                                 "(SELECT name FROM Alt.sqlite_master WHERE type = 'table')",
-                                 {delivered});
+    Recordset rows =
+        mStore.open("SELECT name FROM main.sqlite_master WHERE type = 'table' AND "
+                    "name NOT LIKE 'sqlite%' AND name NOT IN ('ToDo', 'Nachweis', ?) AND name IN "
+                    "(SELECT name FROM Alt.sqlite_master WHERE type = 'table')",
+                    {delivered});
     for (; !rows.atEnd(); rows.moveNext())
         names += rows[0].text();
     return names;
@@ -90,11 +94,12 @@ bool RowCopy::exists(const QString &schema, const QString &table) {
 }
 
 QStringList RowCopy::columnsOf(const QString &schema, const QString &table) {
-    QStringList columns;
-    Recordset rows = mStore.open("SELECT name FROM pragma_table_info(?, ?)", {table, schema});
-    for (; !rows.atEnd(); rows.moveNext())
-        columns += rows[0].text();
-    return columns;
+    return trailColumns(mStore, schema, table);
+}
+
+QString RowCopy::typesOf(const QString &schema, const QString &table) {
+    return mStore.open("SELECT group_concat(type) FROM pragma_table_info(?, ?)", {table, schema})[0]
+        .text();
 }
 
 qlonglong RowCopy::countOf(const QString &schema, const QString &table) {
@@ -153,6 +158,10 @@ void RowCopy::copy(const QString &table, const QString &into, const QString &sel
 void RowCopy::add(const QString &table) {
     const QString columns = columnsFor(table);
     copy(table, columns, columns.isEmpty() ? "SELECT *" : "");
+    mMoved.removeAll(table);
+    if (columns.isEmpty() && mRecord.extra[table] == 0 &&
+        typesOf("Alt", table) == typesOf("main", table))
+        mMoved += table;
 }
 
 void RowCopy::replace(const QString &table) {
@@ -209,6 +218,7 @@ bool RowCopy::addCalibration() {
     add("Hebelarmkalibrierung");
     mStore.execute("UPDATE main.Hebelarmkalibrierung SET NK_ID = "
                    "(SELECT MAX(NK_ID) FROM main.Normalkalibrierdaten)");
+    mMoved.removeAll("Hebelarmkalibrierung");
     return rowsInUse("Normalkalibrierdaten") == 1;
 }
 
@@ -225,9 +235,37 @@ void RowCopy::addDeliveredCalibration() {
     const QString columns =
         "SerienNr, Normal, kalibriertVon, kalibriertBis, KalScheinNr, Offset, Gain_R, Gain_L, "
         "VK1_R, VK1_L, HebelarmNr, GrenzwStreubreite, AnzahlStreu";
+    mMoved.removeAll("Normalkalibrierdaten");
     mRecord.extra["Normalkalibrierdaten"] +=
         mStore.execute("INSERT INTO main.Normalkalibrierdaten (" + columns + ") SELECT " + columns +
                        " FROM main." + delivered + " ORDER BY rowid");
+}
+
+qlonglong RowCopy::standOf(const char *schema) {
+    return mStore.open(QString("PRAGMA %1.user_version").arg(schema))[0].value().toLongLong();
+}
+
+/// The links move as they stand; tables that are what they were go on with them, of others the
+/// state becomes a link. A database that never had a trail gets it when it is opened.
+void RowCopy::layTrail() {
+    const QString trail = "Nachweis";
+    const bool kept = exists("Alt", trail);
+    if (!kept && standOf("Alt") < datenbankStand)
+        return;
+    if (!exists("main", trail)) {
+        Recordset parts = mStore.open("SELECT sql FROM Alt.sqlite_master WHERE tbl_name = ? AND "
+                                      "type IN ('table', 'index') ORDER BY type DESC",
+                                      {trail});
+        for (; !parts.atEnd(); parts.moveNext())
+            mStore.execute(parts[0].text());
+    }
+    if (kept)
+        replace(trail);
+    TrailPause pause(mStore, "Alt");
+    pause.resume(mMoved);
+    const int added = pause.end("Update");
+    if (kept)
+        mRecord.extra[trail] += added;
 }
 
 CopyRecord RowCopy::finish() {
@@ -235,12 +273,10 @@ CopyRecord RowCopy::finish() {
     mStore.execute("DROP TABLE IF EXISTS main." + delivered);
     for (const QString &trigger : mTriggers)
         mStore.execute(trigger);
+    layTrail();
     // What an older database never kept is filled in when this one is opened.
-    const auto stand = [this](const char *schema) {
-        return mStore.open(QString("PRAGMA %1.user_version").arg(schema))[0].whole();
-    };
-    if (stand("Alt") < stand("main"))
-        mStore.execute(QString("PRAGMA main.user_version = %1").arg(stand("Alt")));
+    if (standOf("Alt") < standOf("main"))
+        mStore.execute(QString("PRAGMA main.user_version = %1").arg(standOf("Alt")));
     mStore.execute("COMMIT");
     mStore.close();
     return mRecord;

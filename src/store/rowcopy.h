@@ -41,7 +41,7 @@ class RowCopy {
     /// The version that the new file asks for. Raises MissingTable where it asks for none of
     /// updateVersions.
     QString version();
-    /// All tables that both files have.
+    /// All tables that both files have, but for the trail, which comes with finish().
     QStringList tables();
     /// For the total of the progress.
     void announce(const QStringList &tables);
@@ -59,7 +59,7 @@ class RowCopy {
     /// False when a failure undid everything, as a full disk does.
     bool whole() { return mStore.inTransaction(); }
 
-    /// The new file is a database like any other now, and on disk.
+    /// The new file is a database like any other now, with the trail of the old one, and on disk.
     CopyRecord finish();
 
   private:
@@ -68,8 +68,11 @@ class RowCopy {
     QString columnsFor(const QString &table);
     bool exists(const QString &schema, const QString &table);
     QStringList columnsOf(const QString &schema, const QString &table);
+    QString typesOf(const QString &schema, const QString &table);
     qlonglong countOf(const QString &schema, const QString &table);
     qlonglong rowsInUse(const QString &table);
+    qlonglong standOf(const char *schema);
+    void layTrail();
     void keepCounter(const QString &table);
     void noteUncertainty(const QString &table);
     bool ask(int steps);
@@ -78,6 +81,7 @@ class RowCopy {
     std::function<bool(const CopyState &)> mGoesOn;
     QStringList mTriggers;               // their statements
     QMap<QString, qlonglong> mRowsInUse; // as counted so far
+    QStringList mMoved;                  // tables that are what they were
     CopyRecord mRecord;
     CopyState mState;
     qlonglong mFinished = 0; // rows of the tables before this one

@@ -4,14 +4,13 @@
 
 #include "store/database.h"
 #include "store/rowcopy.h"
+#include "store/trail.h"
 
 using namespace platform;
 
 static void initResource() { // outside of every namespace: the macro declares what it calls
     Q_INIT_RESOURCE(store);
 }
-
-namespace {
 
 QString sqlScript(const QString &name) {
     initResource();
@@ -22,6 +21,8 @@ QString sqlScript(const QString &name) {
     }
     return QString::fromUtf8(file.readAll());
 }
+
+namespace {
 
 /// Tables, stored queries and the rows that every new file has.
 std::vector<QString> emptyScripts() {
@@ -36,11 +37,16 @@ std::vector<QString> emptyScripts() {
     return scripts;
 }
 
-void createWhole(const QString &path, const std::vector<QString> &scripts) {
+void createWhole(const QString &path, const std::vector<QString> &scripts, bool trail) {
     const QString unfinished = path + ".new";
     QFile::remove(unfinished);
     try {
         Datenbank::createFile(unfinished, scripts);
+        if (trail) {
+            Datenbank store;
+            store.openFile(unfinished);
+            store.together([&] { layTrail(store, "Neue Datenbank"); });
+        }
     } catch (...) {
         QFile::remove(unfinished);
         throw;
@@ -64,7 +70,7 @@ std::vector<QString> databaseScripts(bool demo) {
 }
 
 void legeDatenbankAn(const QString &path, bool demo) {
-    createWhole(path, databaseScripts(demo));
+    createWhole(path, databaseScripts(demo), true);
 }
 
 void legeUpdateAn(const QString &path, const QString &version) {
@@ -74,5 +80,5 @@ void legeUpdateAn(const QString &path, const QString &version) {
         scripts.push_back(QString("INSERT INTO ToDo (Funktion, ja) VALUES ('%1', %2)")
                               .arg(known, QString::number(known == version ? -1 : 0)));
     }
-    createWhole(path, scripts);
+    createWhole(path, scripts, false); // which comes with the rows
 }

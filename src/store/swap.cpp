@@ -95,7 +95,8 @@ class Check {
     void copied(const QString &table, qlonglong extra) {
         const qlonglong wanted = countOf("Alt", table) + extra;
         const qlonglong there = countOf("main", table);
-        if (wanted != there) {
+        const bool goesOn = table == "Nachweis" && there > wanted; // with a change of the new file
+        if (wanted != there && !goesOn) {
             const QString numbers = table + ": " + QString::number(there);
             found({numbers + QString(" statt %1 Zeilen").arg(wanted),
                    numbers + QString(" instead of %1 rows").arg(wanted)});

@@ -11,6 +11,7 @@
 #include "platform/clock.h"
 #include "store/database.h"
 #include "store/scripts.h"
+#include "store/trail.h"
 
 using namespace platform;
 
@@ -49,6 +50,7 @@ class Update {
     }
 
     void run() {
+        TrailPause trail(mStore);
         dropAll("view");
         dropAll("trigger");
         forEach("table", [this](const QString &name, const QString &sql) { table(name, sql); });
@@ -64,7 +66,9 @@ class Update {
                     mStore.execute(sql);
             });
         }
+        trail.resume();
         fillIn();
+        trail.end(QString("Auf Stand %1 gebracht").arg(datenbankStand));
         mStore.execute(QString("PRAGMA main.user_version = %1").arg(datenbankStand));
     }
 
@@ -149,7 +153,7 @@ class Update {
 void bringeDatenbankAufStand(const QString &path) {
     const QTemporaryDir directory;
     const QString model = directory.filePath("model.mdb");
-    legeDatenbankAn(model, false);
+    Datenbank::createFile(model, databaseScripts(false));
     Datenbank store;
     store.openFile(path);
     if (store.open("PRAGMA quick_check(1)")[0].text() != "ok") {

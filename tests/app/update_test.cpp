@@ -10,6 +10,7 @@
 #include "store/rowcopy.h"
 #include "store/scripts.h"
 #include "store/swap.h"
+#include "store/trailcheck.h"
 #include "windows/filechoice.h"
 #include "workplace.h"
 
@@ -80,7 +81,9 @@ class Updating : public Workplace {
             rows[table] = lines.join('\n');
         }
         rows["triggers"] = QString::number(
-            file.open("SELECT count(*) FROM sqlite_master WHERE type = 'trigger'")[0].whole());
+            file.open("SELECT count(*) FROM sqlite_master WHERE type = 'trigger' AND name NOT GLOB "
+                      "'Nachweis*'")[0]
+                .whole());
         return rows;
     }
 
@@ -155,8 +158,12 @@ JOURNEY_ROWS(Updating, MovesTheTablesOfItsVersion, "301//301/2099-01-01", "302//
                             "System",         "Toleranzen"};
     for (const QString gone : {"ToDo", "Normalkalibrierdaten_neu"})
         EXPECT_FALSE(filled.contains(gone));
-    QStringList others{"ToDo", "Normalkalibrierdaten_neu", "Normalkalibrierdaten",
-                       "Hebelarmkalibrierung", "sqlite_sequence"};
+    QStringList others{"Nachweis",
+                       "ToDo",
+                       "Normalkalibrierdaten_neu",
+                       "Normalkalibrierdaten",
+                       "Hebelarmkalibrierung",
+                       "sqlite_sequence"};
     if (row[2] == "203")
         others += "Rezeptnamen";
     for (const QString &table : delivered.keys()) {
@@ -168,6 +175,8 @@ JOURNEY_ROWS(Updating, MovesTheTablesOfItsVersion, "301//301/2099-01-01", "302//
         }
     }
     gDatenbank.openFile(gefüllteDatenbank);
+    EXPECT_TRUE(filled["Nachweis"].startsWith(used["Nachweis"]));
+    EXPECT_TRUE(!row[1].isEmpty() || checkTrail(gDatenbank).found.empty());
     EXPECT_EQ(filled["Normalkalibrierdaten"].startsWith(used["Normalkalibrierdaten"]), true);
     const int newest = last.section('|', 0, 0).toInt() + (added ? 1 : 0);
     EXPECT_EQ(grid("SELECT NK_ID, Gain_L = 4711 FROM Normalkalibrierdaten ORDER BY NK_ID DESC "

@@ -95,6 +95,10 @@ QString Workshop::grid(const QString &sql, const Datenbank::Params &params) {
 void Workshop::change(const QString &sql, const Datenbank::Params &params) {
     Datenbank other;
     other.openFile(datenbankName);
+    if (sql.contains("DROP COLUMN")) {
+        for (const char *what : {"neu", "geändert", "gelöscht"})
+            other.execute("DROP TRIGGER IF EXISTS Nachweis_" + sql.section(' ', 2, 2) + '_' + what);
+    }
     other.execute(sql, params);
 }
 

@@ -32,7 +32,8 @@ class Workshop : public testing::Test {
     static QStringList column(const QString &sql, const Datenbank::Params &params = {});
     /// All columns of all rows, "a|b+c|d".
     static QString grid(const QString &sql, const Datenbank::Params &params = {});
-    /// Another program writes to the database.
+    /// Another program writes to the database. A table that loses a column is that of an older
+    /// build, without the triggers of the trail.
     static void change(const QString &sql, const Datenbank::Params &params = {});
     /// Such a statement on this table fails until the database is mended; after SELECT, all do.
     static void spoil(const QString &event, const QString &table);

@@ -203,6 +203,27 @@ CREATE TABLE EP_Messwerte (
 CREATE INDEX EP_MesswerteSchritt ON EP_Messwerte (ProtokollID, Prüfschritt);
 
 
+-- The trail ------------------------------------------------------------------------------------
+
+-- Who changed which row when: the links of a chain of hashes, appended by triggers (trail.sql) for all
+-- tables but the staging ones, ÄndRez_temp and this one.
+CREATE TABLE Nachweis (
+    Nr          INTEGER PRIMARY KEY AUTOINCREMENT,
+    Zeit        TEXT,                       -- UTC, by the clock of the computer
+    Person      TEXT COLLATE NOCASE,        -- as it was given at the login
+    Tabelle     TEXT,
+    Vorgang     TEXT,                       -- neu, geändert, gelöscht; Bestand, Vermerk
+    Schlüssel   TEXT,                       -- rowid; of a Bestand or Vermerk its occasion
+    Alt         TEXT,                       -- JSON of the row; Null for a new one
+    Neu         TEXT,                       -- JSON of the row; Null for a deleted one
+    Vorher      TEXT,                       -- Kette of the link before
+    Kette       TEXT                        -- SHA-256 over all columns before it, hex
+);
+CREATE INDEX NachweisZeit ON Nachweis (Zeit);
+-- By protocol number and number of a final test: '[7,null]', '[null,7]'.
+CREATE INDEX NachweisProtokoll ON Nachweis (json_extract(IFNULL(Neu, Alt), '$.ProtokollID', '$.EP_ID'));
+
+
 -- Staging of the reports -----------------------------------------------------------------------
 --
 -- Each holds the rows of the one protocol that is being printed, and is filled from the views of
