@@ -8,6 +8,7 @@
 #include "platform/runtime.h"
 #include "records/berichtsfelder.h"
 #include "records/epberichtsdaten.h"
+#include "records/nachweis.h"
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
@@ -207,6 +208,7 @@ LayoutData berichtsdaten(const QString &stufentabelle, Bestand bestand, Schlüss
     const Recordset kopf = kopfLesen(bestand, protokollID);
     LayoutData daten{kopffelder(kopf, bestand), {}};
     daten.fields["Blatt"] = inSprache(seite.blatt);
+    daten.fields["Nachweis"] = nachweisStand();
     LayoutList liste;
     for (int zeile = 0; zeile < zeilen.count(); ++zeile) {
         liste.rows.push_back(felder(zeilen, zeile));

@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/runtime.h"
 #include "records/berichtsfelder.h"
+#include "records/nachweis.h"
 #include "records/toleranzklasse.h"
 #include "session/sprache.h"
 #include "store/sqltext.h"
@@ -136,6 +137,7 @@ LayoutData epBerichtsdaten(const Recordset &zeilen, const Seitendaten &seite) {
     kopf["Prüfername"] = kopf["Prüfer"];
     kopf["Ausstelldatum"] = datumText(now().date());
     kopf["Blatt"] = inSprache(seite.blatt);
+    kopf["Nachweis"] = nachweisStand();
     for (const char *spalte : {"GeräteableitI", "SchutzleiterR", "IsolationsR", "auf0", "auf50",
                                "auf100", "auf150", "auf200", "auf250", "auf300", "Ablassrate"})
         kopf[spalte] = wieEingegeben(kopf[spalte]);

@@ -12,8 +12,8 @@
 struct Nachweisfilter {
     Schlüssel protokollID = 0; ///< in work or archived, with its values and sheets
     Schlüssel epID = 0;        ///< a final test with its values
-    QDate tag;                 ///< of the change, in local time
-    QString person;            ///< by whole name, without regard to case
+    QDate tag = {};            ///< of the change, in local time
+    QString person = {};       ///< by whole name, without regard to case
 };
 
 /// Rows that a list takes.

@@ -8,6 +8,7 @@
 
 #include "measure/bewertung.h"
 #include "platform/runtime.h"
+#include "records/nachweis.h"
 #include "windows/print.h"
 #include "workshop.h"
 
@@ -187,7 +188,7 @@ TEST_F(Seiten, TearNoRow) {
             for (const QString &jeSeite :
                  {inSitzung("Protokoll %1 vom %2$", "Protocol %1 of %2$").arg(id).arg(heute),
                   QString("Werkstr. 1, 12345 Ort"), QString("Tel. 0815, labor@example.org"),
-                  inSitzung("Seite \\d von %1$", "Page \\d of %1$").arg(seiten)})
+                  nachweisStand(), inSitzung("Seite \\d von %1$", "Page \\d of %1$").arg(seiten)})
                 EXPECT_EQ(lines.filter(QRegularExpression(jeSeite)).size(), seiten) << jeSeite;
         }
     }
