@@ -7,6 +7,7 @@
 
 #include "store/database.h"
 #include "store/scripts.h"
+#include "store/trail.h"
 
 namespace bench {
 
@@ -82,6 +83,11 @@ void prepareLargeDatabase(const QString &directory) {
     std::vector<QString> scripts = databaseScripts(true);
     scripts.push_back(fill);
     Datenbank::createFile(unfinished, scripts);
+    {
+        Datenbank store;
+        store.openFile(unfinished);
+        store.together([&] { layTrail(store, "Neue Datenbank"); });
+    }
     QFile::rename(unfinished, path);
 }
 
