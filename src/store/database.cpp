@@ -215,8 +215,7 @@ void Datenbank::createFile(const QString &path, const std::vector<QString> &scri
     });
 }
 
-void Datenbank::copyFile(const QString &from, const QString &to,
-                         const std::function<bool()> &goesOn) {
+void Datenbank::copyFile(const QString &from, const QString &to, const CopyProgress &goesOn) {
     translated([&] {
         constexpr int pages = 500; // of 4 KB
         SQLite::Database source(from.toStdString(), SQLite::OPEN_READONLY, busyMilliseconds);
@@ -224,13 +223,36 @@ void Datenbank::copyFile(const QString &from, const QString &to,
         SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         SQLite::Backup backup(target, source);
         for (int came = SQLITE_OK; came != SQLITE_DONE;) {
-            if (goesOn && !goesOn())
+            const int total = backup.getTotalPageCount(); // 0 before the first step
+            if (goesOn && !goesOn(total - backup.getRemainingPageCount(), total))
                 throw SQLite::Exception("cancelled", SQLITE_INTERRUPT);
             came = backup.executeStep(pages);
             if (came == SQLITE_BUSY || came == SQLITE_LOCKED)
                 throw SQLite::Exception("locked", came);
         }
     });
+}
+
+QString Datenbank::damageIn(const QString &path) {
+    try {
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READWRITE, busyMilliseconds);
+        if (database.execAndGet("SELECT count(*) FROM sqlite_master").getInt() == 0)
+            return "no tables";
+        const std::string found = database.execAndGet("PRAGMA quick_check(1)").getString();
+        return found == "ok" ? QString() : QString::fromStdString(found);
+    } catch (const SQLite::Exception &problem) {
+        switch (problem.getErrorCode()) {
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED:
+        case SQLITE_CANTOPEN:
+        case SQLITE_READONLY:
+        case SQLITE_PERM:
+        case SQLITE_NOMEM:
+            throw fehlerOf(problem);
+        default:
+            return QString::fromUtf8(problem.what());
+        }
+    }
 }
 
 bool fnc_DateiGeöffnet(const QString &path) {

@@ -39,6 +39,9 @@ class Row {
     sqlite3_stmt *mStatement;
 };
 
+/// Asked between the parts of a copy; false breaks it off with UserInterrupt. Counts pages.
+using CopyProgress = std::function<bool(int done, int total)>;
+
 class Datenbank {
   public:
     /// Texts, whole numbers, doubles, yes/no, dates and times, or null.
@@ -56,8 +59,11 @@ class Datenbank {
     static void createFile(const QString &path, const std::vector<QString> &scripts);
     /// Copies a database, which others and this process may have open, to a name under which there
     /// is none. What is there of a copy that failed is the caller's to clear. See databasecopy.h.
-    static void copyFile(const QString &from, const QString &to,
-                         const std::function<bool()> &goesOn);
+    static void copyFile(const QString &from, const QString &to, const CopyProgress &goesOn);
+    /// What a quick check finds in the file first, in the engine's words, or why it cannot be read
+    /// at all; empty for a sound one. A journal that a stopped process left is rolled back first.
+    /// Raises what is no damage: DatabaseNotFound, DatabaseLocked, ReadOnly.
+    static QString damageIn(const QString &path);
     void close();
     bool isOpen() const { return mDatabase != nullptr; }
 

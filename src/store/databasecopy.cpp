@@ -37,7 +37,7 @@ void copyDatabase(const QString &from, const QString &to, const std::function<bo
         }
     });
     try {
-        Datenbank::copyFile(from, unfinished, goesOn);
+        Datenbank::copyFile(from, unfinished, [&](int, int) { return !goesOn || goesOn(); });
     } catch (const Fehler &fehler) {
         if (fehler.number() != fehlernummer::DatabaseDamaged)
             throw;
