@@ -9,6 +9,7 @@
 
 #include "check.h"
 #include "platform/fehler.h"
+#include "safetycopies.h"
 #include "store/database.h"
 #include "store/rowcopy.h"
 #include "store/scripts.h"
@@ -103,6 +104,12 @@ int main(int argc, char **argv) {
         "of the trail that were changed or taken out, rows that were changed past it. Exit code: 0 "
         "clean, 1 something was found, 2 it could not be checked.");
     parser.addOption(check);
+    const QCommandLineOption secure(
+        "sichern",
+        "Copy the database of DIR, or of the current directory, to a folder instead, on a stick "
+        "for example, and check the copy. The program may be running.",
+        "TARGET");
+    parser.addOption(secure);
     parser.addHelpOption();
     parser.process(app);
 
@@ -111,6 +118,11 @@ int main(int argc, char **argv) {
         if (directories.size() > 1)
             return complain("name one file and one version. --help tells more.");
         return makeUpdate(parser.value(update), directories.value(0, updateVersions.last()));
+    }
+    if (parser.isSet(secure)) {
+        if (directories.size() > 1)
+            return complain("name one directory. --help tells more.");
+        return copyToStick(directories.value(0, "."), parser.value(secure));
     }
     if (directories.size() != 1)
         return complain("name one directory. --help tells more.");
