@@ -1,5 +1,7 @@
 #include "app/datenbank.h"
 
+#include <QFileInfo>
+
 #include <utility>
 
 #include "platform/runtime.h"
@@ -33,9 +35,19 @@ void aufStandBringen() {
 
 } // namespace
 
+// The trail gets a link of this.
+void imNachweisVermerken(const QString &anlass) {
+    qInfo("torvena: %s", qUtf8Printable(anlass));
+}
+
 std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) try {
     recoverDatabaseName();
+    const QFileInfo journal(QString(datenbankName) + "-journal");
+    const bool lag = journal.exists() && journal.size() > 0;
     gDatenbank.openFile(datenbankName);
+    gDatenbankzustand = Datenbankzustand::Ungeprüft;
+    if (lag && !QFileInfo::exists(journal.filePath()))
+        imNachweisVermerken("Abgebrochene Änderung zurückgenommen (Journal)");
     clearLeftovers(); // of a swap that was stopped
     if (datenbankVeraltet(gDatenbank))
         aufStandBringen();

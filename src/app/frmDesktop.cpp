@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include "app/datenbank.h"
+#include "app/datenbankpruefung.h"
 #include "app/datenbanktausch.h"
 #include "link/anschluss.h"
 #include "link/controller.h"
@@ -122,6 +123,10 @@ void frmDesktop::Form_Load() try {
         if (gDatenbank.isOpen())
             systemNachlesen();
     }
+    if (gDatenbank.isOpen() && gDatenbankzustand == Datenbankzustand::Ungeprüft &&
+        datenbankPrüfen())
+        systemNachlesen();
+    prüfstandFreigeben();
     const bool endprüfung = endprüfungFreigegeben(); // whatever the reads behind it may find
     ui.pbReset->setVisible(endprüfung);
     ui.pbEndprüf->setVisible(endprüfung);
@@ -196,6 +201,13 @@ void frmDesktop::setMessenEnabled(bool enabled) {
 void frmDesktop::messenFreigeben(bool frei) {
     ui.pbMessen->setEnabled(frei);
     ui.mnuStartMessen->setEnabled(frei);
+}
+
+void frmDesktop::prüfstandFreigeben() {
+    const bool frei = desktopRegeln(auswahl()).prüfstand;
+    ui.mnuKalibrierung->setEnabled(frei && exists(frm::Kalibrierung));
+    ui.pbEndprüf->setEnabled(frei && exists(frm::Endprüf));
+    infoZeigen();
 }
 
 void frmDesktop::spracheSetzen(std::int16_t sprache) {
@@ -299,6 +311,8 @@ void frmDesktop::Form_Unload() {
     tiEinlauf.setEnabled(false);
     Timer1.setEnabled(false);
     MSComm1.setPortOpen(false);
+    if (!gMotorEin)
+        sicherungskopieAnlegen();
     datenbankSchließenUndTauschen();
     QCoreApplication::exit(0); // other screens go with the process
 }

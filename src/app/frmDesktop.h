@@ -52,6 +52,7 @@ class frmDesktop : public Screen, public Motorfenster {
     void beschriften();
     void systemNachlesen();
     void messenFreigeben(bool frei);
+    void prüfstandFreigeben();
     void infoZeigen();
     void motorbilderZeigen();
     Wegstand wegstand() const;

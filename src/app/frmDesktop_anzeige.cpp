@@ -147,7 +147,12 @@ void frmDesktop::motorbilderZeigen() {
 
 void frmDesktop::infoZeigen() {
     QStringList lines{mMotorInfo};
-    if (mKorrekturFehlt)
+    if (gDatenbankzustand == Datenbankzustand::Beschädigt)
+        lines += inSprache({"Messen ist gesperrt: Die Datenbank ist beschädigt. Bitte starten Sie "
+                            "das Programm neu.",
+                            "Measuring is locked: the database is damaged. Please restart the "
+                            "program."});
+    else if (mKorrekturFehlt)
         lines += inSprache({"Messen ist gesperrt. Bitte Kunde, Gerät oder Rezept neu wählen.",
                             "Measuring is locked. Please choose customer, unit or recipe again."});
     lines.removeAll(QString());

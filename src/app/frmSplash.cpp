@@ -1,6 +1,7 @@
 #include "app/frmSplash.h"
 
 #include "app/datenbank.h"
+#include "app/datenbankpruefung.h"
 #include "records/system.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -10,6 +11,7 @@ frmSplash::frmSplash() {
     ui.setupUi(this);
     setWindowFlag(Qt::FramelessWindowHint);
     tiFormVisible.onTick = handler([this] { tiFormVisible_Timer(); });
+    tiPrüfung.onTick = handler([this] { tiPrüfung_Timer(); });
 }
 
 void frmSplash::Form_Load() {
@@ -17,6 +19,12 @@ void frmSplash::Form_Load() {
         meldung({"Initialisierungsfehler!", "Initializing error!"}, platform::Critical,
                 {"Fehler", "Error"});
     }
+    systemZeigen();
+    tiPrüfung.setEnabled(true);
+    tiFormVisible.setEnabled(true);
+}
+
+void frmSplash::systemZeigen() {
     SystemTitel titel;
     try {
         systemLesen(&titel);
@@ -32,7 +40,14 @@ void frmSplash::Form_Load() {
         ui.lbMessenMit->setText(
             inSprache({"Messen und Kalibrieren mit", "Measure And Calibrate With"}));
     }
-    tiFormVisible.setEnabled(true);
+}
+
+void frmSplash::tiPrüfung_Timer() {
+    tiPrüfung.setEnabled(false);
+    mPrüft = true;
+    if (datenbankPrüfen())
+        systemZeigen();
+    mPrüft = false;
 }
 
 // Without the login behind it there would be a process without a window.
@@ -41,6 +56,8 @@ bool frmSplash::Form_QueryUnload() {
 }
 
 void frmSplash::tiFormVisible_Timer() {
+    if (mPrüft)
+        return; // once more when nobody is being told of damage
     tiFormVisible.setEnabled(false);
     try {
         form(frm::Login).show();

@@ -15,8 +15,12 @@ class frmSplash : public Screen {
     bool Form_QueryUnload() override;
 
   private:
+    void systemZeigen();
+    void tiPrüfung_Timer();
     void tiFormVisible_Timer();
 
     Ui::frmSplash ui;
+    bool mPrüft = false;
     Timer tiFormVisible{2000};
+    Timer tiPrüfung{300}; ///< behind the first picture of this window
 };

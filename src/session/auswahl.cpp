@@ -105,11 +105,12 @@ void setAuswahlListener(std::function<void()> zeigen, std::function<void()> wahl
 
 DesktopRegeln desktopRegeln(const Auswahl &wahl) {
     DesktopRegeln regeln;
+    regeln.prüfstand = gDatenbankzustand != Datenbankzustand::Beschädigt;
     regeln.ohneKunde = wahl.kunde.isEmpty();
     if (regeln.ohneKunde)
         return regeln;
     regeln.gerät = true;
     regeln.secControl = !wahl.gerätID.isEmpty();
-    regeln.messen = !wahl.gerätID.isEmpty() && !wahl.rezept.isEmpty();
+    regeln.messen = regeln.prüfstand && !wahl.gerätID.isEmpty() && !wahl.rezept.isEmpty();
     return regeln;
 }

@@ -55,11 +55,13 @@ void datumZeigen(const QString &text);
 /// customer, unit or recipe were chosen.
 void setAuswahlListener(std::function<void()> zeigen, std::function<void()> wahl);
 
-/// What the selection allows. Pure: the desktop applies it to its controls.
+/// What the selection allows, and a database that is not damaged. Pure: the desktop applies it to
+/// its controls.
 struct DesktopRegeln {
     bool gerät = false;      ///< choose a unit, enter a blood-pressure sheet
     bool secControl = false; ///< enter an electrical safety sheet
     bool messen = false;     ///< start a measurement
     bool ohneKunde = false;  ///< then nothing is said about measuring
+    bool prüfstand = false;  ///< calibrate, or go to the final test; else nothing is measured
 };
 DesktopRegeln desktopRegeln(const Auswahl &wahl);

@@ -76,6 +76,7 @@ inline QDate gHebelarmFällig;
 // Process and failure
 inline bool gDesktopAktiv = false; ///< every wait ends when it is false
 inline bool gUpdateBeimBeenden = false;
+inline Datenbankzustand gDatenbankzustand{}; ///< nothing is measured while it is damaged
 inline std::int16_t gFehlerNr = 0;
 inline QString gFehlerText;
 

@@ -50,3 +50,6 @@ enum class Formstatus : std::int16_t {
     Gespeichert = 9,
     Abgebrochen = 10,
 };
+
+/// gDatenbankzustand: what the check of the database said since it was opened.
+enum class Datenbankzustand : std::int16_t { Ungeprüft = 0, Heil = 1, Beschädigt = 2 };

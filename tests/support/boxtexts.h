@@ -18,6 +18,13 @@ using namespace platform;
 // clang-format off
 inline constexpr KnownBox boxTexts[] = {
     {"broughtUp", Information, "Meldung", "Message", "Die Datenbank wurde auf den Stand dieses Programms gebracht.\rWie sie vorher war, liegt als torvena470_vor_…", "The database was brought up to date for this program.\rAs it was before, it lies beside it as torvena470_vor_…"},
+    // damage and safety copies
+    {"damaged?", YesNo + Critical + SecondButtonDefault, "Datenbank beschädigt", "Database Damaged", "Die Datenbank torvena470.mdb ist beschädigt. Solange sie es ist, wird nicht gemessen.\rBefund: …", "The database torvena470.mdb is damaged. Nothing is measured as long as it is.\rFound: …"},
+    {"damagedNoCopy", Critical, "Datenbank beschädigt", "Database Damaged", "Die Datenbank torvena470.mdb ist beschädigt. Solange sie es ist, wird nicht gemessen.\rBefund: …", "The database torvena470.mdb is damaged. Nothing is measured as long as it is.\rFound: …"},
+    {"restored", Information, "Datenbank beschädigt", "Database Damaged", "Die Sicherungskopie vom %1 ist eingesetzt.\rDie beschädigte Datenbank liegt als %2 daneben.", "The safety copy of %1 is in place.\rThe damaged database lies beside it as %2."},
+    {"notRestored", Critical, "Datenbank beschädigt", "Database Damaged", "Die Sicherungskopie konnte nicht eingesetzt werden. …", "The safety copy could not be put in place. …"},
+    {"noSafetyCopy", Exclamation, "Sicherungskopie", "Safety Copy", "Heute konnte keine Sicherungskopie angelegt werden; die bisherigen bleiben. Bitte prüfen Sie, ob im Ordner Sicherung Platz ist und geschrieben werden darf.\r…", "No safety copy could be made today; the former ones stay. Please check whether there is room in the folder Sicherung and whether it can be written.\r…"},
+    {"notPruned", Exclamation, "Sicherungskopie", "Safety Copy", "Die Sicherungskopie ist angelegt, aber ältere, die nicht mehr gebraucht werden, konnten nicht gelöscht werden.\r…", "The safety copy was made, but older ones that are needed no more could not be deleted.\r…"},
     // update of the database
     {"noUpdateFile", Exclamation, "Achtung!", "Attention!", "Die ausgewählte Datenbank ist keine Update-Datenbank.\rDas Update kann nicht ausgeführt werden!", "The chosen database can not be used for updating the database.\rChoose another database (on the update disc)!"},
     {"restart?", OKCancel + Exclamation, "Achtung!", "Restart", "Bitte starten Sie das Programm neu, um die aktualisierte Datenbank zu aktivieren! ", "To activate the new database restart the program, please!"},
