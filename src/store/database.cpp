@@ -222,14 +222,18 @@ void Datenbank::copyFile(const QString &from, const QString &to, const CopyProgr
         source.execAndGet("SELECT count(*) FROM sqlite_master"); // a file of another kind tells now
         SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         SQLite::Backup backup(target, source);
-        for (int came = SQLITE_OK; came != SQLITE_DONE;) {
+        const auto ask = [&] {
             const int total = backup.getTotalPageCount(); // 0 before the first step
             if (goesOn && !goesOn(total - backup.getRemainingPageCount(), total))
                 throw SQLite::Exception("cancelled", SQLITE_INTERRUPT);
+        };
+        for (int came = SQLITE_OK; came != SQLITE_DONE;) {
+            ask();
             came = backup.executeStep(pages);
             if (came == SQLITE_BUSY || came == SQLITE_LOCKED)
                 throw SQLite::Exception("locked", came);
         }
+        ask(); // what is done with a whole copy may take as long again
     });
 }
 
