@@ -3,34 +3,15 @@
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include "cases.h"
-#include "windows/spreadsheet.h"
+#include "parts.h"
+#include "platform/spreadsheet.h"
 
 namespace {
 
 using namespace platform;
-
-/// A part of the file, or of a sheet what stands behind a mark in it.
-class Parts {
-  public:
-    explicit Parts(const QString &path) {
-        QProcess tar;
-        tar.setWorkingDirectory(mFolder.path());
-        tar.start("cmake", {"-E", "tar", "xf", path});
-        EXPECT_TRUE(tar.waitForFinished() && tar.exitCode() == 0) << path;
-    }
-    QString operator[](const QString &name) const {
-        QFile file(mFolder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
-        return file.readAll();
-    }
-
-  private:
-    QTemporaryDir mFolder;
-};
 
 Workbook example() {
     Workbook book;
@@ -57,7 +38,7 @@ TEST(Spreadsheet, AnotherProgramReadsWhatWasWritten) {
     const QTemporaryDir folder;
     const QString path = folder.filePath("Übersicht.xlsx");
     writeWorkbook(example(), path);
-    const Parts parts(path);
+    const support::Parts parts(path);
     const auto holds = [&](const char *part, std::initializer_list<const char *> texts) {
         const QString whole = parts[part];
         for (const char *text : texts)
