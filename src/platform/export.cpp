@@ -24,20 +24,34 @@ void refuseExport(const QString &path) {
                   native + " cannot be written. Please check folder, permissions and free space."});
 }
 
+QString exportFolder() {
+    return QDir::current().absoluteFilePath("Export");
+}
+
 QString exportFile(const QString &stem, const QString &suffix,
                    const std::function<void(const QString &path)> &write) {
-    const QDir folder(QDir::current().absoluteFilePath("Export"));
+    return exportInto(exportFolder(), stem, suffix, write);
+}
+
+QString exportInto(const QString &where, const QString &stem, const QString &suffix,
+                   const std::function<void(const QString &path)> &write) {
+    const QDir folder(QDir(where).absolutePath());
     if (!folder.mkpath("."))
         refuseExport(folder.path());
     const QString name = folder.filePath(stem + now().toString("_yyyy-MM-dd_HH-mm-ss"));
+    const QString end = suffix.isEmpty() ? suffix : '.' + suffix;
     int number = 0;
     const auto path = [&] {
-        return ++number == 1 ? name + '.' + suffix
-                             : QString("%1_%2.%3").arg(name).arg(number).arg(suffix);
+        return ++number == 1 ? name + end : name + QString("_%1").arg(number) + end;
     };
     QString target = path();
     const QString unfinished = target + unfinishedSuffix;
-    const auto remains = qScopeGuard([&] { QFile::remove(unfinished); });
+    if (suffix.isEmpty())
+        QDir(unfinished).removeRecursively(); // of a process that was stopped
+    const auto remains = qScopeGuard([&] {
+        if (!QFile::remove(unfinished) && suffix.isEmpty())
+            QDir(unfinished).removeRecursively();
+    });
     write(unfinished);
     while (QFile::exists(target))
         target = path();

@@ -17,6 +17,12 @@ namespace platform {
 QString exportFile(const QString &stem, const QString &suffix,
                    const std::function<void(const QString &path)> &write);
 QString exportFile(const QString &stem, const QString &suffix, const QByteArray &content);
+/// The same in a folder of the caller's choice. Without a suffix `write` may make a folder of files
+/// at the path: that is then whole under its name, or is not there.
+QString exportInto(const QString &folder, const QString &stem, const QString &suffix,
+                   const std::function<void(const QString &path)> &write);
+/// The folder of the others.
+QString exportFolder();
 
 /// What the one above raises, for a `write` that fails.
 [[noreturn]] void refuseExport(const QString &path);

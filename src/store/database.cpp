@@ -141,6 +141,15 @@ qlonglong Row::whole(int column) const {
     return sqlite3_column_int64(mStatement, column);
 }
 
+double Row::number(int column) const {
+    return sqlite3_column_double(mStatement, column);
+}
+
+bool Row::isNumber(int column) const {
+    const int type = sqlite3_column_type(mStatement, column);
+    return type == SQLITE_INTEGER || type == SQLITE_FLOAT;
+}
+
 std::string_view Row::bytes(int column) const {
     const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(mStatement, column));
     if (!text)

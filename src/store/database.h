@@ -31,6 +31,9 @@ class Row {
 
     bool isNull(int column) const;
     qlonglong whole(int column) const;
+    double number(int column) const;
+    /// A whole one or a double, as it is stored.
+    bool isNumber(int column) const;
     /// UTF-8 with a zero behind it; empty for null.
     std::string_view bytes(int column) const;
     QString text(int column) const;
