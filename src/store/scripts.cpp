@@ -37,15 +37,22 @@ std::vector<QString> emptyScripts() {
     return scripts;
 }
 
-void createWhole(const QString &path, const std::vector<QString> &scripts, bool trail) {
+void createWhole(const QString &path, const std::vector<QString> &scripts, bool trail,
+                 const std::function<void(Datenbank &)> &fill = {}) {
     const QString unfinished = path + ".new";
     QFile::remove(unfinished);
+    QFile::remove(unfinished + "-journal"); // of a process that was stopped
     try {
         Datenbank::createFile(unfinished, scripts);
-        if (trail) {
+        if (fill || trail) {
             Datenbank store;
             store.openFile(unfinished);
-            store.together([&] { layTrail(store, "Neue Datenbank"); });
+            store.together([&] {
+                if (fill)
+                    fill(store);
+                if (trail)
+                    layTrail(store, "Neue Datenbank"); // begins with the rows that are there
+            });
         }
     } catch (...) {
         QFile::remove(unfinished);
@@ -71,6 +78,10 @@ std::vector<QString> databaseScripts(bool demo) {
 
 void legeDatenbankAn(const QString &path, bool demo) {
     createWhole(path, databaseScripts(demo), true);
+}
+
+void legeDatenbankAn(const QString &path, const std::function<void(Datenbank &)> &fill) {
+    createWhole(path, emptyScripts(), true, fill);
 }
 
 void legeUpdateAn(const QString &path, const QString &version) {

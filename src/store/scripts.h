@@ -3,6 +3,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <vector>
 
 class Datenbank;
@@ -21,6 +22,10 @@ std::vector<QString> databaseScripts(bool demo);
 /// Makes a new database file of these. It appears under its name only when it is whole. Raises
 /// Fehler when it cannot be written.
 void legeDatenbankAn(const QString &path, bool demo);
+
+/// Makes a new database without the rows of a stand, into which `fill` puts those that it has, all
+/// or none of them. Raises as legeDatenbankAn(), and what `fill` raises; there is no file then.
+void legeDatenbankAn(const QString &path, const std::function<void(Datenbank &)> &fill);
 
 /// Makes an update file: a database without the rows of a stand, which asks for this version (one
 /// of updateVersions). Raises as legeDatenbankAn().
