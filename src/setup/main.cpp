@@ -1,4 +1,5 @@
-// torvena-setup: fills a working directory for torvena, or brings one up to date.
+// torvena-setup: fills a working directory for torvena, or brings one up to date; hands protocols
+// out, takes the database of an earlier program over.
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -8,6 +9,7 @@
 #include <QTextStream>
 
 #include "check.h"
+#include "commands.h"
 #include "platform/fehler.h"
 #include "safetycopies.h"
 #include "store/database.h"
@@ -15,16 +17,11 @@
 #include "store/scripts.h"
 #include "store/trail.h"
 
-namespace {
-
-enum ExitCode { Done = 0, Failed = 1 };
-
 int complain(const QString &text) {
     QTextStream(stderr) << "torvena-setup: " << text << '\n';
     return Failed;
 }
 
-/// Puts the delivered files into the directory; one that lies there already stays.
 bool deliverFiles(const QString &directory) {
     const QDir delivered(":/layouts");
     for (const QString &name : delivered.entryList()) {
@@ -38,6 +35,8 @@ bool deliverFiles(const QString &directory) {
     }
     return true;
 }
+
+namespace {
 
 int setUp(const QString &directory, bool demo) {
     const QString path = QDir(directory).filePath(datenbankName);
@@ -110,6 +109,26 @@ int main(int argc, char **argv) {
         "for example, and check the copy. The program may be running.",
         "TARGET");
     parser.addOption(secure);
+    const QCommandLineOption fromJet(
+        {"aus-jet", "from-jet"},
+        "Take over a database file of the kind that the program had before (Jet): read through "
+        "mdbtools, on a copy, all of it or nothing. DIR must not have a database yet.",
+        "FILE");
+    parser.addOption(fromJet);
+    const QCommandLineOption blank(
+        {"unlesbares-leer", "unreadable-empty"},
+        "With --aus-jet: leave values empty that cannot be read, and list them, instead of taking "
+        "nothing.");
+    parser.addOption(blank);
+    const QCommandLineOption handOutOf("export", "Write protocols of DIR for other programs.");
+    parser.addOption(handOutOf);
+    const QCommandLineOption first({"von", "from"}, "With --export: the first number.", "NR");
+    const QCommandLineOption last({"bis", "to"}, "With --export: the last number.", "NR");
+    const QCommandLineOption format("format", "With --export: xlsx, csv or json.", "FORMAT",
+                                    "xlsx");
+    const QCommandLineOption into(
+        {"nach", "into"}, "With --export: the folder, DIR/Export unless it is named.", "FOLDER");
+    parser.addOptions({first, last, format, into});
     parser.addHelpOption();
     parser.process(app);
 
@@ -129,4 +148,11 @@ int main(int argc, char **argv) {
     if (parser.isSet(check))
         return static_cast<int>(checkDirectory(directories.first()));
     return setUp(directories.first(), parser.isSet(demo));
+    const QString &directory = directories.first();
+    if (parser.isSet(fromJet))
+        return takeOverCommand(parser.value(fromJet), directory, parser.isSet(blank));
+    if (parser.isSet(handOutOf))
+        return handOutCommand({directory, parser.value(first), parser.value(last),
+                               parser.value(format), parser.value(into)});
+    return setUp(directory, parser.isSet(demo));
 }
