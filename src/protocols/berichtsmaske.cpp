@@ -31,6 +31,10 @@ constexpr Beschriftung english[] = {
     {"pbSichern", "&Save As PDF"},
     {"pbDelete", "&Delete"},
     {"pbDeleteExt", "E&xtended ..."},
+    {"pbExport", "Expor&t ..."},
+    {"acMappe", "&Workbook (.xlsx)"},
+    {"acCsv", "&CSV Tables"},
+    {"acJson", "&JSON"},
     {"CancelButton", "C&lose"},
 };
 

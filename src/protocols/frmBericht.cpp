@@ -17,8 +17,8 @@ frmBericht::frmBericht()
                      .seitenNummerAb = 10,
                      .klasseTag = "1084 - ",
                      .druckTag = "1085 - "}) {
-    for (QWidget *archiv :
-         std::initializer_list<QWidget *>{ui.lbKunde, ui.cmbKunde, ui.pbDelete, ui.pbDeleteExt})
+    for (QWidget *archiv : std::initializer_list<QWidget *>{ui.lbKunde, ui.cmbKunde, ui.pbDelete,
+                                                            ui.pbDeleteExt, ui.pbExport})
         archiv->hide();
     onGotFocus(ui.cmbBericht, [this] {
         if (archivieren())

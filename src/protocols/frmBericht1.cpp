@@ -1,5 +1,8 @@
 #include "protocols/frmBericht1.h"
 
+#include <QDir>
+#include <QMenu>
+
 #include "platform/fehler.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -20,9 +23,19 @@ frmBericht1::frmBericht1()
         mNeuLesen = true;
         form(frm::DeleteExtended).showModal();
     });
+    auto *formate = new QMenu(ui.pbExport);
+    for (const auto &[aktion, format] :
+         {std::pair{ui.acMappe, HandoutFormat::Workbook}, std::pair{ui.acCsv, HandoutFormat::Csv},
+          std::pair{ui.acJson, HandoutFormat::Json}}) {
+        formate->addAction(aktion);
+        on(aktion, &QAction::triggered,
+           gefangen("1117 - ", [this, format = format] { exportieren(format); }));
+    }
+    ui.pbExport->setMenu(formate);
 }
 
 void frmBericht1::Form_Load() {
+    ui.pbExport->setEnabled(false);
     ui.pbDelete->setEnabled(false); // until a protocol is chosen, at once where there is one alone
     Berichtsmaske::Form_Load();
     ui.pbDeleteExt->setEnabled(exists(frm::DeleteExtended));
@@ -67,6 +80,14 @@ void frmBericht1::kundeGewählt() try {
 
 void frmBericht1::auswahlGeändert() {
     ui.pbDelete->setEnabled(ui.OKButton->isEnabled());
+    ui.pbExport->setEnabled(ui.OKButton->isEnabled());
+}
+
+void frmBericht1::exportieren(HandoutFormat format) {
+    const QString pfad = QDir::toNativeSeparators(protokollHerausgeben(nummer(0), format));
+    meldung(
+        {"Das Protokoll wurde exportiert:\r" + pfad, "The protocol has been exported:\r" + pfad},
+        Information, {"Export", "Export"});
 }
 
 void frmBericht1::pbDelete_Click() try {

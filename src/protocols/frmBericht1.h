@@ -1,7 +1,8 @@
-// Prints and deletes archived protocols.
+// Prints, hands out and deletes archived protocols.
 #pragma once
 
 #include "protocols/berichtsmaske.h"
+#include "records/herausgabe.h"
 
 class frmBericht1 : public Berichtsmaske {
   public:
@@ -17,6 +18,7 @@ class frmBericht1 : public Berichtsmaske {
   private:
     void kundeGewählt();
     void pbDelete_Click();
+    void exportieren(HandoutFormat format);
 
     bool mNeuLesen = false; ///< the archive may have changed since the lists were filled
 };

@@ -209,7 +209,8 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
         mnuEinlaufen
         @Einlaufen ; stop == Einlaufparameter | Running-In Parameters ; pbAbbrechen ; @Desktop
         mnuRoute ; @Sort ; stop == Kundendatenbank | Customer Database ; pbok ; @Desktop
-        mnuProtVerw ; @Bericht1 ; pbDeleteExt ; @DeleteExtended
+        mnuProtVerw ; @Bericht1
+        stop == Protokollverwaltung | Protocol Administration ; pbDeleteExt ; @DeleteExtended
         stop == Erweitertes Löschen | Delete Extended ; pbok ; @Bericht1 ; CancelButton ; @Desktop
         pbBlutdruck ; @BlutdruckAbfrage ; obNeu ; stop == Protokoll wählen | Select Protocol ; pbok
         @Blutdruck ; stop ~ Protokoll 22 - |Protocol 22 -  ; pbexit ; @Desktop

@@ -63,6 +63,9 @@ class Reports : public Workplace {
             there(names.split(' ', Qt::SkipEmptyParts));
             co_return;
         };
+        views["exported"] = [] {
+            return QString::number(QDir("Export").entryList({"Protokoll_12_*"}).size());
+        };
         views["pages"] = [] { // that can be chosen, the chosen one in brackets
             QStringList pages;
             const Screen *screen = platform::frontScreen();
@@ -143,8 +146,10 @@ JOURNEY_P(Reports, OfferWhatAProtocolHasAndAskForTheArchive) {
         sql SELECT count(*), Kunde FROM Protokoll == 1|Klinikum Ährenfeld
         cmbBericht > 2 ; rbDruck4 ; OKButton ; printed == Büro: 7 B x
         ? archive? yes ; CancelButton ; @Desktop ; sql SELECT count(*) FROM Protokoll == 2
-        mnuProtVerw ; @Bericht1 ; cmbKunde == Klinikum Ährenfeld ; cmbBericht == ; cannot pbDelete
-        cmbBericht > 12 - Alles ; pages == 1 2_0 (2_1) 3 4 ; OKButton
+        mnuProtVerw ; @Bericht1 ; cmbKunde == Klinikum Ährenfeld ; cmbBericht ==
+        cannot pbDelete pbExport ; cmbBericht > 12 - Alles ; ? exported ; acJson ; exported == 1
+        spoil SELECT SecControl ; ? failed(1117, 3078) ; acMappe ; mend ; exported == 1
+        pages == 1 2_0 (2_1) 3 4 ; OKButton
         printed == Büro: 12 R 1:ja,ja,mit 2:ja,?,mit | Büro: 12 R 1:ja,ja,with 2:ja,?,with
         rbDruck2_0 ; OKButton
         printed == Büro: 12 R 1:ja,ja,ohne 2:ja,?,ohne | Büro: 12 R 1:ja,ja,out 2:ja,?,out

@@ -35,6 +35,7 @@ inline constexpr KnownBox boxTexts[] = {
     {"updateFailure", Critical, "!! Achtung Fehler !!", " !! Attention !!", "Mitteilung %1 -  %2 …", "ERROR %1 -  %2 …"},
     {"updateFailed", Critical, "Mitteilung!", "Attention!", "Fehler R_10 -  %1 …", "ERROR R_10 -  %1 …"},
     // reports
+    {"exported", Information, "Export", "Export", "Das Protokoll wurde exportiert:\r…", "The protocol has been exported:\r…"},
     {"noProtocols", Exclamation, "Meldung", "Message", "Es existieren keine Protokolle!", "There are no protocols!"},
     {"noSuchReport", Exclamation, "Eingabefehler", "Input Error", "Dieses Protokoll existiert nicht!", "This protocol does not exist!"},
     {"archive?", YesNo + Question, "Druck des Protokolls", "Printing The Protocol", "Kann das Protokoll archiviert werden?", "Is the protocol o.k.?"},
