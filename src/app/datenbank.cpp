@@ -11,6 +11,7 @@
 #include "store/database.h"
 #include "store/scripts.h"
 #include "store/swap.h"
+#include "store/trail.h"
 #include "windows/msgbox.h"
 
 using namespace platform;
@@ -35,9 +36,11 @@ void aufStandBringen() {
 
 } // namespace
 
-// The trail gets a link of this.
-void imNachweisVermerken(const QString &anlass) {
-    qInfo("torvena: %s", qUtf8Printable(anlass));
+// An older database has no trail yet.
+void imNachweisVermerken(const QString &anlass) try {
+    noteInTrail(gDatenbank, anlass);
+} catch (const Fehler &fehler) {
+    fehlerMerken(fehler);
 }
 
 std::int16_t fnc_DatenbankÖffnen(bool nochEinmal) try {

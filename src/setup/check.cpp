@@ -8,6 +8,7 @@
 #include <QTextStream>
 
 #include "platform/fehler.h"
+#include "safetycopies.h"
 #include "store/database.h"
 #include "store/databasecopy.h"
 #include "store/trailcheck.h"
@@ -113,7 +114,9 @@ CheckResult checkFile(const QString &path) {
 } // namespace
 
 CheckResult checkDirectory(const QString &directory) try {
-    return checkFile(QDir(directory).filePath(datenbankName));
+    const CheckResult database = checkFile(QDir(directory).filePath(datenbankName));
+    const bool german = QLocale::system().language() == QLocale::German;
+    return listSafetyCopies(directory, german) > 0 ? CheckResult::Found : database;
 } catch (const Fehler &fehler) {
     say({fehler.text().german + "\nDas Verzeichnis wurde nicht zu Ende geprüft.",
          fehler.text().english + "\nThe directory was not checked to the end."});

@@ -145,10 +145,9 @@ int main(int argc, char **argv) {
     }
     if (directories.size() != 1)
         return complain("name one directory. --help tells more.");
-    if (parser.isSet(check))
-        return static_cast<int>(checkDirectory(directories.first()));
-    return setUp(directories.first(), parser.isSet(demo));
     const QString &directory = directories.first();
+    if (parser.isSet(check))
+        return static_cast<int>(checkDirectory(directory));
     if (parser.isSet(fromJet))
         return takeOverCommand(parser.value(fromJet), directory, parser.isSet(blank));
     if (parser.isSet(handOutOf))
