@@ -40,8 +40,8 @@ class FinalHead : public Workplace {
               "DELETE FROM EP",
               "INSERT INTO EP_Rezeptnamen VALUES (5, 'Reha', 'medizinische Geräte', 0), "
               "(6, 'Sport', 'Toleranz 3%', -1)",
-              "INSERT INTO EP (EP_ID, SerienNr, Gerätetyp, Messkopf, auf250) "
-              "VALUES (30, 'alt', 'Typ A', 'M9', '251')",
+              "INSERT INTO EP (EP_ID, SerienNr, Gerätetyp, Messkopf, auf250, Schritte) "
+              "VALUES (30, 'alt', 'Typ A', 'M9', '251', 7)",
               "INSERT INTO EP_Messwerte (ProtokollID, Prüfschritt, Toleranz) "
               "VALUES (30, '1', 'OK'), (30, '2', 'Außer Toleranz'), (9000, '1', 'OK')"})
             change(given);
@@ -263,7 +263,7 @@ JOURNEY_P(FinalHead, AMeasuredDevice) {
         focus pbEingNeu ; waits pbEingNeu ; laLetzterLauf ~ Prüfschritte 1, außer Toleranz 0, Dauer | test steps 1, out of tolerance 0, duration
         motor == off 0 ; load == 0 ; can pbMessen pbDrehR ; cannot pbok
         # Once its rows are given up nothing is told of their run.
-        pbMessen ; @VorStatNPK ; close ; @StatMessen ; ? correctionAborted ; pbAbbrechen ; @Endprüf ; laLetzterLauf == ; focus pbok
+        pbMessen ; @VorStatNPK ; close ; @StatMessen ; ? correctionAborted ; pbAbbrechen ; @Endprüf ; laLetzterLauf == ; focus pbok ; sql SELECT sum(Schritte) FROM EP == 7
         ? saveHead no ; pbEingNeu ; laLetzterLauf == ; focus txtSerNr)");
 }
 

@@ -43,16 +43,20 @@ class EPRun : public Measuring {
             QFile::copy(":/layouts/" + name, name);
         line.connect(controller);
         line.connect(ergometer, SerialLine::Ergometer);
-        change("INSERT INTO EP (EP_ID, SerienNr) VALUES (40, 'E-1')");
+        change("INSERT INTO EP (EP_ID, SerienNr) VALUES (40, 'E-1'), (41, 'E-2')");
         recipe(70, "'1', '60', 100, '2', 'W100[13]', '1,6'), (70, '10', '80', 50, '2', 'W050[13]', "
                    "'1'), (70, '2', '70', 150, '2', '', '1'");
         recipe(71, "'1', '60', 100, '2', 'W100[13]', '1'");
         recipe(72, "'1', '60', 100, '2', 'W100[13]', '0'");
-        recipe(73, "'1', '60', 100, '2', 'W100[13]', '1'), (73, '2', '15', 40, '2', '', '1'");
+        recipe(73, "'1', '60', 100, '2', 'W100[13]', '4'), (73, '2', '15', 40, '2', '', '1'");
+        recipe(76, "'1', '15', 40, '2', '', '1'");
         roads["run"] = [this](const QString &what) { return go(begun(what)); };
         roads["off"] = [this](const QString &keys) -> Journey { // with load and motor off
             for (const QString &key : keys.split(" + "))
-                expectKnown(key, platform::OK, [this] { expectSafe(); });
+                expectKnown(key, platform::OK, [this] {
+                    expectSafe();
+                    clock.run(19'000); // nobody comes, and nothing else does
+                });
             co_return;
         };
         views["rows"] = [] {
@@ -117,10 +121,12 @@ JOURNEY_P(EPRun, WalksThroughItsStepsAlone) {
         laSollwerte ~ ^60[.,]0 (1/min|rpm)\n100[.,]0 W$
         until notice ~ Prüfschritt|Test Step ; beeps == 1 ; Messen.DBGrid2 rows~ ^1\|60[.,]0\|.*\| 60\|OK$
         until laPrSchritt == 2 ; lblMessSchritte == ; txtIST_n_ergom ==
-        until notice ~ Beenden|Terminate ; order ~ ^\*E-\d+ W050 \*E-\d+ W000( |$) ; load == 0 ; @Desktop
+        until notice ~ Beenden|Terminate ; order ~ ^\*E-\d+ W050 \*E-\d+ W000( |$) ; load == 0
+        Messen.DBGrid2 rows~ ^1\|[^+]*\+2\|[^+]*\+10\| ; @Desktop ; order ~ ^[^W]*$
         rows == 1|60,0|100,0| 60|OK+2|70,0|150,0| 70|Außer Toleranz+10|80,0|50,0| 80|OK | 1|60.0|100.0| 60|OK+2|70.0|150.0| 70|Out of tolerance+10|80.0|50.0| 80|OK
         sql SELECT Klasse, ZulAbwP, ZulAbwN FROM EP_Messwerte WHERE Prüfschritt = 2 AND ProtokollID = 40 == medizinische Geräte|7.5|2
-        kept == Serie|3|1|-1 ; sql SELECT DISTINCT SerienNr FROM EP_Bericht5 == E-1 ; idle == yes)");
+        kept == Serie|3|1|-1 ; sql SELECT count(Dauer) FROM EP WHERE EP_ID > 39 == 1 ; sql SELECT NK_ID FROM EP WHERE EP_ID = 40 == 2
+        sql SELECT DISTINCT SerienNr FROM EP_Bericht5 == E-1 ; idle == yes)");
     const auto lauf = letzterEPLauf(40);
     EXPECT_TRUE(lauf && lauf->schritte == 3 && lauf->außerToleranz == 1 && lauf->dauer > 20 &&
                 !lauf->abgebrochen);
@@ -144,7 +150,7 @@ JOURNEY(EPRun, LeavesNothingOn) {
         run 71, medizinische Geräte ; spoil INSERT EP_Messwerte ; off failure(3016) + emptyTest ; @Desktop ; mend
         # six turns take more than 18 s
         run 73, medizinische Geräte ; until rows ~ OK ; off noData ; @Desktop
-        kept == Serie|2|1|0 ; out == 1|60,0|100,0| 60|OK
+        kept == Serie|2|1|0 ; out == 1|60,0|100,0| 60|OK ; run 76, medizinische Geräte ; off noData + emptyTest ; @Desktop ; out ==
         # the ergometer says nothing in the second step; what cannot be judged is no pass
         run 70, medizinische Geräte ; until rows ~ OK ; stand fault ergometer on
         ? ergometerSilent ; off noNumber(3018, ) ; @Desktop ; out == 1|60,0|100,0| 60|OK+2|70,0|150,0||NULL
@@ -167,6 +173,9 @@ JOURNEY(EPRun, LeavesNothingOn) {
     co_await go("run 71, medizinische Geräte ; until lblMessSchritte ==");
     gSS2Vorhanden = false;
     co_await go("off ergometerLost + emptyTest ; @Desktop ; out ==");
+    co_await go("run 71, medizinische Geräte ; stand fault answerlate 3000 ; until beeps == 1");
+    MSComm2.setPortOpen(false);
+    co_await go("off ergometerLost + emptyTest ; @Desktop ; out == ; stand fault none");
     // The line to the ergometer goes in a reading: the motor is what can still be stopped.
     co_await go("run 71, medizinische Geräte ; stand fault answerlate 3000 ; until beeps == 1");
     expectKnown("failed(mSI 1, 8020)", platform::OK,

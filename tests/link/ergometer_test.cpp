@@ -47,7 +47,7 @@ TEST_F(Answers, AreReadAsFarAsTheyGo) {
             | n123xyz -> " 123", 25 | n12 -> " 120", 130 | n6 -> " 600", 130 | n -> " 0", 130
             | n1 @101 23 -> " 100", 130 | n000 -> " 0", 25 | n999 -> " 999", 25
             | x123 -> " 0", 25 | xn123 -> " 0", 25 | 123 -> " 0", 25 | ÿ -> " 0", 25
-            | na23 -> nothing, 25, 13 | n12x -> nothing, 25, 13 | n6 @50 xx -> nothing, 80, 13
+            | na23 -> nothing, 25, 13 | n1:3 -> nothing, 25, 13 | n12x -> nothing, 25, 13 | n6 @50 xx -> nothing, 80, 13
             | @4970 n123 -> " 123", 5000 | @4970 n1 @40 23 -> nothing, 5000, silent
             | @5001 n123 -> nothing, 5000, silent | n456 -> " 456", 30)")) {
         SCOPED_TRACE(testing::Message() << c);
@@ -77,6 +77,12 @@ TEST_F(Answers, WaitForAGapInWhatIsSent) {
     expectKnown("ergometerSilent");
     EXPECT_EQ(read(), "nothing");
     EXPECT_NEAR(took(), 5000, 1);
+    EXPECT_EQ(script.written, "");
+    for (int at = 3; at <= 6000; at += 3)
+        script.arrive(clock.elapsed(), {"x"}, at);
+    clock.after(300, [this] { stopped = true; });
+    EXPECT_EQ(read(), "nothing");
+    EXPECT_LE(took(), 301);
     EXPECT_EQ(script.written, "");
 }
 
@@ -120,6 +126,7 @@ TEST_F(Answers, OfNobodyWhoWaits) {
     clock.after(100, [this] {
         EXPECT_FALSE(fnc_ErgometerDrehzahlLesen([] { return false; }));
         fnc_SS2Prüfen();
+        EXPECT_EQ(raised([] { fnc_SS2Speichern("5", {}); }), fehlernummer::LineBusy);
     });
     EXPECT_EQ(read(), " 123");
 }

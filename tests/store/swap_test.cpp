@@ -202,6 +202,11 @@ TEST_F(Swap, TheCheckFindsWhatIsNotThere) {
         EXPECT_EQ(found.join(", "), c.out) << c;
     }
     record.extra.remove("Kunden");
+    EXPECT_TRUE(checkFilled(datenbankName, gefüllteDatenbank, record).empty()) << "has its own";
+    record.extra["Rezepte"] += 2;
+    EXPECT_EQ(checkFilled(datenbankName, gefüllteDatenbank, record).at(0).german,
+              "Rezepte: 37 statt 39 Zeilen");
+    record.extra["Rezepte"] -= 2;
     on(gefüllteDatenbank, "DELETE FROM Kunden");
     EXPECT_EQ(checkFilled(datenbankName, gefüllteDatenbank, record).at(0).german,
               "Kunden: 12 Zeilen werden nicht übernommen");
