@@ -12,7 +12,7 @@
 struct Nachweisfilter {
     Schlüssel protokollID = 0; ///< in work or archived, with its values and sheets
     Schlüssel epID = 0;        ///< a final test with its values
-    QDate tag = {};            ///< of the change, in local time
+    QDate tag = {};            ///< of the change, in local time; reads all links, as a name does
     QString person = {};       ///< by whole name, without regard to case
 };
 

@@ -285,6 +285,7 @@ bool fnc_DateiGeöffnet(const QString &path) {
 }
 
 void Datenbank::close() {
+    mKept.clear();
     mDatabase.reset();
 }
 
@@ -360,8 +361,33 @@ void Datenbank::snapshot(const std::function<void()> &statements) {
     statements();
 }
 
+/// With all the triggers behind it a change of a row takes as long to prepare as to run.
+SQLite::Statement &Datenbank::kept(const QString &sql) {
+    constexpr size_t enough = 64;
+    const auto there = mKept.find(sql);
+    if (there != mKept.end())
+        return there->second;
+    SQLite::Statement statement(database(), sql.toStdString());
+    if (mKept.size() >= enough)
+        mKept.clear();
+    return mKept.emplace(sql, std::move(statement)).first->second;
+}
+
 int Datenbank::execute(const QString &sql, const Params &params) {
-    return translated([&] { return prepare(sql, params).exec(); });
+    const bool change =
+        sql.startsWith("INSERT") || sql.startsWith("UPDATE") || sql.startsWith("DELETE");
+    return translated([&] {
+        if (!change)
+            return prepare(sql, params).exec();
+        SQLite::Statement &statement = kept(sql);
+        const auto rest = qScopeGuard([&] {
+            statement.tryReset();
+            statement.clearBindings();
+        });
+        for (size_t i = 0; i < params.size(); ++i)
+            bind(statement, static_cast<int>(i) + 1, params[i]);
+        return statement.exec();
+    });
 }
 
 void Datenbank::run(const QString &script) {

@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "platform/fehler.h"
@@ -104,9 +105,11 @@ class Datenbank {
 
     SQLite::Database &database();
     SQLite::Statement prepare(const QString &sql, const Params &params);
+    SQLite::Statement &kept(const QString &sql);
     void registerFunctions();
 
     std::unique_ptr<SQLite::Database> mDatabase;
+    std::unordered_map<QString, SQLite::Statement> mKept; // changes of rows, ready to run again
     std::function<bool(int)> mGoesOn;
 };
 

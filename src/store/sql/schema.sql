@@ -219,7 +219,6 @@ CREATE TABLE Nachweis (
     Vorher      TEXT,                       -- Kette of the link before
     Kette       TEXT                        -- SHA-256 over all columns before it, hex
 );
-CREATE INDEX NachweisZeit ON Nachweis (Zeit);
 -- By protocol number and number of a final test: '[7,null]', '[null,7]'.
 CREATE INDEX NachweisProtokoll ON Nachweis (json_extract(IFNULL(Neu, Alt), '$.ProtokollID', '$.EP_ID'));
 
