@@ -17,10 +17,11 @@ HELP = Path(__file__).resolve().parent
 ROOT = HELP.parent
 LANGUAGES = ("de", "en")
 
-# Of a box, so many characters from its beginning have to stand in a page. What a placeholder cuts
-# off sooner than SHORTEST says too little to be looked for.
-QUOTED = 25
+# Of a box, so many characters from its beginning have to stand in a page, a placeholder being any
+# few. What the first one cuts off sooner than SHORTEST says too little to be looked for.
+QUOTED = 60
 SHORTEST = 12
+PLACEHOLDER = ".{0,40}?"
 
 STRING = r'"((?:[^"\\]|\\.)*)"'
 LINK = re.compile(r"(!?)\[[^\]]*\]\(([^)]*)\)")
@@ -123,9 +124,11 @@ def contents(language, pages):
 def check_boxes(language, pages):
     told = "\n".join(page.plain for page in pages.values())
     for key, texts in boxes():
-        literal = one_line(re.split(r"%\d|…", texts[language])[0])
-        if len(literal) >= SHORTEST and literal[:QUOTED].rstrip() not in told:
-            finding(language, f"no page tells the box {key}: {literal}")
+        text = one_line(texts[language].split("…")[0])
+        parts = re.split(r"%\d", text[:QUOTED])
+        pattern = PLACEHOLDER.join(re.escape(part.strip()) for part in parts)
+        if len(parts[0].strip()) >= SHORTEST and not re.search(pattern, told):
+            finding(language, f"no page tells the box {key}: {text}")
 
 
 def check_resource(names):
