@@ -125,7 +125,7 @@ def check_boxes(language, pages):
     told = "\n".join(page.plain for page in pages.values())
     for key, texts in boxes():
         text = one_line(texts[language].split("…")[0])
-        parts = re.split(r"%\d", text[:QUOTED])
+        parts = re.split(r"%\d|%$", text[:QUOTED])
         pattern = PLACEHOLDER.join(re.escape(part.strip()) for part in parts)
         if len(parts[0].strip()) >= SHORTEST and not re.search(pattern, told):
             finding(language, f"no page tells the box {key}: {text}")
