@@ -4,7 +4,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdio>
 #include <exception>
+#include <fcntl.h>
+#include <memory>
 #include <xlsxwriter.h>
 
 #include "platform/export.h"
@@ -18,6 +21,7 @@ constexpr int longestText = 32'767; // that a cell takes
 constexpr int mostCached =
     1000; // values that a chart has a copy of, for viewers that do not reckon
 constexpr uint8_t markerSize = 6;
+constexpr qint64 mostOfACell = 200; // bytes, as a rule
 const char dateFormat[] = "dd.mm.yyyy";
 
 lxw_row_t lxwRow(int row) {
@@ -84,6 +88,23 @@ class Rows : public RowWriter {
     lxw_col_t mColumn = 0;
 };
 
+[[noreturn]] void refuseFullTemporary() {
+    throw Fehler(fehlernummer::PermissionDenied,
+                 {"In " P_tmpdir
+                  " ist zu wenig Platz, um die Mappe zu schreiben. Bitte schaffen Sie "
+                  "dort Platz.",
+                  "There is too little space in " P_tmpdir " to write the workbook. Please make "
+                  "room there."});
+}
+
+/// The library puts sheets into temporary files, and a full disk that cuts them off goes unnoticed.
+/// So room for them is made sure of before they are put together.
+void ensureRoom(qint64 bytes) {
+    const std::unique_ptr<FILE, int (*)(FILE *)> room(std::tmpfile(), std::fclose);
+    if (!room || posix_fallocate(fileno(room.get()), 0, bytes) != 0)
+        refuseFullTemporary();
+}
+
 class Writer {
   public:
     Writer(const Workbook &workbook, lxw_workbook *book) : mBook(book) {
@@ -91,6 +112,7 @@ class Writer {
             mFormats.push_back(made(format));
         for (const Sheet &sheet : workbook.sheets)
             write(sheet);
+        ensureRoom(mBytes);
     }
 
   private:
@@ -113,6 +135,8 @@ class Writer {
     void write(const Sheet &sheet) {
         const QByteArray name = sheet.name.toUtf8();
         lxw_worksheet *page = workbook_add_worksheet(mBook, name.constData());
+        if (!page)
+            refuseFullTemporary();
         worksheet_set_landscape(page);
         worksheet_set_paper(page, 9); // A4
         worksheet_fit_to_pages(page, 1, 0);
@@ -128,11 +152,18 @@ class Writer {
             lxw_col_t column = 0;
             for (const Cell &cell : cells)
                 write(page, row, column++, cell);
+            mBytes += static_cast<qint64>(cells.size()) * mostOfACell;
             ++row;
         }
         if (sheet.more) {
             Rows rows(page, mFormats, sheet.rows.size());
             sheet.more(rows);
+        }
+        if (FILE *rows = page->optimize_tmpfile) {
+            lxw_worksheet_write_single_row(page); // the last one
+            if (std::fflush(rows) != 0 || std::ferror(rows) != 0)
+                refuseFullTemporary();
+            mBytes += std::ftell(rows);
         }
         for (const DateChart &chart : sheet.charts)
             write(page, name, chart);
@@ -196,6 +227,7 @@ class Writer {
 
     lxw_workbook *mBook;
     std::vector<lxw_format *> mFormats;
+    qint64 mBytes = 1 << 20; // that the temporary files take: styles, charts, and the sheets
 };
 
 } // namespace

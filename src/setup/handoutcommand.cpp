@@ -1,8 +1,10 @@
 #include <QDir>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 #include "commands.h"
 #include "store/database.h"
+#include "store/databasecopy.h"
 #include "store/handout.h"
 #include "store/scripts.h"
 
@@ -28,8 +30,14 @@ int handOutCommand(const HandoutOrder &order) {
         return complain("--von and --bis take the number of a protocol.");
     const QDir directory(order.directory);
     try {
+        // On a copy: a save of the program would not wait until all is read.
+        const QTemporaryDir temporary;
+        const QString copy = temporary.filePath("copy.mdb");
         Datenbank store;
-        store.openFile(directory.filePath(datenbankName));
+        store.openFile(directory.filePath(datenbankName)); // says what is wrong with it
+        store.close();
+        copyDatabase(directory.filePath(datenbankName), copy);
+        store.openFile(copy);
         if (datenbankVeraltet(store))
             return complain("the database is of an older build. Run torvena-setup " +
                             order.directory + " first, which brings it up to date.");

@@ -120,7 +120,8 @@ int main(int argc, char **argv) {
         "With --aus-jet: leave values empty that cannot be read, and list them, instead of taking "
         "nothing.");
     parser.addOption(blank);
-    const QCommandLineOption handOutOf("export", "Write protocols of DIR for other programs.");
+    const QCommandLineOption handOutOf(
+        "export", "Write protocols of DIR for other programs, final tests excepted.");
     parser.addOption(handOutOf);
     const QCommandLineOption first({"von", "from"}, "With --export: the first number.", "NR");
     const QCommandLineOption last({"bis", "to"}, "With --export: the last number.", "NR");

@@ -16,6 +16,8 @@ void tell(QTextStream &out, const TakeOver &report) {
         out << table << ": not in the file, as delivered\n";
     for (const QString &table : report.left)
         out << table << ": left out, has no place here\n";
+    for (const QString &column : report.lackedColumns)
+        out << column << ": not in the file, left empty\n";
     for (const QString &column : report.leftColumns)
         out << column << ": left out, has no place here, but holds values\n";
     for (const TakeOver::Orphans &lost : report.orphans) {
@@ -53,7 +55,9 @@ int takeOverCommand(const QString &jetFile, const QString &directory, bool unrea
                             directory + ". Run torvena-setup " + directory + '.');
         }
         failure = "values of the file cannot be read; they are listed above. Correct them in the "
-                  "earlier program, or leave them empty by --unlesbares-leer.";
+                  "earlier program";
+        failure += unreadableEmpty ? ": keys cannot be left empty."
+                                   : ", or leave them empty by --unlesbares-leer.";
     } catch (const Fehler &fehler) {
         failure = fehler.text().english;
     }

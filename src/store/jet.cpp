@@ -79,6 +79,8 @@ QByteArray JetFile::run(const QString &program, const QStringList &arguments) co
     QProcess tool;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("LC_ALL", "C.UTF-8"); // or names with umlauts are no arguments
+    environment.insert("MDB_JET3_CHARSET", "CP1252");
+    environment.remove("MDBOPTS");
     tool.setProcessEnvironment(environment);
     tool.start(program, arguments);
     if (!tool.waitForFinished(longestRun) || tool.exitStatus() != QProcess::NormalExit ||
@@ -104,7 +106,7 @@ JetTable JetFile::table(const QString &name) const {
     const qsizetype count = run("mdb-count", {mCopy, name}).trimmed().toLongLong(&counted);
     const QByteArray bytes =
         run("mdb-export", {"-Q", "-d", between, "-R", rowEnd, "-0", null, "-D", "%Y-%m-%d", "-T",
-                           "%Y-%m-%d %H:%M:%S", mCopy, name});
+                           "%Y-%m-%d %H:%M:%S", "-b", "hex", mCopy, name});
     QStringDecoder utf8(QStringDecoder::Utf8);
     const QString text = utf8(bytes);
     QStringList rows = text.split(rowEnd);

@@ -25,9 +25,10 @@ struct TakeOver {
     };
 
     std::vector<Table> taken;
-    QStringList asDelivered; ///< tables that the file lacks
-    QStringList left;        ///< tables of the file that have no place here
-    QStringList leftColumns; ///< "Table.Column" with values, which has no place here
+    QStringList asDelivered;   ///< tables that the file lacks
+    QStringList left;          ///< tables of the file that have no place here
+    QStringList lackedColumns; ///< "Table.Column" that the file lacks: left empty
+    QStringList leftColumns;   ///< "Table.Column" with values, which has no place here
     std::vector<Value> refused;
     std::vector<Orphans> orphans; ///< rows that are there and refer to nothing
     bool done = false;            ///< the database is there
@@ -36,5 +37,6 @@ struct TakeOver {
 /// Makes the database at `path`, under which there is none yet, with the rows of the file: all, or
 /// there is no database. Refused values undo all, and only the report comes; with `unreadableEmpty`
 /// they are left empty, but for keys. Raises as JetFile and legeDatenbankAn(), PermissionDenied for
-/// a database that is there, MissingTable and MissingColumn for a file of another program.
+/// a database or a journal that is there, DuplicateKey for twins, MissingTable and MissingColumn
+/// for a file of another program.
 TakeOver takeOver(const QString &jetFile, const QString &path, bool unreadableEmpty);

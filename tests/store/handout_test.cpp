@@ -5,6 +5,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
+#include <QXmlStreamReader>
+
+#include <csignal>
+
+#include <sys/resource.h>
 
 #include "parts.h"
 #include "store/scripts.h"
@@ -86,6 +92,42 @@ QMap<QString, Rows> jsonRows(const QString &path) {
         tables["Protokoll"].push_back(own);
     }
     return tables;
+}
+
+/// An empty cell is Null, a date has the number of its day.
+Rows sheetRows(const QString &sheet) {
+    QStringList names;
+    Rows rows;
+    QString cell, type;
+    for (QXmlStreamReader xml(sheet); !xml.atEnd(); xml.readNext()) {
+        if (!xml.isStartElement())
+            continue;
+        if (xml.name() == QLatin1String("row"))
+            rows.emplace_back();
+        if (xml.name() == QLatin1String("c")) {
+            cell = xml.attributes().value("r").toString().remove(QRegularExpression("[0-9]"));
+            type = xml.attributes().value("s").toString();
+        }
+        if (xml.name() != QLatin1String("v") && xml.name() != QLatin1String("t"))
+            continue;
+        const bool number = xml.name() == QLatin1String("v");
+        int column = 0;
+        for (const QChar letter : cell)
+            column = 26 * column + letter.unicode() - 'A' + 1;
+        QString value = xml.readElementText();
+        value.replace("_x000D_", "\r");
+        if (rows.size() == 1)
+            names += value;
+        else if (number && type == "2")
+            rows.back()[names[column - 1]] =
+                QDate(1899, 12, 30).addDays(value.toInt()).toString(Qt::ISODate);
+        else if (number)
+            rows.back()[names[column - 1]] = value.toDouble();
+        else
+            rows.back()[names[column - 1]] = value;
+    }
+    rows.erase(rows.begin());
+    return rows;
 }
 
 /// The value as any of the files has it, which part in how they tell a number from a text.
@@ -185,19 +227,39 @@ TEST_F(HandingOut, TablesAndJsonHoldEachRowAsItIsStored) {
     EXPECT_EQ(json["STK"].front()["IsolationsR"], "> 310");
 }
 
-TEST_F(HandingOut, AWorkbookHasTheSameSheets) {
-    const Parts parts(handed(HandoutFormat::Workbook, {3, 3}));
-    const QString book = parts["xl/workbook.xml"], values = parts["xl/worksheets/sheet2.xml"];
-    for (const HandoutTable &table : handoutTables())
-        EXPECT_TRUE(book.contains(QString("name=\"%1\"").arg(table.name)));
-    const QString heads = parts["xl/worksheets/sheet1.xml"];
-    EXPECT_TRUE(heads.contains("Müller, \"Ähre\"")) << heads;
-    EXPECT_EQ(values.count("<row "),
-              1 + grid("SELECT count(*) FROM Messwerte WHERE ProtokollID = 3").toInt());
-    EXPECT_TRUE(values.contains("<t>1.234,5</t>") && values.contains("<v>30</v>") &&
-                values.contains("<t>2024-05-06T07:08:09.500</t>"))
-        << values;
-    EXPECT_TRUE(parts["xl/worksheets/sheet4.xml"].contains("<t>&gt; 310</t>"));
+TEST_F(HandingOut, AWorkbookHoldsTheSameRows) {
+    QMap<QString, Rows> json = jsonRows(handed(HandoutFormat::Json));
+    const Parts parts(handed(HandoutFormat::Workbook));
+    int sheet = 0;
+    for (const HandoutTable &table : handoutTables()) {
+        for (auto &row : json[table.name]) {
+            for (QVariant &value : row) {
+                if (value.toString().isEmpty())
+                    value = {}; // a cell does not tell them apart
+                else if (value.typeId() == QMetaType::Double)
+                    value = QString::number(value.toDouble(), 'g', 16).toDouble();
+            }
+        }
+        EXPECT_TRUE(parts["xl/workbook.xml"].contains(QString("name=\"%1\"").arg(table.name)));
+        compare(sheetRows(parts[QString("xl/worksheets/sheet%1.xml").arg(++sheet)]),
+                json[table.name], table.name);
+    }
+}
+
+TEST_F(HandingOut, AWorkbookThatAFullDiskCutsOffIsNotThere) {
+    change("INSERT INTO Messwerte (ProtokollID, Soll_P, ZulAbw) WITH RECURSIVE n(i) AS (SELECT 1 "
+           "UNION ALL SELECT i + 1 FROM n WHERE i < 6000) SELECT 1, i, 1 FROM n");
+    rlimit usual{};
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &usual), 0);
+    std::signal(SIGXFSZ, SIG_IGN);
+    // Of the rows, and of the sheet that they are put into: neither is the file itself.
+    for (const rlim_t size : {500'000, 1'200'000}) {
+        const rlimit small{size, usual.rlim_max};
+        ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+        EXPECT_EQ(raised([&] { handed(HandoutFormat::Workbook); }), 70) << size;
+    }
+    setrlimit(RLIMIT_FSIZE, &usual);
+    EXPECT_TRUE(QDir("Ziel").isEmpty());
 }
 
 TEST_F(HandingOut, OnlyTheRangeIsThereUnderAFreshNameAndNothingHalf) {

@@ -4,6 +4,12 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <csignal>
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "store/scripts.h"
 #include "workshop.h"
 
@@ -34,7 +40,8 @@ class JetTakeOver : public Workshop {
                                here +
                                "/$name.rows\"\n"
                                "[ ! -e \"" +
-                               here + "/$name.rc\" ]");
+                               here + "/$name.rc\" ] || [ ! -e \"" + here +
+                               "/kill\" ] || kill -9 $PPID\n[ ! -e \"" + here + "/$name.rc\" ]");
         qputenv("PATH", directory.filePath("bin").toUtf8() + ':' + path);
         write("alt.mdb", QByteArray("\0\1\0\0Standard Jet DB\0\1", 21) + QByteArray(4000, 'x'));
         QDir().mkpath("jet");
@@ -105,6 +112,8 @@ class JetTakeOver : public Workshop {
     /// What the report tells beside the counts.
     static QString doubts(const TakeOver &report) {
         QStringList all = report.leftColumns;
+        for (const QString &column : report.lackedColumns)
+            all += '-' + column;
         for (const TakeOver::Value &value : report.refused)
             all +=
                 QString("%1 %2 %3=%4%5")
@@ -151,6 +160,8 @@ TEST_F(JetTakeOver, AllRowsAreThereAndMeanWhatTheyMeant) {
     EXPECT_EQ(taken("SELECT count(*) FROM Messwerte WHERE ZulAbw IS NULL"), "0");
     EXPECT_EQ(taken("SELECT LetzterAufruf FROM EP_Rezeptnamen WHERE RezeptID = 1"), "-1");
     EXPECT_EQ(raised([&] { take(); }), 70) << "a database that is there stays";
+    QFile::rename("neu/torvena470.mdb", "neu/torvena470.mdb-journal");
+    EXPECT_EQ(raised([&] { take(); }), 70) << "the journal of another";
 }
 
 TEST_F(JetTakeOver, AnyDoubtLeavesNothing) {
@@ -168,6 +179,7 @@ TEST_F(JetTakeOver, AnyDoubtLeavesNothing) {
         {"no rows at all", 3343, [] { write("jet/EP.rows", ""); }},
         {"a twin", 3022, [] { replace("Kunden", rowEnd + "2" + between, rowEnd + "1" + between); }},
         {"no key", 3265, [] { replace("Kunden", "KundenID", "Nummer"); }},
+        {"no owner", 3265, [] { replace("Ergometer", "KundenID", "Nummer"); }},
         {"two settings", 3343,
          [] { rows("System", "Sprache" + rowEnd + "1" + rowEnd + "2" + rowEnd, 2); }},
         {"Missing table", 3078, [this] { lack({"Messwerte_temp"}); }},
@@ -204,6 +216,45 @@ TEST_F(JetTakeOver, AnyDoubtLeavesNothing) {
     EXPECT_TRUE(take().done) << "what was stopped hinders nothing";
 }
 
+TEST_F(JetTakeOver, WhereverItIsKilledOrFullThereIsNoDatabase) {
+    const auto inChild = [&](const std::function<void()> &prepare) {
+        const pid_t child = ::fork();
+        if (child == 0) {
+            prepare();
+            ::_exit(raised([&] { take(); }) == 0 ? 0 : 2);
+        }
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        return status;
+    };
+    write("jet/kill", "");
+    for (const char *table : {"System", "Protokoll", "Blutdruck_temp"}) {
+        const QString mark = QString("jet/%1.rc").arg(table);
+        write(mark, "");
+        EXPECT_TRUE(WIFSIGNALED(inChild([] {}))) << table;
+        EXPECT_FALSE(QFile::exists("neu/torvena470.mdb")) << table;
+        QFile::remove(mark);
+    }
+    int stops = 0;
+    for (rlim_t size = 2000; size < 1'000'000; size *= 2) {
+        for (const auto action : {SIG_DFL, SIG_IGN}) { // killed as it writes, a full disk
+            QDir("neu").removeRecursively();
+            QDir().mkpath("neu");
+            const int status = inChild([&] {
+                std::signal(SIGXFSZ, action);
+                const rlimit small{size, size};
+                setrlimit(RLIMIT_FSIZE, &small);
+                setrlimit(RLIMIT_CORE, &small);
+            });
+            EXPECT_EQ(QFile::exists("neu/torvena470.mdb"), status == 0) << size;
+            EXPECT_TRUE(status == 0 || action == SIG_DFL || QDir("neu").isEmpty()) << size;
+            stops += status != 0;
+        }
+    }
+    EXPECT_GT(stops, 6);
+    EXPECT_EQ(taken("SELECT count(*) FROM Kunden"), grid("SELECT count(*) FROM Kunden"));
+}
+
 TEST_F(JetTakeOver, ValuesThatCannotBeAreRefusedOrLeftEmpty) {
     const QString date = grid("SELECT ErstellDatum FROM Protokoll WHERE ProtokollID = 1");
     replace("Protokoll", date + " 00:00:00", "1900-01-00 00:00:00");
@@ -227,22 +278,39 @@ TEST_F(JetTakeOver, ValuesThatCannotBeAreRefusedOrLeftEmpty) {
     report = take(true);
     EXPECT_FALSE(report.done) << "a row without its customer";
     EXPECT_TRUE(doubts(report).contains("Ergometer GerätID 1 KundenID=eins!"));
+    replace("SecControl", rowEnd + "3" + between, rowEnd + null + between);
+    EXPECT_TRUE(doubts(take(true)).contains("SecControl ProtokollID  ProtokollID=!"))
+        << "it would get a number of its own";
     expectNothing();
 }
 
 TEST_F(JetTakeOver, WhatIsOddIsTakenAndTold) {
-    replace("Toleranzen", between + "5" + between + "3" + between,
-            between + "0.050000001" + between + "12.7500" + between);
+    replace("Toleranzen", between + "5" + between + "3" + between + "2" + between,
+            between + "0.050000001" + between + "12.7500" + between + "1.000123456789" + between);
     replace("Normalkalibrierdaten", "VK1_R", "vk1_r");
     replace("Hebelarmkalibrierung", "Prüfdatum", "Datum"); // known by its place
     replace("Kunden", between + "Ort" + rowEnd, between + "Bemerkung" + rowEnd);
     replace("Messwerte", rowEnd + "1" + between, rowEnd + "777" + between);
+    replace("Messwerte", rowEnd + "1" + between, rowEnd + null + between);
+    replace("Messwerte", between + "MDat", between + "Wann");
+    rows("MU_Drehzahl",
+         QStringList{"Bereich", "Grenze", "U"}.join(between) + rowEnd +
+             QStringList{"bis 130", "130", "0.2"}.join(between) + rowEnd,
+         1);
     lack({"EP", "EP_Messwerte", "EP_Rezepte", "EP_Rezeptnamen", "MU_Leistung"});
     const TakeOver report = take();
-    EXPECT_EQ(doubts(report), "Kunden.Bemerkung | Messwerte.ProtokollID 1: 777");
+    EXPECT_EQ(
+        doubts(report),
+        "MU_Drehzahl.Bereich | Kunden.Bemerkung | Messwerte.Wann | -Kunden.Ort | -Messwerte.MDat | "
+        "Messwerte.ProtokollID 2: 0 777");
     EXPECT_EQ(report.asDelivered.join(' '),
               "MU_Leistung EP_Rezeptnamen EP_Rezepte EP EP_Messwerte");
-    EXPECT_EQ(taken("SELECT Prozent || ' ' || Watt FROM Toleranzen WHERE ID = 1"), "0.05 12.75");
+    EXPECT_EQ(
+        taken("SELECT Prozent || ' ' || Watt || ' ' || GrenzAbw FROM Toleranzen WHERE ID = 1"),
+        "0.05 12.75 1.000123456789");
+    EXPECT_EQ(taken("SELECT count(MDat) FROM Messwerte"), "0") << "not the day of the take-over";
+    EXPECT_EQ(taken("SELECT group_concat(ID || ' ' || bis || ' ' || MU) FROM MU_Drehzahl"),
+              "1 130.0 0.2");
     EXPECT_EQ(taken("SELECT Prüfdatum FROM Hebelarmkalibrierung"),
               grid("SELECT Prüfdatum FROM Hebelarmkalibrierung LIMIT 1"));
     EXPECT_EQ(taken("SELECT count(*) FROM Messwerte WHERE ProtokollID = 777"), "1");
