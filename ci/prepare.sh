@@ -5,7 +5,7 @@ fail() { printf '!! %s\n' "$*" >&2; exit 1; }
 packages=(g++ cmake ninja-build qt6-base-dev qt6-serialport-dev
           libgl-dev libsqlitecpp-dev libsqlite3-dev libkainjow-mustache-dev
           libqcustomplot-dev libxlsxwriter-dev
-          fonts-dejavu-core
+          fonts-dejavu-core python3
           libgtest-dev libbenchmark-dev)
 
 # Installs what is missing on a Debian 12; elsewhere says what it is.
