@@ -227,7 +227,9 @@ void Datenbank::createFile(const QString &path, const std::vector<QString> &scri
 void Datenbank::copyFile(const QString &from, const QString &to, const CopyProgress &goesOn) {
     translated([&] {
         constexpr int pages = 500; // of 4 KB
-        SQLite::Database source(from.toStdString(), SQLite::OPEN_READONLY, busyMilliseconds);
+        // For writing, so that what a stopped process left is rolled back; where it cannot be
+        // written it is read all the same.
+        SQLite::Database source(from.toStdString(), SQLite::OPEN_READWRITE, busyMilliseconds);
         source.execAndGet("SELECT count(*) FROM sqlite_master"); // a file of another kind tells now
         SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
         SQLite::Backup backup(target, source);

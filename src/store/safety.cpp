@@ -182,8 +182,11 @@ QString restoreSafetyCopy(const QString &directory, const SafetyCopy &copy, cons
         }
     });
     copySound(copy.path, unfinished, {});
-    QFile::setPermissions(unfinished, QFile::permissions(used));
-    keepAs(used, kept);
+    const bool there = QFileInfo::exists(used);
+    if (there) {
+        QFile::setPermissions(unfinished, QFile::permissions(used));
+        keepAs(used, kept);
+    }
     for (const char *journal : journals) {
         if (QFileInfo::exists(used + journal))
             keepAs(used + journal, kept + journal);
@@ -193,5 +196,5 @@ QString restoreSafetyCopy(const QString &directory, const SafetyCopy &copy, cons
         removeFile(used + journal); // it would be rolled back into the copy
     moveFile(unfinished, used);
     syncFolder(directory);
-    return QFileInfo(kept).fileName();
+    return there ? QFileInfo(kept).fileName() : QString();
 }

@@ -42,7 +42,8 @@ std::vector<QDate> superfluousDays(std::vector<QDate> days);
 QString copyDatabaseTo(const QString &directory, const QString &target, const QDate &day);
 
 /// A copy of the safety copy takes the place of the damaged database, which is kept, with a journal
-/// that lies beside it, under a name with the day, the first free one. Returns that name. Nobody
-/// may have the database open. Raises as makeSafetyCopy(): the damaged one then lies under its name
-/// as before. Wherever it is stopped, one of the two lies there, and the safety copy is whole.
+/// that lies beside it, under a name with the day, the first free one. Returns that name, an empty
+/// one where the database was missing. Nobody may have it open. Raises as makeSafetyCopy(): the
+/// damaged one then lies under its name as before. Wherever it is stopped, one of the two lies
+/// there, and the safety copy is whole.
 QString restoreSafetyCopy(const QString &directory, const SafetyCopy &copy, const QDate &day);

@@ -199,6 +199,19 @@ TEST_F(Safety, ACopyThatIsBrokenOffFullOrDamagedIsNone) {
         << "a lock is no damage";
     other.close();
 
+    const pid_t writer = ::fork(); // what it leaves is rolled back before it is copied
+    if (writer == 0) {
+        Datenbank store;
+        store.openFile(datenbankName);
+        store.execute("PRAGMA cache_size = 5");
+        store.execute("BEGIN");
+        store.execute("UPDATE System SET Firmenname = hex(zeroblob(100000))");
+        ::_exit(0);
+    }
+    ::waitpid(writer, nullptr, 0);
+    EXPECT_GT(QFile(QString(datenbankName) + "-journal").size(), 512);
+    EXPECT_EQ(company(copyDatabaseTo(".", "stick", today)), "now");
+
     const qint64 size = QFile(datenbankName).size();
     overwrite(datenbankName, size / 8192 * 4096, 4096);
     EXPECT_FALSE(Datenbank::damageIn(datenbankName).isEmpty());
@@ -254,6 +267,20 @@ TEST_F(Safety, TheWayBackIsWholeWhereverItStops) {
             EXPECT_EQ(company(datenbankName), "3");
             EXPECT_EQ(unfinished(), "");
         }
+    }
+    // Whatever became of the file, nothing but the names of what is kept differs.
+    const std::function<void()> ruins[] = {
+        [&] { overwrite(used, 0, 100); }, [&] { overwrite(used, 100, 3996); },
+        [&] { EXPECT_TRUE(QFile::resize(used, 0)); },
+        [&] { EXPECT_TRUE(QFile::resize(used, 5000)); }, [&] { EXPECT_TRUE(QFile::remove(used)); }};
+    for (const auto &ruin : ruins) {
+        damage();
+        ruin();
+        const bool gone = !QFile::exists(used);
+        EXPECT_EQ(restoreSafetyCopy(".", copy, today), gone ? "" : kept);
+        EXPECT_EQ(company(used), "3");
+        EXPECT_TRUE(QFile::exists(kept) != gone && QFile::exists(kept + "-journal"));
+        EXPECT_FALSE(QFile::exists(used + "-journal"));
     }
     // Without second names a copy keeps the damaged one.
     damage();
