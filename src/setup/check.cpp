@@ -113,13 +113,17 @@ CheckResult checkFile(const QString &path) {
 
 } // namespace
 
-CheckResult checkDirectory(const QString &directory) try {
-    const CheckResult database = checkFile(QDir(directory).filePath(datenbankName));
+CheckResult checkDirectory(const QString &directory) {
+    CheckResult database = CheckResult::NotChecked;
+    try {
+        database = checkFile(QDir(directory).filePath(datenbankName));
+    } catch (const Fehler &fehler) {
+        say({fehler.text().german + "\nDie Datenbank wurde nicht zu Ende geprüft.",
+             fehler.text().english + "\nThe database was not checked to the end."});
+        if (fehler.number() == platform::fehlernummer::DatabaseDamaged)
+            database = CheckResult::Found;
+    }
     const bool german = QLocale::system().language() == QLocale::German;
-    return listSafetyCopies(directory, german) > 0 ? CheckResult::Found : database;
-} catch (const Fehler &fehler) {
-    say({fehler.text().german + "\nDas Verzeichnis wurde nicht zu Ende geprüft.",
-         fehler.text().english + "\nThe directory was not checked to the end."});
-    return fehler.number() == platform::fehlernummer::DatabaseDamaged ? CheckResult::Found
-                                                                      : CheckResult::NotChecked;
+    const int damaged = listSafetyCopies(directory, german);
+    return database == CheckResult::Clean && damaged > 0 ? CheckResult::Found : database;
 }
