@@ -4,6 +4,7 @@
 
 #include <random>
 
+#include "records/arbeitskopie.h"
 #include "records/archiv.h"
 #include "records/blatt.h"
 #include "records/geraetedaten.h"
@@ -109,6 +110,15 @@ TEST_F(Trail, LeadsFromEachStateToTheNext) {
         [&] {
             gerätEinfügen(gKundenID, {"Rad", "Werk", "S", QString::number(upTo(9999))});
         },
+        [&] {
+            Arbeitskopie steps(ordentlicheRezepte);
+            steps.füllen(protocol("Rezepte", "RezeptID"));
+            gDatenbank.execute("UPDATE ÄndRez_temp SET Leistung = ?", {upTo(500)});
+            const Schlüssel taken = protocol("Rezeptnamen", "RezeptID");
+            steps.fnc_ÄnderungenÜbernehmen(taken);
+            if (upTo(2) == 0)
+                rezeptLöschen(taken);
+        },
         [&] { gDatenbank.execute("UPDATE Toleranzen SET Prozent = Prozent + 0.1"); },
         [&] { archivköpfeLöschen(std::vector<Schlüssel>{protocol("Protokoll")}, [](int) {}); },
         [&] { datensatzLöschen(Löschziel::Gerät, protocol("Ergometer", "GerätID")); },
@@ -123,7 +133,7 @@ TEST_F(Trail, LeadsFromEachStateToTheNext) {
     int last = links();
     for (int turn = 0; turn < 60; ++turn) {
         gPrüfer = "Person " + QString::number(turn);
-        const auto &operation = operations[turn < 13 ? turn : upTo(12)];
+        const auto &operation = operations[turn < 14 ? turn : upTo(13)];
         const int failure = raised(operation);
         EXPECT_TRUE(failure == 0 || failure == fehlernummer::UserInterrupt ||
                     failure == fehlernummer::NoCurrentRecord)
