@@ -15,6 +15,33 @@ using bench::Wanted;
 constexpr int saves = 300;
 constexpr int rowsOfProtocol = 20;
 
+/// Takes the triggers of the trail off and puts them back.
+class TrailSwitch {
+  public:
+    ~TrailSwitch() { turn(true); }
+
+    bool on() const { return mStatements.isEmpty(); }
+    void turn(bool on) {
+        if (on == this->on())
+            return;
+        if (on) {
+            for (const QString &statement : mStatements)
+                gDatenbank.execute(statement);
+            mStatements.clear();
+            return;
+        }
+        for (Recordset triggers = gDatenbank.open("SELECT sql, name FROM sqlite_master WHERE type "
+                                                  "= 'trigger' AND name GLOB 'Nachweis_*'");
+             !triggers.atEnd(); triggers.moveNext()) {
+            mStatements += triggers[0].text();
+            gDatenbank.execute("DROP TRIGGER \"" + triggers[1].text() + '"');
+        }
+    }
+
+  private:
+    QStringList mStatements;
+};
+
 /// Takes down each save of a benchmark.
 class Saves {
   public:
@@ -54,6 +81,7 @@ class Saves {
         bench::figure(name + ", of which disk, p50", bench::percentile(mSyncTime, 50), "ms");
         bench::figure(name + ", waits for the disk", syncs, "");
     }
+    double p50() const { return bench::percentile(mTook, 50); }
 
   private:
     benchmark::State &mState;
@@ -106,10 +134,11 @@ BENCHMARK(savingAgain)
     ->Iterations(saves)
     ->Unit(benchmark::kMillisecond);
 
-/// A free step is measured anew until another is set: an INSERT each time.
+/// A free step is measured anew until another is set: an INSERT each time. With the trail and
+/// without, as many in turn as a protocol has rows.
 void savingFree(benchmark::State &state) {
     LargePlace place;
-    Saves series(state);
+    Saves series(state), bare(state);
     const auto journey = [&]() -> Journey {
         co_await toFirstStep(place);
         co_await until("free input", [] { return canPress(frm::Messen, "pbFreieEing"); });
@@ -121,9 +150,10 @@ void savingFree(benchmark::State &state) {
         enter(frm::Messen, "txtSoll_P");
         sendKeys(*control(frm::Messen, "cmbMessArt"), "L");
         press(frm::Messen, "pbAusführen");
+        TrailSwitch trail;
         for (auto _ : state) {
             co_await measured("FR");
-            series.save();
+            (trail.on() ? series : bare).save();
             const int rows = gDatenbank
                                  .open("SELECT COUNT(*) FROM Messwerte_temp "
                                        "WHERE ProtokollID = ?",
@@ -132,6 +162,7 @@ void savingFree(benchmark::State &state) {
             if (rows == rowsOfProtocol) { // a protocol of ordinary length starts over
                 gDatenbank.execute("DELETE FROM Messwerte_temp WHERE ProtokollID = ?",
                                    {gProtokollID});
+                trail.turn(!trail.on());
             }
         }
         co_await measured("FR");
@@ -141,11 +172,13 @@ void savingFree(benchmark::State &state) {
     };
     place.travel(state, journey());
     series.tell("Saving a free step");
+    bench::figure("Saving a free step against no trail, p50", series.p50() / bare.p50(), "x",
+                  Wanted::Below, 1.1);
 }
 BENCHMARK(savingFree)
     ->Name("Saving/FreeStep")
     ->UseManualTime()
-    ->Iterations(saves)
+    ->Iterations(2 * saves)
     ->Unit(benchmark::kMillisecond);
 
 /// What the protocol dialog asks of the database when it opens.
