@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProgressDialog>
 
 #include <memory>
@@ -24,38 +25,48 @@ namespace {
 const Text titel{"Datenbank beschädigt", "Database Damaged"};
 const Text titelSicherung{"Sicherungskopie", "Safety Copy"};
 
-/// True for the operator's Yes.
-bool gewollt(const QString &befund, const std::optional<SafetyCopy> &kopie) {
-    const Text schaden{QString("Die Datenbank %1 ist beschädigt. Solange sie es ist, wird nicht "
-                               "gemessen.\rBefund: %2\r\r")
-                           .arg(datenbankName, befund),
-                       QString("The database %1 is damaged. Nothing is measured as long as it "
-                               "is.\rFound: %2\r\r")
-                           .arg(datenbankName, befund)};
-    if (!kopie && !gDatenbank.isOpen())
-        return false; // what to do was told when it did not open
-    if (!kopie) {
-        meldung({schaden.german + "Im Ordner Sicherung liegt keine unbeschädigte Kopie. Bitte "
-                                  "beenden Sie das Programm und legen Sie eine Sicherungskopie von "
-                                  "einem anderen Datenträger unter ihrem Namen ab.",
-                 schaden.english + "There is no sound copy in the folder Sicherung. Please end the "
-                                   "program and put a safety copy from another disk under its "
-                                   "name."},
-                Critical, titel);
-        return false;
-    }
-    const QString tag = datumText(kopie->day);
+Text schadenText(const QString &befund) {
+    return {QString("Die Datenbank %1 ist beschädigt. Solange sie es ist, wird nicht "
+                    "gemessen.\rBefund: %2\r\r")
+                .arg(datenbankName, befund),
+            QString("The database %1 is damaged. Nothing is measured as long as it "
+                    "is.\rFound: %2\r\r")
+                .arg(datenbankName, befund)};
+}
+
+void ohneKopieMelden(const QString &befund) {
+    const Text schaden = schadenText(befund);
+    meldung({schaden.german + "Im Ordner Sicherung liegt keine unbeschädigte Kopie. Bitte "
+                              "beenden Sie das Programm und legen Sie eine Sicherungskopie von "
+                              "einem anderen Datenträger unter ihrem Namen ab.",
+             schaden.english + "There is no sound copy in the folder Sicherung. Please end the "
+                               "program and put a safety copy from another disk under its "
+                               "name."},
+            Critical, titel);
+}
+
+/// True for the operator's Yes. `befund` is empty for a database that is missing.
+bool gewollt(const QString &befund, const SafetyCopy &kopie) {
+    const bool fehlt = befund.isEmpty();
+    const Text schaden = fehlt ? Text{QString("Die Datenbank %1 fehlt.\r\r").arg(datenbankName),
+                                      QString("The database %1 is missing.\r\r").arg(datenbankName)}
+                               : schadenText(befund);
+    const Text bleibt = fehlt ? Text{".", "."}
+                              : Text{"; die beschädigte Datei bleibt unter anderem Namen erhalten.",
+                                     "; the damaged file is kept under another name."};
+    const QString tag = datumText(kopie.day);
     return meldung({schaden.german +
                         QString("Die neueste unbeschädigte Sicherungskopie ist vom %1. Soll sie "
-                                "eingesetzt werden? Was seitdem gespeichert wurde, fehlt darin; "
-                                "die beschädigte Datei bleibt unter anderem Namen erhalten.")
-                            .arg(tag),
+                                "eingesetzt werden? Was seitdem gespeichert wurde, fehlt darin")
+                            .arg(tag) +
+                        bleibt.german,
                     schaden.english +
                         QString("The newest sound safety copy is of %1. Shall it be put in place? "
-                                "What was saved since is not in it; the damaged file is kept under "
-                                "another name.")
-                            .arg(tag)},
-                   YesNo + Critical + SecondButtonDefault, titel) == Yes;
+                                "What was saved since is not in it")
+                            .arg(tag) +
+                        bleibt.english},
+                   YesNo + Critical + SecondButtonDefault,
+                   fehlt ? Text{"Datenbank fehlt", "Database Missing"} : titel) == Yes;
 }
 
 bool einsetzen(const SafetyCopy &kopie) try {
@@ -71,13 +82,14 @@ bool einsetzen(const SafetyCopy &kopie) try {
     if (gDatenbank.isOpen())
         imNachweisVermerken("Sicherungskopie vom " + tag + " eingesetzt");
     gDatenbankzustand = Datenbankzustand::Heil;
-    meldung({QString("Die Sicherungskopie vom %1 ist eingesetzt.\rDie beschädigte Datenbank liegt "
-                     "als %2 daneben.")
-                 .arg(tag, abgelegt),
-             QString("The safety copy of %1 is in place.\rThe damaged database lies beside it as "
-                     "%2.")
-                 .arg(tag, abgelegt)},
-            Information, titel);
+    Text eingesetzt{QString("Die Sicherungskopie vom %1 ist eingesetzt.").arg(tag),
+                    QString("The safety copy of %1 is in place.").arg(tag)};
+    if (!abgelegt.isEmpty()) {
+        eingesetzt.german +=
+            QString("\rDie beschädigte Datenbank liegt als %1 daneben.").arg(abgelegt);
+        eingesetzt.english += QString("\rThe damaged database lies beside it as %1.").arg(abgelegt);
+    }
+    meldung(eingesetzt, Information, titel);
     return gDatenbank.isOpen();
 } catch (const Fehler &fehler) {
     fehlerMerken(fehler);
@@ -141,12 +153,20 @@ void sicherungMelden(const Text &was, const Fehler &fehler) {
 } // namespace
 
 bool datenbankPrüfen() try {
-    const QString befund = Datenbank::damageIn(datenbankName);
-    gDatenbankzustand = befund.isEmpty() ? Datenbankzustand::Heil : Datenbankzustand::Beschädigt;
-    if (befund.isEmpty())
-        return false;
+    const bool fehlt = !QFileInfo::exists(datenbankName); // told when it did not open
+    const QString befund = fehlt ? QString() : Datenbank::damageIn(datenbankName);
+    if (!fehlt) {
+        gDatenbankzustand =
+            befund.isEmpty() ? Datenbankzustand::Heil : Datenbankzustand::Beschädigt;
+        if (befund.isEmpty())
+            return false;
+    }
     const std::optional<SafetyCopy> kopie = newestSoundCopy(".");
-    return gewollt(befund, kopie) && einsetzen(*kopie);
+    if (kopie)
+        return gewollt(befund, *kopie) && einsetzen(*kopie);
+    if (gDatenbank.isOpen())
+        ohneKopieMelden(befund);
+    return false; // what to do with one that did not open was told then
 } catch (const Fehler &fehler) {
     fehlerMerken(fehler); // told when it did not open; a lock alone is no damage
     return false;

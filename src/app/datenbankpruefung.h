@@ -3,8 +3,9 @@
 
 /// Checks the database of the current directory, also one that could not be opened, which takes up
 /// to a second for 100 MB, and says in gDatenbankzustand what it found. Damage is told, and the
-/// newest sound safety copy offered. True when that was put in place and opened: what was read
-/// before is to be read anew. One that is missing or locked stays unchecked.
+/// newest sound safety copy offered, also for one that is missing. True when that was put in place
+/// and opened: what was read before is to be read anew. One that is missing or locked stays
+/// unchecked.
 bool datenbankPrüfen();
 
 /// Makes the safety copy of the day where one is due, and takes old ones away. When it takes longer

@@ -106,6 +106,19 @@ JOURNEY(Damage, OfAFileThatDoesNotOpenIsMendedBehindItsBox) {
         choose AEH-001, Kurzprüfung ; can pbMessen)");
 }
 
+JOURNEY(Damage, OfAFileThatIsGoneIsMendedToo) {
+    makeSafetyCopy(".", today.addDays(-1));
+    EXPECT_TRUE(QFile::remove(datenbankName));
+    const QString day = today.addDays(-1).toString("dd.MM.yyyy");
+    expectKnown("startFailed(3024)");
+    expectKnown("missing?(" + day + ')', Yes);
+    expectKnown("restoredMissing(" + day + ')');
+    start();
+    co_await go(R"(
+        pass 300 ; @Login ; txtUserName = X ; pbok ; @Desktop
+        choose AEH-001, Kurzprüfung ; can pbMessen)");
+}
+
 JOURNEY(Damage, IsToldWhereThereIsNoSoundCopy) {
     overwrite("Messwerte");
     co_await go("? damagedNoCopy ; login ; cannot mnuKalibrierung ; end ; copies ==");
