@@ -57,7 +57,11 @@ frmDesktop::frmDesktop()
             {Station::MotorEin, ui.pbMotein}, {Station::Messen, ui.pbMessen}};
     verdrahten();
     enterMotorfenster(*this);
-    setAuswahlListener([this] { auswahlZeigen(); }, [this] { DesktopButton_Freigeben(); });
+    setAuswahlListener([this] { auswahlZeigen(); },
+                       [this] {
+                           unterbrechungBeiWahl();
+                           DesktopButton_Freigeben();
+                       });
 }
 
 frmDesktop::~frmDesktop() {
@@ -103,6 +107,7 @@ void frmDesktop::verdrahten() {
     öffnet(ui.pbBlutdruck, nullptr, frm::Blutdruck, &frmDesktop::pbBlutdruck_Click);
     öffnet(ui.pbSecControl, nullptr, frm::SecControl, &frmDesktop::pbSecControl_Click);
     öffnet(ui.pbEndprüf, nullptr, frm::Endprüf, &frmDesktop::pbEndprüf_Click);
+    onClick(ui.pbFortsetzen, gefangen("6009 - ", [this] { pbFortsetzen_Click(); }));
     onClick(ui.pbMotein, [this] { pbMotein_Click(); });
     onClick(ui.pbMotaus, [this] { pbMotaus_Click(); });
     onClick(ui.pbReset, [this] { pbReset_Click(); });
@@ -144,6 +149,7 @@ void frmDesktop::Form_Load() try {
     ui.txtPrüfer->setText(gPrüfer);
     gEPModus = false;
     gUpdateBeimBeenden = false;
+    mUnterbrechung = unterbrochen();
     letztesNormalLesen();
     ui.txtKalDat->setText(datumText(gKalibrierdatum));
     ohneFehlendeSpalte([] {
@@ -258,6 +264,7 @@ void frmDesktop::Form_Activate() {
         ui.pbDrehR->setEnabled(false);
     wegZeigen();
     tastaturFühren();
+    unterbrechungLesen();
     switch (std::exchange(gDesktopFolge, Desktopfolge::Nichts)) {
     case Desktopfolge::Gerät:
         mnuGerät_Click();

@@ -3,10 +3,12 @@
 #pragma once
 
 #include <map>
+#include <optional>
 
 #include "app/arbeitsweg.h"
 #include "app/seriennummer.h"
 #include "link/motorbedienung.h"
+#include "records/unterbrechung.h"
 #include "session/motorfenster.h"
 #include "session/screens.h"
 #include "ui_frmDesktop.h"
@@ -64,6 +66,12 @@ class frmDesktop : public Screen, public Motorfenster {
     void spracheSetzen(std::int16_t sprache);
     void hilfeÖffnen();
 
+    // A session that was cut off (frmDesktop_unterbrechung.cpp)
+    void unterbrechungLesen();
+    void unterbrechungZeigen();
+    void unterbrechungBeiWahl();
+    void pbFortsetzen_Click();
+
     void mnuGerät_Click();
     void mnuRezept_Click();
     void mnuRezepte_Click();
@@ -83,6 +91,7 @@ class frmDesktop : public Screen, public Motorfenster {
     Seriennummer mSeriennummer;
     int mAntwort = 0; ///< to the question whether the program shall end
     std::map<Station, QPushButton *> mWeg;
+    std::optional<Unterbrechung> mUnterbrechung;
     QString mMotorInfo;
     bool mMeldetEin = false;      ///< the line tells that the motor is switched on
     bool mKorrekturFehlt = false; ///< the zero-point correction failed: measuring is locked

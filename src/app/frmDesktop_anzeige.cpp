@@ -39,6 +39,7 @@ constexpr Beschriftung english[] = {
     {"mnuDeutsch", "&German"},
     {"mnuEnglisch", "&English"},
     {"mnuHelp", "&Help"},
+    {"pbFortsetzen", "&Go On"},
     {"FrAuswahl", "Selection"},
     {"lbPrüfer", "Inspector:"},
     {"lbDatum", "Date:"},
@@ -93,6 +94,7 @@ void frmDesktop::beschriften() {
     setCaption(gProduktTitel);
     ui.anzHebelarm->zeige(Zeichen::Achtung, inSprache({"überfällig", "overdue"}));
     motorbilderZeigen();
+    unterbrechungZeigen();
     hebelarmZeigen();
     if (spracheGewählt())
         normalZeigen(gNKGerätetyp + " SerienNr. " + gSeriennummer);

@@ -4,6 +4,7 @@
 #include "measure/bewertung.h"
 #include "measure/messablauf.h"
 #include "records/protokollinhalt.h"
+#include "records/unterbrechung.h"
 #include "session/auswahl.h"
 #include "session/session.h"
 #include "session/sprache.h"
@@ -125,6 +126,8 @@ void OrdentlicherAblauf::rezeptEnde() {
 }
 
 void OrdentlicherAblauf::beimVerlassen(Weggang weggang) {
+    if (weggang == Weggang::Ordentlich)
+        sitzungVergessen(gProtokollID);
     if (vorhanden(Bestand::Arbeit, Inhalt::Messwerte, gProtokollID)) {
         gBerichtAntwort = Yes;
         return;

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 
 #include "records/protokollnummer.h"
+#include "records/unterbrechung.h"
 #include "session/session.h"
 #include "session/sprache.h"
 
@@ -41,6 +42,8 @@ void frmProtokollNr::Form_Load() try {
     ui.obLetztes->setEnabled(fnc_LetztesProtokollPrüfen());
     fnc_ProtokollNrNeu();
     ui.obNeu->setFocus();
+    if (gWiederaufnahme != 0)
+        vorwählen(gWiederaufnahme);
 } catch (const Fehler &fehler) {
     fehlerBox("9705- ", fehler);
 }
@@ -69,6 +72,23 @@ void frmProtokollNr::fnc_ProtokollNrNeu() try {
     mWahl.nummerVergeben();
 } catch (const Fehler &fehler) {
     fehlerBox("9702 - ", fehler);
+}
+
+/// On the protocol of a session that was cut off, as far as it can be continued.
+void frmProtokollNr::vorwählen(Schlüssel nummer) {
+    if (ui.obLetztes->isEnabled() && mnLetztesProtokollID == nummer) {
+        ui.obLetztes->setChecked(true);
+        obLetztes_Click();
+        return;
+    }
+    const QStringList eintrag = mitNummer(leereProtokolle(), nummer);
+    if (eintrag.isEmpty())
+        return;
+    ui.obVorhanden->setChecked(true);
+    obVorhanden_Click();
+    ui.cmbVorhanden->setCurrentIndex(ui.cmbVorhanden->findText(eintrag[0]));
+    mWahl.cmbVorhanden_Click();
+    ui.pbok->setFocus();
 }
 
 /// Puts the list beside the option that it belongs to.
@@ -119,6 +139,7 @@ void frmProtokollNr::pbok_Click() try {
         gProtokollID = mnLetztesProtokollID;
         gMessenAktiv = true;
     }
+    sitzungMerken();
     abschließen(angenommen);
 } catch (const Fehler &fehler) {
     fehlerBox("9704- ", fehler);

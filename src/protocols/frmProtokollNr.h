@@ -20,6 +20,7 @@ class frmProtokollNr : public Wahldialog<Protokolldialog> {
     void fnc_LeereProtokolle();
     bool fnc_LetztesProtokollPrüfen();
     void fnc_ProtokollNrNeu();
+    void vorwählen(Schlüssel nummer);
     void listeLegen(int zeile);
 
     void obVorhanden_Click() override;

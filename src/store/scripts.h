@@ -10,7 +10,7 @@ class Datenbank;
 
 /// Counts the states of the schema; raised by one with each change that a directory in use must
 /// get.
-inline constexpr int datenbankStand = 4;
+inline constexpr int datenbankStand = 5;
 
 /// A delivered script by the name of its file.
 QString sqlScript(const QString &name);

@@ -13,9 +13,10 @@ using namespace platform;
 
 namespace {
 
-/// Cleared before each use.
+/// Cleared before each use, or of the moment.
 bool isStaging(const QString &table) {
-    return table.startsWith("Bericht") || table.startsWith("EP_Bericht") || table == "ÄndRez_temp";
+    return table.startsWith("Bericht") || table.startsWith("EP_Bericht") ||
+           table == "ÄndRez_temp" || table == "Sitzung";
 }
 
 class Check {

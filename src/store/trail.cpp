@@ -52,7 +52,8 @@ QString quoted(const QString &name) {
 
 bool isTrailed(const QString &table) {
     return !table.startsWith("Bericht") && !table.startsWith("EP_Bericht") &&
-           !table.startsWith("sqlite") && table != "ÄndRez_temp" && table != "Nachweis";
+           !table.startsWith("sqlite") && table != "ÄndRez_temp" && table != "Sitzung" &&
+           table != "Nachweis";
 }
 
 bool hasTable(Datenbank &store, const QString &schema, const QString &name) {

@@ -46,7 +46,7 @@ JOURNEY_P(Startup, DatabaseOfAnOlderBuildIsBroughtUpToDateOnce) {
     change("PRAGMA user_version = 0");
     change("DROP TRIGGER ProtokollGelöscht");
     co_await go(R"(
-        ? broughtUp ; select ; sql PRAGMA user_version == 4
+        ? broughtUp ; select ; sql PRAGMA user_version == 5
         sql SELECT count(*) FROM sqlite_master WHERE name = 'ProtokollGelöscht' == 1)");
     const QStringList copies = QDir().entryList({"torvena470_vor_*.mdb"});
     EXPECT_EQ(copies.size(), 1);

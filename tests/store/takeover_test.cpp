@@ -145,7 +145,7 @@ TEST_F(JetTakeOver, AllRowsAreThereAndMeanWhatTheyMeant) {
     const TakeOver report = take();
     ASSERT_TRUE(report.done);
     EXPECT_EQ(doubts(report), "");
-    EXPECT_EQ(report.left.join(' '), "ÄndRez_temp Eigene Notizen");
+    EXPECT_EQ(report.left.join(' '), "Sitzung ÄndRez_temp Eigene Notizen");
     gDatenbank.execute("ATTACH 'neu/torvena470.mdb' AS Neu");
     for (const TakeOver::Table &table : report.taken) {
         QStringList columns;

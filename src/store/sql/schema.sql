@@ -203,10 +203,18 @@ CREATE TABLE EP_Messwerte (
 CREATE INDEX EP_MesswerteSchritt ON EP_Messwerte (ProtokollID, Prüfschritt);
 
 
+-- The session of measuring under way, at most one row. One that a start of the program finds was cut
+-- off. It refers to nothing that must be there.
+CREATE TABLE Sitzung (
+    ProtokollID     INTEGER,                -- Protokoll_temp
+    RezeptID        INTEGER
+);
+
+
 -- The trail ------------------------------------------------------------------------------------
 
 -- Who changed which row when: the links of a chain of hashes, appended by triggers (trail.sql) for all
--- tables but the staging ones, ÄndRez_temp and this one.
+-- tables but the staging ones, ÄndRez_temp, Sitzung and this one.
 CREATE TABLE Nachweis (
     Nr          INTEGER PRIMARY KEY AUTOINCREMENT,
     Zeit        TEXT,                       -- UTC, by the clock of the computer
