@@ -322,6 +322,7 @@ class Gallery : public Workplace {
         form(frm::Bericht1).unload();
         co_await opened(frm::Sort, "sort");
         co_await opened(frm::DeleteExtended, "deleteextended");
+        co_await opened(frm::Nachweis, "nachweis");
         co_await opened(frm::PrinterPDF, "printerpdf");
         co_await opened(frm::BerichtSichern, "berichtsichern");
         form(frm::History).show();

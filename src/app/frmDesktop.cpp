@@ -96,6 +96,7 @@ void frmDesktop::verdrahten() {
     öffnet(ui.pbMessen, ui.mnuStartMessen, frm::StatMessen, &frmDesktop::pbMessen_Click);
     öffnet(ui.pbProtokoll, ui.mnuProtokoll, frm::Bericht, nullptr);
     öffnet(nullptr, ui.mnuProtVerw, frm::Bericht1, nullptr);
+    öffnet(nullptr, ui.mnuNachweis, frm::Nachweis, nullptr);
     öffnet(nullptr, ui.mnuToleranzen, frm::Toleranzen, nullptr);
     öffnet(nullptr, ui.mnuRoute, frm::Sort, nullptr);
     öffnet(nullptr, ui.mnuUpdate, frm::Refresh, nullptr);

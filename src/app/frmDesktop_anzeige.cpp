@@ -28,6 +28,7 @@ constexpr Beschriftung english[] = {
     {"mnuStartMessen", "&Start Measuring"},
     {"mnuProtokoll", "&Print Protocol"},
     {"mnuProtVerw", "Protocol &Administration"},
+    {"mnuNachweis", "Audit &Trail ..."},
     {"mnuToleranzen", "&Specifications"},
     {"mnuRoute", "Recall &List"},
     {"mnuUpdate", "&Update Database"},

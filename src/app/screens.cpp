@@ -50,6 +50,7 @@
 #include "protocols/frmProtokollNr_1.h"
 #include "protocols/frmSecControl.h"
 #include "recall/frmDeleteExtended.h"
+#include "recall/frmNachweis.h"
 #include "recall/frmSort.h"
 
 void bindScreens() {
@@ -96,6 +97,7 @@ void bindScreens() {
     bindScreen<frmSecControl>();
     bindScreen<frmSort>();
     bindScreen<frmDeleteExtended>();
+    bindScreen<frmNachweis>();
     bindScreen<frmHistory>();
     bindScreen<frmEPListe>();
     bindScreen<frmTest>();

@@ -103,16 +103,28 @@ Nachweisliste nachweis(const Nachweisfilter &filter) {
         bedingungen += "Gleich(Person, ?)";
         werte.push_back(filter.person);
     }
+    const qlonglong vor = filter.vor > 0
+                              ? filter.vor
+                              : gDatenbank.open("SELECT IFNULL(MAX(Nr), 0) + 1 FROM Nachweis")[0]
+                                    .value()
+                                    .toLongLong();
+    const bool mitNummer = filter.protokollID != 0 || filter.epID != 0;
+    const qlonglong ab = mitNummer ? 1 : std::max(vor - nachweisSpanne, qlonglong(1));
+    bedingungen += "Nr < ? AND Nr >= ?";
+    werte.push_back(vor);
+    werte.push_back(ab);
     Nachweisliste liste;
+    liste.weiter = ab > 1 ? ab : 0;
     std::vector<std::vector<QVariant>> zeilen;
     gDatenbank.each("SELECT Nr, Zeit, Person, Tabelle, Vorgang, Schlüssel, Alt, Neu FROM Nachweis "
                     "WHERE " +
                         bedingungen.join(" AND ") + " ORDER BY Nr DESC LIMIT " +
                         QString::number(nachweisGrenze + 1),
                     werte, [&](const Row &glied) {
-                        liste.mehr = zeilen.size() == nachweisGrenze;
-                        if (liste.mehr)
+                        if (zeilen.size() == nachweisGrenze) {
+                            liste.weiter = zeilen.back()[0].toLongLong();
                             return;
+                        }
                         const bool zeile = !glied.isNull(3);
                         zeilen.push_back({glied.whole(0), ortszeit(glied.text(1)), glied.text(2),
                                           glied.text(3), vorgangswort(glied.text(4)),

@@ -55,6 +55,7 @@ enum class frm {
     BerichtSichern,
     Sort,
     DeleteExtended,
+    Nachweis,
     // final test
     Endprüf,
     EPRezepte,

@@ -212,6 +212,7 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
         mnuProtVerw ; @Bericht1
         stop == Protokollverwaltung | Protocol Administration ; pbDeleteExt ; @DeleteExtended
         stop == Erweitertes Löschen | Delete Extended ; pbok ; @Bericht1 ; CancelButton ; @Desktop
+        mnuNachweis ; @Nachweis ; stop == Nachweis | Audit Trail ; pbok ; @Desktop
         pbBlutdruck ; @BlutdruckAbfrage ; obNeu ; stop == Protokoll wählen | Select Protocol ; pbok
         @Blutdruck ; stop ~ Protokoll 22 - |Protocol 22 -  ; pbexit ; @Desktop
         mnuUpdate ; @Refresh ; stop == Datenbank aktualisieren | Update Database ; pbexit ; @Desktop

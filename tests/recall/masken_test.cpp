@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QHeaderView>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QTableView>
 #include <QTest>
@@ -177,6 +178,29 @@ JOURNEY_P(Recall, TellsWhatFails) {
         ? failure(B1_05) ; ? failure(B1_04) ; ? failure(B1_07) ; pbBack
         laAnzProt == 0 Protokolle | 0 Protocols ; cannot pbDelete ; mend
         pbok ; @Bericht1 ; cmbKunde == Klinikum Ährenfeld ; cmbBericht == 2 - P ; can pbDelete)");
+}
+
+JOURNEY_P(Recall, TrailIsNarrowedReadOnAndExported) {
+    change("INSERT INTO Toleranzen (Prozent) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT "
+           "i + 1 FROM n WHERE i < 1000) SELECT 7 FROM n");
+    change("UPDATE Messwerte_temp SET MU_Proz = 0.25, MU_mit = '?' WHERE ProtokollID = 17 AND "
+           "Prüfschritt = '1'");
+    views["rows"] = [] {
+        const auto *rows = control<QTableView>(frm::Nachweis, "DBGrid1")->model();
+        return QString("%1 %2").arg(rows->rowCount()).arg(rows->index(0, 3).data().toString());
+    };
+    views["change"] = [] {
+        return control<QPlainTextEdit>(frm::Nachweis, "txtÄnderung")->toPlainText();
+    };
+    co_await go(R"(
+        login ; mnuNachweis ; @Nachweis ; rows == 1000 Messwerte_temp ; can pbÄltere
+        laAnzahl ~ ^1000 .* \d+, ; pbÄltere ; rows ~ ^1[1-9] ; cannot pbÄltere
+        txtProtokoll = 17 ; txtProtokoll ! ; rows == 1 Messwerte_temp ; change ~ \n.*0.25$
+        txtProtokoll = x ; pbSuchen ; rows ~ ^0  ; cannot pbExcel ; pbBack ; rows ~ ^1000
+        txtPerson = Niemand ; pbSuchen ; rows ~ ^0  ; pbBack
+        chkTag ; pbSuchen ; rows ~ ^1000 ; txtProtokoll = 17 ; pbSuchen
+        pbExcel ; laDatei ~ ^Gespeichert: Export/Nachweis_.*xlsx$ | ^Saved: Export/AuditTrail_.*xlsx$
+        spoil SELECT Nachweis ; ? failure(B3_01) ; pbSuchen ; mend ; rows ~ ^0  ; key Escape ; @Desktop)");
 }
 
 } // namespace

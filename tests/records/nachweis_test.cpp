@@ -58,13 +58,15 @@ TEST_F(Nachweise, AreFoundByNumberWithoutReadingAll) {
         "INSERT INTO Kunden (Name) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT "
         "i + 1 FROM n WHERE i < 10001) SELECT i FROM n");
     const Nachweisliste liste = nachweis({});
-    EXPECT_TRUE(liste.mehr);
+    EXPECT_EQ(liste.weiter, liste.zeilen.at(nachweisGrenze - 1, 0).toLongLong());
+    EXPECT_EQ(nachweis({.vor = 3}).zeilen.count(), 2);
+    EXPECT_EQ(nachweis({.person = "?", .vor = nachweisSpanne + 5}).weiter, 5);
     EXPECT_EQ(liste.zeilen.count(), nachweisGrenze);
     EXPECT_EQ(liste.zeilen["Nr"].whole(), 10'002);
     archivieren(17);
     int schritte = 0; // of 20 000
     gDatenbank.watch([&](int) { return ++schritte < 5; });
-    EXPECT_FALSE(nachweis({.protokollID = 17}).mehr);
+    EXPECT_EQ(nachweis({.protokollID = 17, .vor = nachweisSpanne + 5}).weiter, 0);
     gDatenbank.watch({});
 }
 
