@@ -2,7 +2,7 @@
 say() { printf '== %s\n' "$*"; }
 fail() { printf '!! %s\n' "$*" >&2; exit 1; }
 
-packages=(g++ cmake ninja-build qt6-base-dev qt6-serialport-dev
+packages=(g++ cmake ninja-build qt6-base-dev qt6-serialport-dev qt6-svg-dev
           libgl-dev libsqlitecpp-dev libsqlite3-dev libkainjow-mustache-dev
           libqcustomplot-dev libxlsxwriter-dev
           fonts-dejavu-core python3

@@ -5,7 +5,7 @@ set(CMAKE_AUTOUIC ON) # no moc: screens carry no Q_OBJECT, their names hold umla
 set(CMAKE_AUTORCC ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Widgets PrintSupport SerialPort Svg)
 find_package(SQLiteCpp REQUIRED)
 find_package(SQLite3 REQUIRED)
 find_package(QCustomPlotQt6 REQUIRED)

@@ -1,10 +1,7 @@
 #include "app/frmDesktop.h"
 
 #include <QCoreApplication>
-#include <QDesktopServices>
-#include <QFileInfo>
 #include <QKeyEvent>
-#include <QUrl>
 
 #include "app/datenbank.h"
 #include "app/datenbankpruefung.h"
@@ -27,17 +24,12 @@
 #include "session/sprache.h"
 #include "store/database.h"
 #include "store/sqltext.h"
+#include "windows/help.h"
 #include "windows/msgbox.h"
 #include "windows/waiting.h"
 #include "windows/zeichen.h"
 
 using namespace platform;
-
-namespace {
-
-constexpr auto helpFile = "hilfe.html";
-
-} // namespace
 
 frmDesktop::frmDesktop()
     : mMotor(*this, {{"Motor konnte nicht eingeschaltet werden",
@@ -431,15 +423,7 @@ void frmDesktop::keyPressEvent(QKeyEvent *event) {
         Screen::keyPressEvent(event);
 }
 
-void frmDesktop::hilfeÖffnen() try {
-    const QFileInfo file(helpFile);
-    if (!file.exists() ||
-        !QDesktopServices::openUrl(QUrl::fromLocalFile(file.absoluteFilePath()))) {
-        throw Fehler(fehlernummer::FileNotFound,
-                     {QString("Die Hilfe (%1) lässt sich nicht öffnen.").arg(helpFile),
-                      QString("The help (%1) cannot be opened.").arg(helpFile)});
-    }
-} catch (const Fehler &fehler) {
+void frmDesktop::hilfeÖffnen() try { showHelp(screenName()); } catch (const Fehler &fehler) {
     fehlerMerken(fehler);
     msgBox(QString::number(fehler.number()) + " - " + gFehlerText, Exclamation, gProduktTitel);
 }

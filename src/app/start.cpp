@@ -1,6 +1,7 @@
 #include "app/start.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
 #include "app/screentable.h"
 #include "link/controller.h"
@@ -15,6 +16,7 @@
 #include "session/sprache.h"
 #include "store/database.h"
 #include "store/trail.h"
+#include "windows/help.h"
 #include "windows/msgbox.h"
 #include "windows/preview.h"
 
@@ -55,6 +57,29 @@ PreviewTexts previewTexts() {
             .said = [](const Fehler &fehler) { return inSprache(fehler.text()); }};
 }
 
+/// The pictures lie beside the program as it was installed or built.
+HelpSource helpSource() {
+    const QString language = inSprache({"de", "en"});
+    const QDir program(QCoreApplication::applicationDirPath());
+    QString pictures;
+    for (const char *up : {"..", "../.."}) {
+        const QDir there(program.filePath(QString("%1/share/torvena/help/%2").arg(up, language)));
+        if (pictures.isEmpty() && there.exists())
+            pictures = there.path();
+    }
+    return {.pages = ":/help/" + language,
+            .drawings = ":/help",
+            .pictures = pictures,
+            .language = language,
+            .texts = {.title = inSprache({"Hilfe - torvena", "Help - torvena"}),
+                      .back = inSprache({"&Zurück", "&Back"}),
+                      .forward = inSprache({"&Vor", "&Forward"}),
+                      .contents = inSprache({"&Inhalt", "&Contents"}),
+                      .close = inSprache({"&Schließen", "C&lose"}),
+                      .search = inSprache({"Suchen", "Search"}),
+                      .nothing = inSprache({"Nichts gefunden", "Nothing found"})}};
+}
+
 /// What no handler took: told, and the program goes on.
 void reportUncaught(const std::exception &problem) {
     if (const auto *fehler = dynamic_cast<const Fehler *>(&problem))
@@ -76,6 +101,7 @@ void programmStarten() {
     setUncaughtReporter(reportUncaught);
     setBoxCaptions(boxCaption);
     setPreviewTexts(previewTexts);
+    setHelpSource(helpSource);
     setTrailPerson([] { return gPrüfer; });
     controllerVorbereiten();
     einlaufVorbereiten();
@@ -112,6 +138,7 @@ void programmAufräumen() {
     for (Timer *timer : {&Timer1, &tiDrehzahl, &tiEinlauf, &ti_nSSTwo})
         timer->setEnabled(false);
     closePreviews();
+    closeHelp();
     closeAllScreens();
     MSComm1.setPortOpen(false);
     MSComm2.setPortOpen(false);

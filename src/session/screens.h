@@ -91,7 +91,9 @@ S *loaded() {
     return static_cast<S *>(loaded(S::id));
 }
 
+/// `name` is that of the class.
 template <class S>
-void bindScreen() {
-    platform::registerScreen(static_cast<int>(S::id), [] { return std::make_unique<S>(); });
+void bindScreen(const char *name) {
+    platform::registerScreen(static_cast<int>(S::id), QString::fromUtf8(name),
+                             [] { return std::make_unique<S>(); });
 }

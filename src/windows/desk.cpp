@@ -59,6 +59,18 @@ Desk::Desk() {
     qApp->installEventFilter(this);
 }
 
+QString Desk::nameOf(int id) const {
+    const auto found = mNames.find(id);
+    return found == mNames.end() ? QString() : found->second;
+}
+
+QStringList Desk::names() const {
+    QStringList all;
+    for (const auto &[id, name] : mNames)
+        all << name;
+    return all;
+}
+
 Screen &Desk::get(int id) {
     auto &slot = mScreens[id];
     if (!slot) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 #include <map>
@@ -17,10 +18,13 @@ class Desk : public QObject {
   public:
     static Desk &instance();
 
-    void add(int id, std::function<std::unique_ptr<Screen>()> make) {
+    void add(int id, const QString &name, std::function<std::unique_ptr<Screen>()> make) {
         mMakers[id] = std::move(make);
+        mNames[id] = name;
     }
     bool knows(int id) const { return mMakers.count(id) > 0; }
+    QString nameOf(int id) const;
+    QStringList names() const;
     Screen &get(int id);
     Screen *find(int id) const;
     void clear();
@@ -50,6 +54,7 @@ class Desk : public QObject {
     void bury();
 
     std::map<int, std::function<std::unique_ptr<Screen>()>> mMakers;
+    std::map<int, QString> mNames;
     std::map<int, std::unique_ptr<Screen>> mScreens;
     std::vector<std::unique_ptr<Screen>> mRetired; // unloaded, perhaps still running
     std::vector<Screen *> mVisible;                // bottom to top

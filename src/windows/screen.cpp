@@ -15,6 +15,7 @@
 
 #include "platform/guard.h"
 #include "windows/desk.h"
+#include "windows/help.h"
 #include "windows/msgbox.h"
 
 namespace platform {
@@ -193,8 +194,16 @@ void Screen::closeEvent(QCloseEvent *event) {
         unload();
 }
 
+QString Screen::screenName() const {
+    return Desk::instance().nameOf(mId);
+}
+
 // Enter in a field that has no use for it presses the button that is drawn as the default one.
 void Screen::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_F1) {
+        run([this] { showHelp(screenName()); });
+        return;
+    }
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) {
         QWidget::keyPressEvent(event);
         return;
@@ -299,8 +308,12 @@ bool Screen::eventFilter(QObject *watched, QEvent *event) {
     }
 }
 
-void registerScreen(int id, std::function<std::unique_ptr<Screen>()> make) {
-    Desk::instance().add(id, std::move(make));
+void registerScreen(int id, const QString &name, std::function<std::unique_ptr<Screen>()> make) {
+    Desk::instance().add(id, name, std::move(make));
+}
+
+QStringList screenNames() {
+    return Desk::instance().names();
 }
 
 bool screenExists(int id) {

@@ -43,6 +43,9 @@ class Screen : public QWidget {
     bool usable() const { return mInUse && mModalAbove == 0; }
     bool unloaded() const { return mUnloaded; }
 
+    /// What its class is called; the help finds its page by it.
+    QString screenName() const;
+
     void setCaption(const QString &caption) { setWindowTitle(caption); }
     QString caption() const { return windowTitle(); }
     /// A line of information, for screens that have one.
@@ -142,7 +145,9 @@ class HoldActivations {
 };
 
 // Screens by number, so that a low floor can name a high one.
-void registerScreen(int id, std::function<std::unique_ptr<Screen>()> make);
+void registerScreen(int id, const QString &name, std::function<std::unique_ptr<Screen>()> make);
+/// Of all screens that are registered.
+QStringList screenNames();
 bool screenExists(int id);
 /// The one instance, made and loaded on first use. `id` must be registered.
 Screen &screenWithId(int id);

@@ -2,12 +2,14 @@
 // help and reset on the desktop, and the working standard in use.
 #include <QApplication>
 #include <QMessageBox>
+#include <QTextBrowser>
 #include <QTimer>
 
 #include "app/seriennummer.h"
 #include "app/start.h"
 #include "platform/guard.h"
 #include "session/session.h"
+#include "windows/help.h"
 #include "windows/msgbox.h"
 #include "workplace.h"
 
@@ -23,6 +25,15 @@ class Program : public Workplace {
         views["standard"] = [] {
             return QString("%1 %2 %3").arg(gSeriennummer).arg(gNormalGainL).arg(gNormalOffset);
         };
+    }
+    /// The page that the help shows, none when it is closed.
+    static QString helpPage() {
+        for (const QWidget *window : QApplication::topLevelWidgets()) {
+            const auto *page = window->findChild<QTextBrowser *>("txtPage");
+            if (page && window->isVisible())
+                return page->toPlainText().section('\n', 0, 0);
+        }
+        return {};
     }
     /// The captions of a real box with these buttons.
     static QString captions(int flags) {
@@ -50,7 +61,14 @@ JOURNEY_P(Program, TellsWhatNobodyCaught) {
     guarded([] { throw std::runtime_error("x"); });
     co_await go(R"(
         wire == ; pbReset ; wire == r ; can pbReset
-        ? noHelp ; key F1 ; ? noHelp ; mnuHelp)");
+        key F1)");
+    EXPECT_EQ(helpPage(),
+              english() ? "Main window and registration" : "Hauptfenster und Anmeldung");
+    closeHelp();
+    co_await go("@Desktop ; mnuKunden ; @Kunden ; key F1 ; pbexit ; @Desktop");
+    EXPECT_EQ(helpPage(), english() ? "Customers" : "Kunden");
+    setHelpSource({});
+    co_await go("? noHelp ; mnuHelp");
     EXPECT_EQ(captions(YesNoCancel) + ' ' + captions(AbortRetryIgnore) + ' ' + captions(OKOnly),
               english() ? "&Cancel &No &Yes &Abort &Ignore &Retry &OK"
                         : "&Abbrechen &Ja &Nein &Ignorieren &Wiederholen A&bbrechen &OK");

@@ -26,7 +26,7 @@ struct Window : Motorfenster {
 class Told {
   public:
     explicit Told(frm name) : mName(name) {
-        platform::registerScreen(int(name), [] { return std::make_unique<Listener>(); });
+        platform::registerScreen(int(name), {}, [] { return std::make_unique<Listener>(); });
         form(name);
     }
     ~Told() { form(mName).unload(); }

@@ -21,7 +21,7 @@ class ProtokollDialog : public ProtokollTest {
   protected:
     ProtokollDialog() {
         bindScreens();
-        bindScreen<frmMessfenster>();
+        bindScreen<frmMessfenster>("frmMessfenster");
         gProtokollTitel.clear();
         views["number"] = [] { return QString::number(gProtokollID); };
         // Status, whether the old protocol goes on, how often the measurement was activated since.

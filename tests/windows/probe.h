@@ -83,7 +83,7 @@ class Activation : public testing::Test {
     Activation() {
         plans.clear();
         for (int id = A; id <= D; ++id)
-            platform::registerScreen(id, [id] { return std::make_unique<Probe>(id); });
+            platform::registerScreen(id, {}, [id] { return std::make_unique<Probe>(id); });
     }
     ~Activation() override {
         platform::setUncaughtReporter({});
