@@ -3,6 +3,7 @@
 #include <QScopedValueRollback>
 
 #include "platform/fehler.h"
+#include "platform/ports.h"
 #include "records/leitung.h"
 #include "session/sprache.h"
 #include "windows/stil.h"
@@ -12,11 +13,13 @@ using namespace platform;
 
 Anschlussmaske::Anschlussmaske(const Anschluss &anschluss) : mAnschluss(anschluss) {
     ui.setupUi(this);
-    QSizePolicy platz = ui.Schild->sizePolicy();
-    platz.setRetainSizeWhenHidden(true);
-    ui.Schild->setSizePolicy(platz);
-    ui.Schild->hide(); // nothing was tried yet
-    ui.Label4->hide();
+    for (QWidget *zustand :
+         {static_cast<QWidget *>(ui.Schild), static_cast<QWidget *>(ui.Label4)}) {
+        QSizePolicy platz = zustand->sizePolicy();
+        platz.setRetainSizeWhenHidden(true);
+        zustand->setSizePolicy(platz);
+        zustand->hide(); // nothing was tried yet
+    }
     ui.cmbBaud->addItems(Schnittstelle::baudraten());
     ui.cmbDatenbits->addItems(Schnittstelle::datenbitzahlen());
     ui.cmbParitaet->addItems(Schnittstelle::paritäten());
@@ -85,5 +88,21 @@ void Anschlussmaske::zustandZeigen() {
         },
         ui.Label2->text());
     ui.Schild->show();
-    ui.Label4->setVisible(!da && !ui.Label4->text().isEmpty());
+    if (!da)
+        ui.Label4->setText(fehlendesZeigen());
+    ui.Label4->setVisible(!da);
+}
+
+QString Anschlussmaske::fehlendesZeigen() const {
+    const int port = mAnschluss.leitung.CommPort();
+    QStringList zeilen{mOhneAnschluss,
+                       inSprache({"Anschluss %1 ist der Eintrag COM%1 des Arbeitsverzeichnisses, "
+                                  "sonst /dev/ttyS%2.",
+                                  "Port %1 is the entry COM%1 of the working directory, else "
+                                  "/dev/ttyS%2."})
+                           .arg(port)
+                           .arg(port - 1),
+                       inSprache(portsInWords())};
+    zeilen.removeAll(QString());
+    return zeilen.join('\n');
 }

@@ -19,14 +19,17 @@ class Anschlussmaske : public Screen {
     /// as leitungLesen.
     void einstellungZeigen(std::optional<int> port = {});
     Schnittstelle felder() const;
-    /// Whether the port is there. Label4 is seen while it is not, if it has a text.
+    /// Whether the port is there. While it is not, Label4 has mOhneAnschluss and the ports that
+    /// are.
     void zustandZeigen();
 
     Ui::anschlussmaske ui;
     const Anschluss &mAnschluss;
+    QString mOhneAnschluss; ///< what cannot be done without the port
 
   private:
     void SbCOM_Change();
+    QString fehlendesZeigen() const;
 
     bool mVersuchLäuft = false;
 };

@@ -14,7 +14,6 @@ constexpr Beschriftung english[] = {
     {"", "Second Interface Settings"},
     {"FrAnschluss", "Port To The Ergometer"},
     {"Label1", "&COM port:"},
-    {"Label4", "Without this port the final test cannot measure by itself."},
     {"FrParameter", "Transmission"},
     {"lbBaud", "&Baud rate:"},
     {"lbParitaet", "&Parity:"},
@@ -30,9 +29,6 @@ constexpr Beschriftung english[] = {
 frmSecondInterface::frmSecondInterface() : Anschlussmaske(ergometerleitung) {
     ui.pbSS2->setObjectName("pbSS1");
     ui.cmbStoppbits->setItemText(1, CStr(1.5)); // as this machine writes it
-    QSizePolicy platz = ui.Label4->sizePolicy();
-    platz.setRetainSizeWhenHidden(true);
-    ui.Label4->setSizePolicy(platz);
     onClick(ui.pbSS2, [this] { pbSS1_Click(); });
 }
 
@@ -41,10 +37,11 @@ void frmSecondInterface::beschriften() {
         ui.retranslateUi(this);
         setCaption("Parameter der zweiten Schnittstelle");
         ui.FrAnschluss->setTitle("Anschluss zum Ergometer");
-        ui.Label4->setText("Ohne diesen Anschluss kann die Endprüfung nicht selbst messen.");
         ui.pbSS2->setText("&Erste Schnittstelle ...");
     }
     englischBeschriften(*this, english);
+    mOhneAnschluss = inSprache({"Ohne diesen Anschluss kann die Endprüfung nicht selbst messen.",
+                                "Without this port the final test cannot measure by itself."});
 }
 
 void frmSecondInterface::Form_Load() try {

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 #include "platform/fehler.h"
+#include "platform/ports.h"
 
 namespace platform {
 
@@ -43,6 +44,8 @@ class SystemPort : public SerialDevice {
             // A name without hardware behind it fails in many ways.
             if (mPort.error() != QSerialPort::PermissionError)
                 throw missing();
+            if (accessDenied(mLocation))
+                throw Fehler(fehlernummer::PortInUse, accessInWords(mLocation));
             throw Fehler(fehlernummer::PortInUse,
                          {"Der Anschluss ist belegt oder gesperrt (" + mPort.errorString() + ").",
                           "The port is in use or not accessible (" + mPort.errorString() + ")."});
@@ -95,9 +98,10 @@ class SystemPort : public SerialDevice {
     }
 
     Fehler missing() const {
+        const Text others = portsInWords();
         return {fehlernummer::NoSuchPort,
-                {"Der Anschluss " + mLocation + " ist nicht vorhanden.",
-                 "The port " + mLocation + " does not exist."}};
+                {"Der Anschluss " + mLocation + " ist nicht vorhanden. " + others.german,
+                 "The port " + mLocation + " does not exist. " + others.english}};
     }
 
     QSerialPort mPort;

@@ -7,10 +7,15 @@
 
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <grp.h>
+#include <pwd.h>
+#include <sys/stat.h>
 #include <termios.h>
 #include <unistd.h>
 
 #include "cases.h"
+#include "platform/fehler.h"
+#include "platform/ports.h"
 #include "platform/serial.h"
 #include "testclock.h"
 
@@ -205,6 +210,43 @@ TEST_F(Port, CarriesEveryByteBothWays) {
     EXPECT_EQ(line.Input(), "new");
     line.setPortOpen(false);
     EXPECT_EQ(opening(other), 0);
+}
+
+// The process gives up its rights meanwhile, where it has them.
+TEST_F(Port, TellsWhichThereAreAndHowToGetIn) {
+    ASSERT_TRUE(QFile::link("/dev/null", "COM3") && QFile::link("gone", "COM7"));
+    setPortLister([] {
+        return std::vector<KnownPort>{{"/dev/null", "UART"}, {"/dev/ttyUSB7", "Adapter, Maker"}};
+    });
+    const auto told = [this] {
+        try {
+            line.setPortOpen(true);
+        } catch (const Fehler &fehler) {
+            return fehler.text().english;
+        }
+        return QString();
+    };
+    EXPECT_EQ(told(), "The port " + QDir::current().absoluteFilePath("COM7") +
+                          " does not exist. There are:\nCOM3: /dev/null (UART)\n"
+                          "/dev/ttyUSB7 (Adapter, Maker)");
+    setPortLister([] { return std::vector<KnownPort>{}; });
+    QFile::remove("COM3");
+    EXPECT_TRUE(told().endsWith("no serial port. Please check the cable."));
+    setPortLister({});
+
+    QFile device("COM7");
+    const auto *owners = getgrnam("dialout");
+    ASSERT_TRUE(device.open(QIODevice::WriteOnly) && chmod(".", 0755) == 0);
+    if (geteuid() != 0 || !owners)
+        GTEST_SKIP() << "needs a device of a group";
+    for (const auto &[rights, words] :
+         {std::pair{0660, "adduser nobody dialout\""}, {0600, "ask the administrator"}}) {
+        ASSERT_EQ(chown("COM7", 0, owners->gr_gid) + chmod("COM7", mode_t(rights)), 0);
+        ASSERT_EQ(seteuid(getpwnam("nobody")->pw_uid), 0);
+        const QString said = told();
+        ASSERT_EQ(seteuid(0), 0);
+        EXPECT_TRUE(said.contains(words)) << said.toStdString();
+    }
 }
 
 TEST_F(Port, IsSetAsItIsTold) {

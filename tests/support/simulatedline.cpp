@@ -1,6 +1,7 @@
 #include "simulatedline.h"
 
 #include "platform/fehler.h"
+#include "platform/ports.h"
 
 namespace support {
 
@@ -50,6 +51,9 @@ SimulatedLine::SimulatedLine(TestClock &clock) : mClock(clock) {
             throw Fehler(fehlernummer::NoSuchPort, {"fehlt", "missing"});
         return std::make_unique<Device>(*this, mEnds[first ? 0 : 1]);
     });
+    setPortLister([] {
+        return std::vector<KnownPort>{{"/dev/ttyS0", ""}, {"/dev/ttyUSB0", "USB UART, Maker"}};
+    });
     mClock.nextOutside = [this] {
         const auto one = mEnds[0].farEnd->nextEvent();
         const auto other = mEnds[1].farEnd->nextEvent();
@@ -66,6 +70,7 @@ SimulatedLine::SimulatedLine(TestClock &clock) : mClock(clock) {
 
 SimulatedLine::~SimulatedLine() {
     setSerialDeviceMaker({});
+    setPortLister({});
     mClock.nextOutside = {};
 }
 
