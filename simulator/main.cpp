@@ -7,16 +7,18 @@
 #include <QFileInfo>
 #include <QSocketNotifier>
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
-#include <cstring>
 #include <fcntl.h>
 #include <memory>
 #include <optional>
+#include <string_view>
 #include <unistd.h>
 
 #include "platform/ending.h"
+#include "platform/program.h"
 
 namespace {
 
@@ -56,19 +58,12 @@ std::unique_ptr<QSocketNotifier> commandChannel(simulator::Lines &lines) {
     return notifier;
 }
 
-bool hasArgument(int argc, char **argv, const char *wanted) {
-    for (int i = 1; i < argc; ++i)
-        if (std::strcmp(argv[i], wanted) == 0)
-            return true;
-    return false;
-}
-
 int run(const QCoreApplication &application, bool panel) {
     QCommandLineParser parser;
     parser.setApplicationDescription(
         "The simulated stand: controller and ergometer as COM1 and COM4 in a directory. Takes "
         "commands on standard input, try help.");
-    parser.addHelpOption();
+    platform::introduce("torvena-stand", parser);
     parser.addOption({"no-panel", "Runs without a window."});
     parser.addPositionalArgument("DIR", "Where to link the two lines.");
     parser.process(application);
@@ -106,7 +101,8 @@ int main(int argc, char **argv) {
         if (descriptor > STDERR_FILENO)
             ::close(descriptor);
     }
-    const bool panel = !hasArgument(argc, argv, "--no-panel") && !hasArgument(argc, argv, "--help");
+    const bool panel = std::count(argv, argv + argc, std::string_view("--no-panel")) == 0 &&
+                       !platform::asksForWords(argc, argv);
     if (panel) {
         const QApplication application(argc, argv);
         return run(application, true);

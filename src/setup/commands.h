@@ -3,12 +3,13 @@
 
 #include <QString>
 
+#include "platform/directorylock.h"
+
 enum ExitCode { Done = 0, Failed = 1 };
 
 /// Says so on the error output.
 int complain(const QString &text);
-/// Puts the delivered files into the directory; one that lies there already stays.
-bool deliverFiles(const QString &directory);
+int complainInUse(const QString &directory, const platform::DirectoryLock &lock);
 
 struct HandoutOrder {
     QString directory;

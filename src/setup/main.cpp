@@ -3,58 +3,41 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTextStream>
 
 #include "check.h"
 #include "commands.h"
 #include "platform/fehler.h"
+#include "platform/program.h"
 #include "safetycopies.h"
-#include "store/database.h"
 #include "store/rowcopy.h"
 #include "store/scripts.h"
 #include "store/trail.h"
+#include "store/workplace.h"
 
 int complain(const QString &text) {
     QTextStream(stderr) << "torvena-setup: " << text << '\n';
     return Failed;
 }
 
-bool deliverFiles(const QString &directory) {
-    const QDir delivered(":/layouts");
-    for (const QString &name : delivered.entryList()) {
-        const QString target = QDir(directory).filePath(name);
-        if (QFileInfo::exists(target))
-            continue;
-        if (!QFile::copy(delivered.filePath(name), target))
-            return false;
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
-                                          QFile::ReadOther);
-    }
-    return true;
+int complainInUse(const QString &directory, const platform::DirectoryLock &lock) {
+    return complain(directory + " is in use by another program, process " + lock.holder() +
+                    ". Please close it first.");
 }
 
 namespace {
 
 int setUp(const QString &directory, bool demo) {
-    const QString path = QDir(directory).filePath(datenbankName);
-    if (!QDir().mkpath(directory))
-        return complain("the directory " + directory + " cannot be created.");
-    if (!deliverFiles(directory))
-        return complain("the delivered files cannot be written to " + directory + ".");
-    const bool older = QFileInfo::exists(path);
+    const bool older = hasDatabase(directory);
+    platform::DirectoryLock lock;
+    if (older && !lock.take(directory))
+        return complainInUse(directory, lock);
     try {
-        if (older)
-            bringeDatenbankAufStand(path);
-        else
-            legeDatenbankAn(path, demo);
+        QTextStream(stdout) << setUpWorkplace(directory, demo) << '\n';
     } catch (const Fehler &fehler) {
-        return complain(path + ": " + fehler.text().english +
-                        (older ? "\nNothing in it has been changed." : ""));
+        return complain(directory + ": " + fehler.text().english +
+                        (older ? "\nNothing in its database has been changed." : ""));
     }
-    QTextStream(stdout) << path << '\n';
     return Done;
 }
 
@@ -74,10 +57,9 @@ int makeUpdate(const QString &file, const QString &version) {
 
 int main(int argc, char **argv) {
     const QCoreApplication app(argc, argv);
-    QCoreApplication::setApplicationName("torvena-setup");
-    setTrailPerson([] { return QCoreApplication::applicationName(); });
-
     QCommandLineParser parser;
+    platform::introduce("torvena-setup", parser);
+    setTrailPerson([] { return QCoreApplication::applicationName(); });
     parser.setApplicationDescription(
         "Fills a working directory for torvena. A directory with a database is brought up to "
         "date:\n"
@@ -130,7 +112,6 @@ int main(int argc, char **argv) {
     const QCommandLineOption into(
         {"nach", "into"}, "With --export: the folder, DIR/Export unless it is named.", "FOLDER");
     parser.addOptions({first, last, format, into});
-    parser.addHelpOption();
     parser.process(app);
 
     const QStringList directories = parser.positionalArguments();

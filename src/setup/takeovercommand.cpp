@@ -6,6 +6,7 @@
 #include "platform/fehler.h"
 #include "store/database.h"
 #include "store/takeover.h"
+#include "store/workplace.h"
 
 namespace {
 
@@ -39,6 +40,9 @@ void tell(QTextStream &out, const TakeOver &report) {
 int takeOverCommand(const QString &jetFile, const QString &directory, bool unreadableEmpty) {
     const bool fresh = !QFileInfo::exists(directory);
     const QString path = QDir(directory).filePath(datenbankName);
+    platform::DirectoryLock lock;
+    if (!fresh && !lock.take(directory))
+        return complainInUse(directory, lock);
     if (!QDir().mkpath(directory))
         return complain("the directory " + directory + " cannot be created.");
     QString failure;

@@ -18,17 +18,18 @@ for _ in $(seq 100); do [ -e "$work/COM1" ] && break; sleep 0.1; done
 echo "load 100" >&3
 
 cd "$work"
-# Three for later: two that stay idle, and one at the keyboard, which is a device that tells what
-# goes up and down, on the platform whose windows hand the keyboard on.
+# Three for later: two that stay idle in directories of their own, and one at the keyboard, which is
+# a device that tells what goes up and down, on the platform whose windows hand the keyboard on.
 declare -A program
 mkfifo keys
 exec 4<>keys
 QT_QPA_PLATFORM=minimal QT_QPA_GENERIC_PLUGINS=evdevkeyboard:/dev/fd/4 "$torvena" 2>/dev/null &
 program[TERM]=$!
-"$torvena" 2>/dev/null &
-program[INT]=$!
-"$torvena" 2>/dev/null &
-program[HUP]=$!
+for signal in INT HUP; do
+    "$setup" "$work/$signal"
+    "$torvena" "$work/$signal" 2>/dev/null &
+    program[$signal]=$!
+done
 pids+=("${program[@]}")
 
 LC_ALL=C.UTF-8 "$tour" 2>/dev/null | tee tour.txt
@@ -55,6 +56,10 @@ alt 38 # L, left
 key 28
 alt 18 # E, the motor
 stands_at 'set=60\.00 .*direction=left motor=on'
+if "$setup" "$work" 2>/dev/null; then
+    echo "torvena-setup changes a directory in use"
+    exit 1
+fi
 for signal in TERM INT HUP; do
     kill -$signal "${program[$signal]}"
     wait "${program[$signal]}" || { echo "torvena did not end in order by $signal: $?"; exit 1; }

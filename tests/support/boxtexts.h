@@ -18,6 +18,10 @@ using namespace platform;
 // clang-format off
 inline constexpr KnownBox boxTexts[] = {
     {"broughtUp", Information, "Meldung", "Message", "Die Datenbank wurde auf den Stand dieses Programms gebracht.\rWie sie vorher war, liegt als torvena470_vor_…", "The database was brought up to date for this program.\rAs it was before, it lies beside it as torvena470_vor_…"},
+    // where the program works
+    {"running", Exclamation, "torvena läuft schon", "torvena Is Running Already", "In diesem Verzeichnis wird schon gearbeitet:\r…", "Somebody works in this directory already:\r…"},
+    {"noDirectory", Critical, "Fehler", "Error", "Das Verzeichnis \"%1\" gibt es nicht, oder es darf nicht geöffnet werden.", "The directory \"%1\" does not exist, or must not be opened."},
+    {"notMade", Critical, "Fehler", "Error", "Das Verzeichnis …", "The directory …"},
     // damage and safety copies
     {"damaged?", YesNo + Critical + SecondButtonDefault, "Datenbank beschädigt", "Database Damaged", "Die Datenbank torvena470.mdb ist beschädigt. Solange sie es ist, wird nicht gemessen.\rBefund: …", "The database torvena470.mdb is damaged. Nothing is measured as long as it is.\rFound: …"},
     {"damagedNoCopy", Critical, "Datenbank beschädigt", "Database Damaged", "Die Datenbank torvena470.mdb ist beschädigt. Solange sie es ist, wird nicht gemessen.\rBefund: …", "The database torvena470.mdb is damaged. Nothing is measured as long as it is.\rFound: …"},
