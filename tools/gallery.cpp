@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -16,12 +17,14 @@
 
 #include <cstdio>
 
+#include "app/verzeichnisfrage.h"
 #include "boxtexts.h"
 #include "finaltest/epablauf.h"
 #include "link/ergometer.h"
 #include "lookcheck.h"
 #include "session/session.h"
 #include "session/sprache.h"
+#include "store/scripts.h"
 #include "windows/preview.h"
 #include "windows/stil.h"
 #include "windows/waiting.h"
@@ -57,6 +60,14 @@ class Gallery : public Workplace {
     }
 
     void show() { run(rounds()); }
+    void showFirstDay() {
+        QFile::remove(datenbankName);
+        legeDatenbankAn(datenbankName, false);
+        setLanguage(mLanguage);
+        for (const QString &gone : {QString(), QString("/media/stick/torvena")})
+            directory(gone);
+        run(firstDay());
+    }
     void showRefusals() {
         change("UPDATE System SET Endprüfung = -1");
         change("UPDATE Hebelarmkalibrierung SET Prüfdatum = '2020-01-15 16:30:00'");
@@ -84,10 +95,27 @@ class Gallery : public Workplace {
         meldung({known->german, known->english}, known->flags, {known->title, known->titleEnglish});
     }
 
+    void directory(const QString &gone) {
+        Verzeichnisfrage question("/home/pruefer/torvena", gone);
+        question.show();
+        save(question, mTarget,
+             QString("verzeichnis%1-%2")
+                 .arg(gone.isEmpty() ? "" : "-fort", mLanguage == 1 ? "de" : "en"));
+    }
+
+    Journey firstDay() {
+        co_await logIn();
+        picture("desktop-erstertag");
+        support::choose(frm::Desktop, "mnuÜber");
+        co_await arrive(frm::Über);
+        picture("über");
+    }
+
     void messageBoxes() {
         using namespace platform;
         setBoxAnswerer({});
-        for (const char *key : {"notRunIn", "recipeEnd", "noController", "end", "endAnyway"})
+        for (const char *key :
+             {"notRunIn", "recipeEnd", "noController", "end", "endAnyway", "running"})
             box(key);
     }
 
@@ -592,6 +620,8 @@ int main(int argc, char *argv[]) {
             Gallery(target, language).show();
         for (const auto language : {std::int16_t{1}, std::int16_t{2}})
             Gallery(target, language).showRefusals();
+        for (const auto language : {std::int16_t{1}, std::int16_t{2}})
+            Gallery(target, language).showFirstDay();
     }
     std::printf("%s: %d faults\n", qPrintable(all.path()), faultCount);
     return faultCount == 0 ? 0 : 1;

@@ -19,6 +19,7 @@
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/database.h"
+#include "store/safety.h"
 #include "store/trail.h"
 #include "store/workplace.h"
 #include "windows/msgbox.h"
@@ -82,9 +83,14 @@ bool sperren(const QString &verzeichnis) {
     return false;
 }
 
+/// A database that is missing may come back from its safety copies, which the start offers.
+bool istArbeitsplatz(const QString &verzeichnis) {
+    return hasDatabase(verzeichnis) || !safetyCopies(verzeichnis).empty();
+}
+
 /// Takes a directory as it is when it has a database, else fills it.
 void einrichten(const QString &verzeichnis) {
-    if (hasDatabase(verzeichnis))
+    if (istArbeitsplatz(verzeichnis))
         deliverFiles(verzeichnis); // what is new in this build; told where it is missed
     else
         setUpWorkplace(verzeichnis, false);
@@ -94,7 +100,7 @@ std::optional<int> zuHauseBetreten(bool fragen) {
     QString verzeichnis = gemerktesVerzeichnis();
     QString fort;
     const QString bisher = verzeichnis;
-    if (!verzeichnis.isEmpty() && !hasDatabase(verzeichnis))
+    if (!verzeichnis.isEmpty() && !istArbeitsplatz(verzeichnis))
         fort = verzeichnis;
     if (fragen || !fort.isEmpty())
         verzeichnis.clear();

@@ -93,6 +93,7 @@ void frmDesktop::verdrahten() {
     öffnet(nullptr, ui.mnuRoute, frm::Sort, nullptr);
     öffnet(nullptr, ui.mnuUpdate, frm::Refresh, nullptr);
     öffnet(nullptr, ui.mnuPDF, frm::PrinterPDF, nullptr);
+    öffnet(nullptr, ui.mnuÜber, frm::Über, nullptr);
     öffnet(nullptr, ui.mnuSSParameter, frm::Interface, nullptr);
     öffnet(nullptr, ui.mnuEinlaufen, frm::Einlaufen, nullptr);
     öffnet(nullptr, ui.mnuKalibrierung, frm::Kalibrierung, &frmDesktop::mnuKalibrierung_Click);
@@ -109,6 +110,14 @@ void frmDesktop::verdrahten() {
     on(ui.mnuDeutsch, &QAction::triggered, [this] { spracheSetzen(1); });
     on(ui.mnuEnglisch, &QAction::triggered, [this] { spracheSetzen(2); });
     on(ui.mnuHelp, &QAction::triggered, [this] { mnuHelp_Click(); });
+    ui.layout_20->insertWidget(1, &mErsterTag);
+    mErsterTag.setZiele({{Anfang::Normal, ui.mnuUpdate},
+                         {Anfang::Kunde, ui.mnuKunden},
+                         {Anfang::Gerät, ui.mnuGerät},
+                         {Anfang::Spezifikation, ui.mnuToleranzen},
+                         {Anfang::Rezept, ui.mnuRezepte}});
+    onClick(mErsterTag.öffnen(), [this] { mErsterTag.ziel()->trigger(); });
+    onClick(mErsterTag.ausblenden(), [this] { mErsterTag.fürImmerAusblenden(); });
 }
 
 void frmDesktop::Form_Load() try {
@@ -258,6 +267,7 @@ void frmDesktop::Form_Activate() {
     wegZeigen();
     tastaturFühren();
     unterbrechungLesen();
+    mErsterTag.zeigen(mUnterbrechung.has_value());
     switch (std::exchange(gDesktopFolge, Desktopfolge::Nichts)) {
     case Desktopfolge::Gerät:
         mnuGerät_Click();

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "app/arbeitsweg.h"
+#include "app/erstertag.h"
 #include "app/seriennummer.h"
 #include "link/motorbedienung.h"
 #include "records/unterbrechung.h"
@@ -87,6 +88,7 @@ class frmDesktop : public Screen, public Motorfenster {
     void pbEndprüf_Click();
 
     Ui::frmDesktop ui;
+    ErsterTag mErsterTag;
     Motorbedienung mMotor;
     Seriennummer mSeriennummer;
     int mAntwort = 0; ///< to the question whether the program shall end

@@ -40,6 +40,7 @@ constexpr Beschriftung english[] = {
     {"mnuDeutsch", "&German"},
     {"mnuEnglisch", "&English"},
     {"mnuHelp", "&Help"},
+    {"mnuÜber", "&About torvena ..."},
     {"pbFortsetzen", "&Go On"},
     {"FrAuswahl", "Selection"},
     {"lbPrüfer", "Inspector:"},
@@ -97,6 +98,7 @@ void frmDesktop::beschriften() {
     motorbilderZeigen();
     unterbrechungZeigen();
     hebelarmZeigen();
+    mErsterTag.zeigen(mUnterbrechung.has_value());
     if (spracheGewählt())
         normalZeigen(gNKGerätetyp + " SerienNr. " + gSeriennummer);
 }

@@ -7,6 +7,7 @@
 #include "app/frmMotorDrehR.h"
 #include "app/frmRefresh.h"
 #include "app/frmSplash.h"
+#include "app/frmUeber.h"
 #include "calibration/frmHistory.h"
 #include "calibration/frmKalibrierung.h"
 #include "calibration/frmMomentKal.h"
@@ -105,4 +106,5 @@ void bindScreens() {
     bindScreen<frmEPNeuRezept>("frmEPNeuRezept");
     bindScreen<frmEPÄndRez>("frmEPÄndRez");
     bindScreen<frmEndprüf>("frmEndprüf");
+    bindScreen<frmÜber>("frmÜber");
 }

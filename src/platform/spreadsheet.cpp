@@ -273,4 +273,8 @@ void writeWorkbook(const Workbook &workbook, const QString &path) {
     refuseExport(path);
 }
 
+QString spreadsheetLibraryVersion() {
+    return lxw_version();
+}
+
 } // namespace platform

@@ -90,4 +90,7 @@ struct Workbook {
 /// Raises PermissionDenied when the file cannot be written; what was written of it then is gone.
 void writeWorkbook(const Workbook &workbook, const QString &path);
 
+/// Of the library that writes the workbooks.
+QString spreadsheetLibraryVersion();
+
 } // namespace platform

@@ -12,6 +12,7 @@ enum class frm {
     MotorDrehR,
     Meldung1,
     Refresh,
+    Über,
     // link
     Interface,
     SecondInterface,

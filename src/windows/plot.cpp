@@ -180,4 +180,8 @@ void Plot::showToolTip(const QPointF &at, const QPoint &global) {
         QToolTip::showText(global, text, this);
 }
 
+QString plotLibraryVersion() {
+    return QCUSTOMPLOT_VERSION_STR;
+}
+
 } // namespace platform

@@ -72,4 +72,7 @@ class Plot : public QWidget {
     QCustomPlot *mPlot;
 };
 
+/// Of the library that draws the curves.
+QString plotLibraryVersion();
+
 } // namespace platform

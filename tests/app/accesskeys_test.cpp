@@ -215,6 +215,7 @@ JOURNEY_P(Keyboard, ReachesEverythingOnAllScreens) {
         mnuNachweis ; @Nachweis ; stop == Nachweis | Audit Trail ; pbok ; @Desktop
         pbBlutdruck ; @BlutdruckAbfrage ; obNeu ; stop == Protokoll wählen | Select Protocol ; pbok
         @Blutdruck ; stop ~ Protokoll 22 - |Protocol 22 -  ; pbexit ; @Desktop
+        mnuÜber ; @Über ; stop == Über torvena | About torvena ; pbexit ; @Desktop
         mnuUpdate ; @Refresh ; stop == Datenbank aktualisieren | Update Database ; pbexit ; @Desktop
         pbSecControl ; @BlutdruckAbfrage ; obNeu ; pbok ; @SecControl
         stop ~ Protokoll 22 - |Protocol 22 -  ; pbexit ; @Desktop
