@@ -9,6 +9,7 @@
 #include "figures.h"
 #include "largeplace.h"
 #include "session/session.h"
+#include "windows/help.h"
 
 namespace {
 
@@ -18,6 +19,7 @@ using bench::Wanted;
 
 constexpr int openings = 30;
 constexpr double openingTarget = 100; // ms
+constexpr double helpTarget = 200;    // ms
 constexpr double keyTarget = 50;      // ms
 
 void tell(benchmark::State &state, const std::string &name, const std::vector<double> &took,
@@ -77,6 +79,32 @@ OPENING(frmGeraet, "Opening frmGerät, 60 000 units", "pbGerät", frm::Gerät);
 OPENING(frmGeraetFleet, "Opening frmGerät, 60 000 units of one customer", "pbGerät", frm::Gerät,
         true);
 OPENING(frmRezepte, "Opening frmRezepte, 2 000 recipes", "pbRezept", frm::Rezepte);
+
+/// F1 on the desktop until the page is painted, each time in a new window.
+void help(benchmark::State &state) {
+    LargePlace place;
+    std::vector<double> took;
+    const auto journey = [&]() -> Journey {
+        co_await LargePlace::arrive(frm::Desktop);
+        for (auto _ : state) {
+            QElapsedTimer timer;
+            timer.start();
+            QTest::keyClick(loaded(frm::Desktop), Qt::Key_F1);
+            co_await LargePlace::settled();
+            took.push_back(bench::since(timer));
+            state.SetIterationTime(took.back() / 1000);
+            platform::closeHelp();
+            co_await pass(1000);
+        }
+    };
+    place.travel(state, journey());
+    tell(state, "Opening the help", took, helpTarget);
+}
+BENCHMARK(help)
+    ->Name("Opening/help")
+    ->UseManualTime()
+    ->Iterations(openings)
+    ->Unit(benchmark::kMillisecond);
 
 /// Types each word into the search box, and takes it back, key by key.
 void filtering(benchmark::State &state, const char *name, const char *button, frm opened,

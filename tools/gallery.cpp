@@ -25,6 +25,7 @@
 #include "session/session.h"
 #include "session/sprache.h"
 #include "store/scripts.h"
+#include "windows/help.h"
 #include "windows/preview.h"
 #include "windows/stil.h"
 #include "windows/waiting.h"
@@ -68,6 +69,12 @@ class Gallery : public Workplace {
             directory(gone);
         run(firstDay());
     }
+    void showCutOff() {
+        change("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, KundenID, GerätID) "
+               "VALUES (50, 'Abnahme', 1, 1)");
+        change("INSERT INTO Sitzung VALUES (50, 60)");
+        run(cutOff());
+    }
     void showRefusals() {
         change("UPDATE System SET Endprüfung = -1");
         change("UPDATE Hebelarmkalibrierung SET Prüfdatum = '2020-01-15 16:30:00'");
@@ -103,12 +110,37 @@ class Gallery : public Workplace {
                  .arg(gone.isEmpty() ? "" : "-fort", mLanguage == 1 ? "de" : "en"));
     }
 
+    Journey cutOff() {
+        co_await logIn();
+        picture("desktop-unterbrochen");
+    }
+
     Journey firstDay() {
         co_await logIn();
         picture("desktop-erstertag");
         support::choose(frm::Desktop, "mnuÜber");
         co_await arrive(frm::Über);
         picture("über");
+    }
+
+    /// The help over the desktop: a page, and what a search finds.
+    void help() {
+        const QString language = mLanguage == 1 ? "de" : "en";
+        platform::showHelp("frmMessen");
+        QWidget *window = nullptr;
+        for (QWidget *one : QApplication::topLevelWidgets()) {
+            if (one->isVisible() && one->findChild<QWidget *>("txtSearch"))
+                window = one;
+        }
+        save(*window, mTarget, "hilfe-" + language);
+        auto *search = window->findChild<QLineEdit *>("txtSearch");
+        sendKeys(*search, mLanguage == 1 ? "Unsicherheit" : "uncertainty");
+        QTest::keyClick(search, Qt::Key_Return);
+        save(*window, mTarget, "hilfe-suche-" + language);
+        platform::showHelp("frmKunden");
+        search->clear();
+        save(*window, mTarget, "hilfe-kunden-" + language);
+        platform::closeHelp();
     }
 
     void messageBoxes() {
@@ -443,6 +475,7 @@ class Gallery : public Workplace {
         press(frm::Messen, "pbAbbrechen");
         co_await arrive(frm::Meldung);
         picture("meldung-ende");
+        help();
         messageBoxes();
     }
 
@@ -622,6 +655,8 @@ int main(int argc, char *argv[]) {
             Gallery(target, language).showRefusals();
         for (const auto language : {std::int16_t{1}, std::int16_t{2}})
             Gallery(target, language).showFirstDay();
+        for (const auto language : {std::int16_t{1}, std::int16_t{2}})
+            Gallery(target, language).showCutOff();
     }
     std::printf("%s: %d faults\n", qPrintable(all.path()), faultCount);
     return faultCount == 0 ? 0 : 1;

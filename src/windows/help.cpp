@@ -115,6 +115,7 @@ class Help : public QWidget {
         mList->setObjectName("lbContents");
         mSearch->setObjectName("txtSearch");
         mPage->setObjectName("txtPage");
+        mList->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         mSearch->setClearButtonEnabled(true);
         mPage->setFrameShape(QFrame::NoFrame);
         mPage->document()->setDocumentMargin(16);
@@ -136,13 +137,13 @@ class Help : public QWidget {
         halves->addWidget(left);
         halves->addWidget(mPage);
         halves->setStretchFactor(1, 1);
-        halves->setSizes({230, 700});
+        halves->setSizes({260, 700});
         auto *column = new QVBoxLayout(this);
         column->setContentsMargins(8, 8, 8, 8);
         column->setSpacing(8);
         column->addLayout(buttons);
         column->addWidget(halves, 1);
-        resize(980, 660);
+        resize(1000, 660);
         wire();
     }
 
@@ -165,6 +166,7 @@ class Help : public QWidget {
     }
 
     void turnTo(const QString &page) { mPage->setSource(QUrl(page + ".md")); }
+    void read() { mPage->setFocus(); }
 
   private:
     void wire() {
@@ -345,6 +347,7 @@ void showHelp(const QString &screen) {
     window->take(from);
     window->turnTo(helpPageOf(from.pages, screen));
     window->show();
+    window->read();
     window->raise();
     window->activateWindow();
 }

@@ -65,8 +65,9 @@ JOURNEY_P(Program, TellsWhatNobodyCaught) {
     EXPECT_EQ(helpPage(),
               english() ? "Main window and registration" : "Hauptfenster und Anmeldung");
     closeHelp();
-    co_await go("@Desktop ; mnuKunden ; @Kunden ; key F1 ; pbexit ; @Desktop");
-    EXPECT_EQ(helpPage(), english() ? "Customers" : "Kunden");
+    co_await go("@Desktop ; mnuSSParameter ; @Interface ; key F1 ; pbexit ; @Desktop");
+    EXPECT_EQ(helpPage(), english() ? "Interfaces and running-in parameters"
+                                    : "Schnittstellen und Einlaufparameter");
     setHelpSource({});
     co_await go("? noHelp ; mnuHelp");
     EXPECT_EQ(captions(YesNoCancel) + ' ' + captions(AbortRetryIgnore) + ' ' + captions(OKOnly),
