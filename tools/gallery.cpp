@@ -72,7 +72,7 @@ class Gallery : public Workplace {
     void showCutOff() {
         change("INSERT INTO Protokoll_temp (ProtokollID, Protokollname, KundenID, GerätID) "
                "VALUES (50, 'Abnahme', 1, 1)");
-        change("INSERT INTO Sitzung VALUES (50, 60)");
+        change("INSERT INTO Sitzung SELECT 50, MIN(RezeptID) FROM Rezeptnamen");
         run(cutOff());
     }
     void showRefusals() {
