@@ -23,12 +23,14 @@ need_packages() {
         fail "these packages could not be installed: ${missing[*]}"
 }
 
-# Configures and builds a preset.
+# Configures and builds a preset, of it only the targets of this name when there are some; further
+# arguments are those of the configuring.
+targets=()
 build() {
     local log
     log=$(mktemp)
     say "building ($1)"
-    cmake --preset "$1" >"$log" 2>&1 || { cat "$log" >&2; fail "configuring failed"; }
-    cmake --build --preset "$1" >"$log" 2>&1 || { grep -E 'error|Error|FAILED' "$log" | head -40 >&2 || true; fail "the build failed (cmake --build --preset $1 shows it whole)"; }
+    cmake --preset "$@" >"$log" 2>&1 || { cat "$log" >&2; fail "configuring failed"; }
+    cmake --build --preset "$1" ${targets:+--target "${targets[@]}"} >"$log" 2>&1 || { grep -E 'error|Error|FAILED' "$log" | head -40 >&2 || true; fail "the build failed (cmake --build --preset $1 shows it whole)"; }
     rm -f "$log"
 }
