@@ -10,7 +10,8 @@ install(CODE "
 install(FILES "${CMAKE_SOURCE_DIR}/packaging/torvena.desktop" DESTINATION share/applications)
 install(FILES "${CMAKE_SOURCE_DIR}/packaging/org.example.torvena.metainfo.xml" DESTINATION share/metainfo)
 install(FILES "${CMAKE_SOURCE_DIR}/packaging/icons/torvena.svg" DESTINATION share/icons/hicolor/scalable/apps)
-install(FILES "${CMAKE_SOURCE_DIR}/packaging/copyright" DESTINATION share/doc/torvena)
+install(FILES "${CMAKE_SOURCE_DIR}/packaging/copyright" "${CMAKE_SOURCE_DIR}/docs/stand.md"
+        DESTINATION share/doc/torvena)
 install(FILES "${CMAKE_SOURCE_DIR}/packaging/doc-base.handbuch" DESTINATION share/doc-base
         RENAME torvena.torvena-handbuch)
 install(FILES "${CMAKE_SOURCE_DIR}/packaging/doc-base.manual" DESTINATION share/doc-base

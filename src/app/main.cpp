@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QIcon>
 #include <QTimer>
 
 #include "app/arbeitsplatz.h"
@@ -16,6 +17,8 @@ int main(int argc, char *argv[]) {
     QApplication application(argc, argv);
     const Aufruf aufruf = aufrufLesen();
     QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(QIcon(":/torvena.svg"));
+    QApplication::setDesktopFileName("torvena");
     platform::stilAnwenden(application);
     if (!platform::onEnding(beendenOhneFrage)) // which stops the motor
         return 1;
