@@ -92,7 +92,7 @@ class Page:
                     finding(self.where, f"no drawing help/{there}")
             elif suffix != "png":
                 finding(self.where, f"neither a picture nor a drawing: {name}")
-            elif not pictures and not re.search(f'"{stem}["%]', GALLERY):
+            elif not pictures and not re.search(f'"{stem}(["%]|-")', GALLERY):
                 finding(self.where, f"tools/gallery knows no picture {stem}")
             elif pictures and not any((d / there).exists() for d in (pictures, pictures / "light")):
                 finding(self.where, f"tools/gallery makes no picture {there}")
