@@ -91,7 +91,7 @@ class Manual:
         path = folder / f"{stem}-{self.language}.{kind}"
         if not path.exists():
             wrong(f"the picture {path} is missing")
-        return path.as_uri()
+        return path.resolve().as_uri()
 
     def page(self, name):
         path = self.pages / f"{name}.md"
