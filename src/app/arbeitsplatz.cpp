@@ -70,7 +70,7 @@ bool sperren(const QString &verzeichnis) {
         return true;
     spracheDerDatenbankLesen(verzeichnis);
     const QString wo = QDir::toNativeSeparators(QDir(verzeichnis).absolutePath());
-    const QString wer = sperre.holder();
+    const QString wer = sperre.holder().isEmpty() ? "?" : sperre.holder();
     meldung({"In diesem Verzeichnis wird schon gearbeitet:\r" + wo +
                  "\rBitte gehen Sie zum Fenster des Programms, das dort läuft, oder beenden Sie es "
                  "zuerst (Prozess " +

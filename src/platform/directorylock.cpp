@@ -55,6 +55,8 @@ bool DirectoryLock::take(const QString &directory) {
             continue;
         }
         mFile = file;
+        // For any user who may work here: one who cannot open it would not see that it is held.
+        [[maybe_unused]] const bool opened = ::fchmod(file, 0666) == 0;
         const QByteArray words =
             QString("%1 (%2)").arg(::getpid()).arg(QSysInfo::machineHostName()).toUtf8();
         [[maybe_unused]] const bool told =

@@ -49,6 +49,12 @@ QString userName() {
     return entry ? QString::fromLocal8Bit(entry->pw_name) : QString::number(::geteuid());
 }
 
+/// Through links; a file or a directory under the name of a port is none.
+bool isDevice(const QString &entry) {
+    struct stat device {};
+    return ::stat(QFile::encodeName(entry).constData(), &device) == 0 && S_ISCHR(device.st_mode);
+}
+
 /// Entered in the group by now, which holds from the next login on.
 bool isMember(const group &owners, const QString &user) {
     for (char **member = owners.gr_mem; member && *member; ++member) {
@@ -73,7 +79,7 @@ Text portsInWords() {
     QStringList lines, linked;
     for (int number = 1; number <= highestPort; ++number) {
         const QFileInfo entry(QString("COM%1").arg(number));
-        if (!entry.exists() || entry.isDir())
+        if (!isDevice(entry.filePath()))
             continue;
         const QString target = entry.canonicalFilePath();
         linked += target;

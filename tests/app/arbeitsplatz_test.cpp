@@ -8,6 +8,7 @@
 #include <QTimer>
 
 #include <csignal>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -61,6 +62,7 @@ JOURNEY_P(Directories, TakeNoSecondProgram) {
     EXPECT_EQ(pipe(ready), 0);
     const pid_t other = fork();
     if (other == 0) {
+        umask(077);
         platform::DirectoryLock lock;
         [[maybe_unused]] const auto told = lock.take(".") ? write(ready[1], "", 1) : 0;
         for (;;)
@@ -71,6 +73,8 @@ JOURNEY_P(Directories, TakeNoSecondProgram) {
     expectKnown("running"); // in the language of the directory
     EXPECT_EQ(entered(Ort::Hier), "1");
     EXPECT_TRUE(boxes.seen().back().text.contains(QString::number(other)));
+    EXPECT_TRUE(QFile::permissions(".torvena.lock") & QFile::ReadOther)
+        << "or another user walks in";
     kill(other, SIGKILL);
     waitpid(other, nullptr, 0);
     EXPECT_TRUE(QFile::exists(".torvena.lock")) << "left by the kill";

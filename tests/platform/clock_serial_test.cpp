@@ -214,7 +214,8 @@ TEST_F(Port, CarriesEveryByteBothWays) {
 
 // The process gives up its rights meanwhile, where it has them.
 TEST_F(Port, TellsWhichThereAreAndHowToGetIn) {
-    ASSERT_TRUE(QFile::link("/dev/null", "COM3") && QFile::link("gone", "COM7"));
+    ASSERT_TRUE(QFile::link("/dev/null", "COM3") && QFile::link("gone", "COM7") &&
+                QFile("COM5").open(QIODevice::WriteOnly)); // a file is no device
     setPortLister([] {
         return std::vector<KnownPort>{{"/dev/null", "UART"}, {"/dev/ttyUSB7", "Adapter, Maker"}};
     });
