@@ -33,10 +33,12 @@ void frmDesktop::unterbrechungZeigen() {
     if (!mUnterbrechung || !spracheGewählt())
         return;
     const Unterbrechung &was = *mUnterbrechung;
-    QStringList sätze{inSprache({"Die Messung von Protokoll %1 - %2 wurde unterbrochen.",
-                                 "The measurement of protocol %1 - %2 was cut off."})
-                          .arg(QString::number(was.protokollID), was.name.trimmed()),
-                      stand(was)};
+    const QString name = was.name.trimmed(); // many have none
+    QStringList sätze{
+        inSprache({"Die Messung von Protokoll %1 wurde unterbrochen.",
+                   "The measurement of protocol %1 was cut off."})
+            .arg(QString::number(was.protokollID) + (name.isEmpty() ? QString() : " - " + name)),
+        stand(was)};
     if (!was.fortsetzbar)
         sätze +=
             inSprache({"Fortsetzen lässt sich nur das letzte Protokoll, und nur an seinem Tag.",

@@ -3,6 +3,7 @@
 #include "records/berichtsdateien.h"
 #include "records/blatt.h"
 #include "records/spalte.h"
+#include "records/unterbrechung.h"
 
 #include <algorithm>
 #include <limits>
@@ -50,6 +51,7 @@ void kopfSchreiben(Schlüssel nummer, const QString &name, const Messeinstellung
     }
     if (!archiviert)
         seitenAblegen(nummer);
+    sitzungVergessen(nummer); // it was of the protocol that had the number before
 }
 
 } // namespace

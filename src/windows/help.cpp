@@ -25,7 +25,7 @@ namespace platform {
 namespace {
 
 constexpr auto indexPage = "index";
-constexpr int widest = 680; // px, of a picture
+constexpr int widest = 660; // px, of a picture: the window shows it whole
 
 std::function<HelpSource()> source;
 
@@ -161,6 +161,8 @@ class Help : public QWidget {
         mPage->from = from;
         mPlain.clear();
         mPage->clearHistory();
+        if (!mShown.isEmpty())
+            mPage->reload(); // a page of the same name is another one now
         mSearch->clear();
         list();
     }
@@ -193,7 +195,8 @@ class Help : public QWidget {
                 turnTo(page);
         });
         new QShortcut(QKeySequence(Qt::Key_Escape), this, [this] { close(); });
-        new QShortcut(QKeySequence(Qt::Key_F1), this, [this] { mContents->click(); });
+        auto *f1 = new QShortcut(QKeySequence(Qt::Key_F1), this, [this] { mContents->click(); });
+        f1->setAutoRepeat(false); // held down, it is still the one that opened the page
         new QShortcut(QKeySequence::Find, this, [this] {
             mSearch->setFocus();
             mSearch->selectAll();
@@ -346,6 +349,7 @@ void showHelp(const QString &screen) {
         window = new Help;
     window->take(from);
     window->turnTo(helpPageOf(from.pages, screen));
+    window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
     window->show();
     window->read();
     window->raise();

@@ -251,7 +251,9 @@ void Screen::enterChain(std::initializer_list<QWidget *> fields, Qt::FocusReason
 }
 
 void Screen::onEscape(Handler handler) {
-    on(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, std::move(handler));
+    auto *escape = new QShortcut(Qt::Key_Escape, this);
+    escape->setAutoRepeat(false); // held down, it leaves one window and not those behind it
+    on(escape, &QShortcut::activated, std::move(handler));
 }
 
 void Screen::onGotFocus(QWidget *control, Handler handler) {

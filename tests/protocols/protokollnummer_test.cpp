@@ -92,7 +92,9 @@ TEST_F(ProtokollNummer, HeadsTakeTheSettingsOfTheSession) {
     const QString alles = "SELECT ProtokollID, Protokollname, Prüfername, GerätID, KundenID, "
                           "Drehrichtung, PrüfungsArt, NK_ID, Messverfahren FROM Protokoll_temp "
                           "WHERE ProtokollID = 8";
+    gDatenbank.execute("INSERT INTO Sitzung VALUES (8, 1)"); // of one that is gone
     kopfAnlegen(8, "Müller's");
+    EXPECT_EQ(grid("SELECT * FROM Sitzung"), "");
     // The newest calibration of all standards, not of the connected one.
     EXPECT_EQ(grid(alles), "8|Müller's|O'Neill|4|3|2|5|7|Verfahren");
     EXPECT_EQ(raised([] { kopfAnlegen(8, "noch einmal"); }), platform::fehlernummer::DuplicateKey);

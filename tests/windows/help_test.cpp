@@ -93,6 +93,9 @@ TEST_F(Help, TurnsToThePageOfAScreenAndBack) {
     showHelp("frmKunden");
     EXPECT_EQ(heading(), "Customers");
     EXPECT_EQ(window()->windowTitle(), "Hilfe en");
+    language = "de";
+    showHelp("frmKunden");
+    EXPECT_EQ(heading(), "Kunden");
     ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
     QTest::keyClick(window(), Qt::Key_Escape);
     EXPECT_EQ(window(), nullptr);
