@@ -25,7 +25,7 @@ namespace platform {
 namespace {
 
 constexpr auto indexPage = "index";
-constexpr int widest = 660; // px, of a picture: the window shows it whole
+constexpr int widest = 640; // px, of a picture: the window shows it whole
 
 std::function<HelpSource()> source;
 
