@@ -89,7 +89,6 @@ class Browser : public QTextBrowser {
         }
     }
 
-  protected:
     QVariant loadResource(int type, const QUrl &name) override {
         const QString file = name.fileName();
         if (type != QTextDocument::ImageResource)

@@ -87,7 +87,8 @@ JOURNEY_P(Damage, OfAPageLocksMeasuringUntilTheCopyIsInPlace) {
     setFileWatcher({});
     co_await go("? damaged? yes ; ? restored(" + day + ", " + kept + R"(_1.mdb) ; again
         laInfo == ; choose AEH-001, Kurzprüfung ; can pbMessen mnuKalibrierung pbEndprüf
-        sql SELECT Firmenname FROM System == before ; copies == 1 2)");
+        sql SELECT Firmenname FROM System == before ; copies == 1 2
+        sql SELECT Neu LIKE '%eingesetzt%' FROM Nachweis WHERE Vorgang = 'Vermerk' ORDER BY Nr DESC LIMIT 1 == 1)");
     EXPECT_FALSE(Datenbank::damageIn(kept + "_1.mdb").isEmpty());
     co_await go("end ; again ; can mnuKalibrierung");
 }

@@ -33,6 +33,9 @@ class Help : public testing::Test {
         setHelpSource([this] {
             HelpSource from;
             from.pages = place.filePath(language);
+            from.drawings = place.path();
+            from.pictures = from.pages;
+            from.language = language;
             from.texts.title = "Hilfe " + language;
             from.texts.nothing = "Nichts";
             return from;
@@ -83,6 +86,9 @@ TEST_F(Help, TurnsToThePageOfAScreenAndBack) {
     EXPECT_EQ(heading(), "Messen");
     control<QPushButton>("pbBack")->click();
     EXPECT_EQ(heading(), "Kunden");
+    control<QPushButton>("pbForward")->click();
+    EXPECT_EQ(heading(), "Messen");
+    control<QPushButton>("pbBack")->click();
     control<QPushButton>("pbContents")->click();
     EXPECT_EQ(heading(), "Inhalt");
     control<QListWidget>("lbContents")->setCurrentRow(2);
@@ -101,6 +107,27 @@ TEST_F(Help, TurnsToThePageOfAScreenAndBack) {
     EXPECT_EQ(window(), nullptr);
 }
 
+TEST_F(Help, ShowsPicturesAndDrawingsNoWiderThanItsPage) {
+    QImage wide(1300, 650, QImage::Format_RGB32);
+    wide.fill(Qt::red);
+    ASSERT_TRUE(wide.save(place.filePath("de/breit.png")));
+    QFile drawing(place.filePath("fall-de.svg"));
+    ASSERT_TRUE(drawing.open(QIODevice::WriteOnly));
+    drawing.write(R"(<svg xmlns="http://www.w3.org/2000/svg" width="40" height="20">
+                     <rect width="40" height="20" fill="#0000ff"/></svg>)");
+    drawing.close();
+    showHelp("frmKunden");
+    const auto picture = [](const char *name) {
+        return control<QTextBrowser>("txtPage")
+            ->loadResource(QTextDocument::ImageResource, QUrl(name))
+            .value<QImage>();
+    };
+    EXPECT_EQ(picture("breit.png").size(), QSize(640, 320));
+    EXPECT_EQ(picture("breit.png").pixelColor(600, 300), QColor(Qt::red));
+    EXPECT_EQ(picture("fall.svg").pixelColor(39, 19), QColor(Qt::blue));
+    EXPECT_EQ(picture("fehlt.png").size(), QSize(1, 1));
+}
+
 TEST_F(Help, FindsPagesByTheirWords) {
     showHelp("frmSplash");
     auto *search = control<QLineEdit>("txtSearch");
@@ -109,7 +136,8 @@ TEST_F(Help, FindsPagesByTheirWords) {
     QTest::keyClick(search, Qt::Key_Return);
     EXPECT_EQ(heading(), "Kunden");
     auto *page = control<QTextBrowser>("txtPage");
-    EXPECT_EQ(page->extraSelections().size(), 2);
+    ASSERT_EQ(page->extraSelections().size(), 2);
+    EXPECT_EQ(page->extraSelections()[0].cursor.selectedText(), "Messen");
     EXPECT_EQ(page->textCursor().selectedText(), "Messen");
     search->setText("Kreuzgelenk");
     EXPECT_EQ(list(), "Nichts");
