@@ -100,6 +100,7 @@ void frmNachweis::suchen() {
     mFilter.person = ui.txtPerson->text().trimmed();
     mZeilen.setRecordset({}); // what cannot be read is not what the filters say
     mMehr = false;
+    standZeigen();
     lesen();
 }
 

@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QStringList>
 
 #include <algorithm>
 
@@ -135,15 +136,6 @@ Nachweisliste nachweis(const Nachweisfilter &filter) {
     liste.zeilen = Recordset(
         {"Nr", "Zeit", "Person", "Tabelle", "Vorgang", "Schlüssel", "Änderung"}, std::move(zeilen));
     return liste;
-}
-
-QStringList nachweisPersonen() {
-    QStringList personen;
-    for (Recordset alle = gDatenbank.open("SELECT DISTINCT Person FROM Nachweis WHERE Person <> '' "
-                                          "ORDER BY Person");
-         !alle.atEnd(); alle.moveNext())
-        personen += alle[0].text();
-    return personen;
 }
 
 QString nachweisStand() {

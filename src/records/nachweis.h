@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QDate>
-#include <QStringList>
+#include <QString>
 
 #include "session/session.h"
 #include "store/recordset.h"
@@ -33,9 +33,6 @@ struct Nachweisliste {
 
 /// Raises MissingTable in a database without a trail.
 Nachweisliste nachweis(const Nachweisfilter &filter);
-
-/// Who has changed something, by name.
-QStringList nachweisPersonen();
 
 /// Number and beginning of the newest link, "1234 / 0123456789abcdef": what ties a sheet of paper
 /// to the trail. Empty in a database without one.
